@@ -1,0 +1,20 @@
+// Text rules. Texts are UTF-8; letters outside ASCII are left as they are.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace base {
+
+// A to Z become a to z.
+std::string ToLower(std::string_view text);
+
+// `text` without any occurrence of `marker`.
+std::string RemoveAll(std::string_view text, char marker);
+
+bool EndsWith(std::string_view text, std::string_view ending);
+
+// `text` followed by CR LF, the line end of every file this program writes.
+std::string Line(std::string_view text);
+
+}  // namespace base

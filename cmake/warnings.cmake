@@ -1,0 +1,26 @@
+# How every target of the project is compiled.
+add_library(build_settings INTERFACE)
+
+if(MSVC)
+  target_compile_options(build_settings INTERFACE /W4 /WX /utf-8 /permissive-)
+  target_compile_definitions(build_settings INTERFACE NOMINMAX)
+else()
+  target_compile_options(build_settings INTERFACE
+    -Wall -Wextra -Wconversion -Wshadow -Werror)
+endif()
+
+if(WIN32 AND NOT MSVC)
+  # Small, self-contained executables that need nothing beyond what Windows 2000 has.
+  target_compile_options(build_settings INTERFACE -Os -ffunction-sections -fdata-sections)
+  target_link_options(build_settings INTERFACE -static -Wl,--gc-sections)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # The x87 unit rounds differently; with SSE2 both builds compute the same samples.
+    target_compile_options(build_settings INTERFACE -msse2 -mfpmath=sse)
+  endif()
+endif()
+
+if(TONMIRA_SANITIZE)
+  target_compile_options(build_settings INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(build_settings INTERFACE -fsanitize=address,undefined)
+endif()
