@@ -1,0 +1,14 @@
+// Access keys: the underlined letter that, with Alt, reaches a control or a menu.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace ui {
+
+// Gives every caption of a window a letter of its own where there is one, and marks it the way the
+// system does: "&" before the letter, "&&" for an ampersand of the text. Earlier captions choose
+// first: the first letter of a word if it is free, else any free letter of the caption.
+std::vector<std::string> WithAccessKeys(const std::vector<std::string>& captions);
+
+}  // namespace ui

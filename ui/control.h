@@ -1,0 +1,80 @@
+// A control of a window: its properties and where it stands.
+//
+// Properties set from code never come back as a user's event. Positions are pixels at 96 DPI,
+// relative to the window's client area; the native view scales them.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ui/window_system.h"
+
+namespace ui {
+
+struct Rect {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
+enum class ControlKind {
+  kLabel,
+  kFrame,
+  kButton,
+  kOptionButton,
+  kScrollBar,
+  kPictureBox,
+  kLine,
+  kListBox,
+  kStatusBar,
+};
+
+class Control {
+ public:
+  // Controls of a window stand in its tab order in the order in which they are made.
+  Control(Window& window, ControlKind kind, std::string name, Rect bounds, std::string caption);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  ControlKind kind() const { return kind_; }
+  const std::string& Name() const { return name_; }
+  const Rect& Bounds() const { return bounds_; }
+  Window& Owner() const { return window_; }
+
+  // Begins a new group: the arrow keys move within a group, the tab key between groups.
+  bool StartsGroup() const { return starts_group_; }
+  void StartGroup() { starts_group_ = true; }
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(const std::string& caption);
+
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+
+  bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+
+  // Back to the properties it was designed with. The view is not told.
+  virtual void Reset();
+
+ protected:
+  void Tell(Property property);
+
+  // Runs a user's event of this control; nothing happens while it is disabled or hidden.
+  void Raise(const std::function<void()>& handler);
+
+ private:
+  Window& window_;
+  ControlKind kind_;
+  std::string name_;
+  Rect bounds_;
+  std::string design_caption_;
+  std::string caption_;
+  bool starts_group_ = false;
+  bool enabled_ = true;
+  bool visible_ = true;
+};
+
+}  // namespace ui

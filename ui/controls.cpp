@@ -1,0 +1,62 @@
+#include "ui/controls.h"
+
+#include <algorithm>
+
+namespace ui {
+
+void OptionButton::SetValue(bool value) {
+  if (value_ == value) return;
+  value_ = value;
+  Tell(Property::kValue);
+}
+
+void OptionButton::Reset() {
+  Control::Reset();
+  value_ = false;
+}
+
+void OptionButton::Click() {
+  Raise([this] {
+    SetValue(true);
+    if (OnClick) OnClick();
+  });
+}
+
+void ScrollBar::SetValue(std::int32_t value) {
+  value = Clamp(value);
+  if (value_ == value) return;
+  value_ = value;
+  Tell(Property::kValue);
+}
+
+void ScrollBar::Reset() {
+  Control::Reset();
+  value_ = range_.initial;
+}
+
+void ScrollBar::ScrollTo(std::int32_t value) {
+  if (!Enabled() || !Visible() || Clamp(value) == value_) return;
+  SetValue(value);
+  Raise(OnChange);
+}
+
+std::int32_t ScrollBar::Clamp(std::int32_t value) const {
+  return std::clamp(value, range_.minimum, range_.maximum);
+}
+
+void PictureBox::SetPicture(const Canvas& canvas) {
+  canvas_ = canvas;
+  Tell(Property::kPicture);
+}
+
+void ListBox::SetItems(const std::vector<std::string>& items) {
+  items_ = items;
+  Tell(Property::kItems);
+}
+
+void ListBox::Reset() {
+  Control::Reset();
+  items_.clear();
+}
+
+}  // namespace ui

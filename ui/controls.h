@@ -1,0 +1,140 @@
+// The kinds of controls.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ui/canvas.h"
+#include "ui/control.h"
+
+namespace ui {
+
+class Label : public Control {
+ public:
+  enum class Style { kNormal, kHeading };
+
+  Label(Window& window, std::string name, Rect bounds, std::string caption,
+        Style style = Style::kNormal)
+      : Control(window, ControlKind::kLabel, std::move(name), bounds, std::move(caption)),
+        style_(style) {}
+
+  Style style() const { return style_; }
+
+ private:
+  Style style_;
+};
+
+class Frame : public Control {
+ public:
+  Frame(Window& window, std::string name, Rect bounds, std::string caption)
+      : Control(window, ControlKind::kFrame, std::move(name), bounds, std::move(caption)) {}
+};
+
+class Button : public Control {
+ public:
+  Button(Window& window, std::string name, Rect bounds, std::string caption)
+      : Control(window, ControlKind::kButton, std::move(name), bounds, std::move(caption)) {}
+
+  std::function<void()> OnClick;
+
+  // What a user's click does.
+  void Click() { Raise(OnClick); }
+};
+
+class OptionButton : public Control {
+ public:
+  OptionButton(Window& window, std::string name, Rect bounds, std::string caption)
+      : Control(window, ControlKind::kOptionButton, std::move(name), bounds, std::move(caption)) {}
+
+  bool Value() const { return value_; }
+  void SetValue(bool value);
+  void Reset() override;
+
+  std::function<void()> OnClick;
+
+  // What a user's click does: the button is selected, then its handler runs.
+  void Click();
+
+ private:
+  bool value_ = false;
+};
+
+class ScrollBar : public Control {
+ public:
+  struct Range {
+    std::int32_t minimum = 0;
+    std::int32_t maximum = 0;
+    std::int32_t small_step = 1;
+    std::int32_t large_step = 1;
+    std::int32_t initial = 0;
+  };
+
+  ScrollBar(Window& window, std::string name, Rect bounds, Range range)
+      : Control(window, ControlKind::kScrollBar, std::move(name), bounds, ""),
+        range_(range),
+        value_(range.initial) {}
+
+  const Range& range() const { return range_; }
+  std::int32_t Value() const { return value_; }
+  void SetValue(std::int32_t value);
+  void Reset() override;
+
+  std::function<void()> OnChange;
+
+  // What a user's move of the thumb does. Values outside the range are drawn to its ends; a move
+  // that changes nothing is no event.
+  void ScrollTo(std::int32_t value);
+
+ private:
+  std::int32_t Clamp(std::int32_t value) const;
+
+  Range range_;
+  std::int32_t value_;
+};
+
+class PictureBox : public Control {
+ public:
+  enum class Content { kCanvas, kProgramIcon };
+
+  PictureBox(Window& window, std::string name, Rect bounds, Content content = Content::kCanvas)
+      : Control(window, ControlKind::kPictureBox, std::move(name), bounds, ""),
+        content_(content),
+        canvas_(bounds.width, bounds.height) {}
+
+  Content content() const { return content_; }
+  const Canvas& Picture() const { return canvas_; }
+  void SetPicture(const Canvas& canvas);
+
+ private:
+  Content content_;
+  Canvas canvas_;
+};
+
+class LineControl : public Control {
+ public:
+  LineControl(Window& window, std::string name, Rect bounds)
+      : Control(window, ControlKind::kLine, std::move(name), bounds, "") {}
+};
+
+class ListBox : public Control {
+ public:
+  ListBox(Window& window, std::string name, Rect bounds)
+      : Control(window, ControlKind::kListBox, std::move(name), bounds, "") {}
+
+  const std::vector<std::string>& Items() const { return items_; }
+  void SetItems(const std::vector<std::string>& items);
+  void Reset() override;
+
+ private:
+  std::vector<std::string> items_;
+};
+
+// A status bar; its caption is the text of its first panel.
+class StatusBar : public Control {
+ public:
+  StatusBar(Window& window, std::string name, std::string caption)
+      : Control(window, ControlKind::kStatusBar, std::move(name), Rect{}, std::move(caption)) {}
+};
+
+}  // namespace ui

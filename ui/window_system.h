@@ -1,0 +1,35 @@
+// What a window asks of the system that shows it.
+#pragma once
+
+#include <memory>
+
+namespace ui {
+
+class Control;
+class MenuItem;
+class Window;
+
+// What of a control changed.
+enum class Property { kCaption, kEnabled, kVisible, kValue, kItems, kPicture, kChecked };
+
+// The native counterpart of a loaded window. It reads the portable objects; they tell it what
+// changed. Destroying it takes the window off the screen.
+class WindowView {
+ public:
+  virtual ~WindowView() = default;
+
+  virtual void ShowWindow(bool visible) = 0;
+  virtual void CaptionChanged() = 0;
+  virtual void Changed(const Control& control, Property property) = 0;
+  virtual void Changed(const MenuItem& item, Property property) = 0;
+};
+
+class WindowSystem {
+ public:
+  virtual ~WindowSystem() = default;
+
+  // Makes the native counterpart of `window`, not yet visible.
+  virtual std::unique_ptr<WindowView> Open(Window& window) = 0;
+};
+
+}  // namespace ui
