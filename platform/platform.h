@@ -1,0 +1,28 @@
+// Everything the program asks of its surroundings, in one bundle of references.
+#pragma once
+
+#include "platform/files.h"
+#include "platform/system.h"
+#include "platform/text_files.h"
+#include "ui/window_system.h"
+
+namespace platform {
+
+struct Platform {
+  FileSystem& files;
+  CodePage& code_page;
+  Environment& environment;
+  Clock& clock;
+  Random& random;
+  MessagePump& pump;
+  Processes& processes;
+  WavePlayer& waves;
+  Screen& screen;
+  SystemVersion& version;
+  MessageBoxes& messages;
+  ui::WindowSystem& windows;
+
+  TextFiles Texts() const { return TextFiles(files, code_page); }
+};
+
+}  // namespace platform

@@ -1,0 +1,53 @@
+// The message pump on a virtual clock: what a test schedules happens inside the program's own
+// message loops, and sleeping costs no time.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <stdexcept>
+
+#include "platform/simulated/journal.h"
+#include "platform/system.h"
+
+namespace platform::simulated {
+
+// The program sleeps on and on although nothing is going to happen any more.
+struct Stalled : std::logic_error {
+  using std::logic_error::logic_error;
+};
+
+// Nothing is scheduled any more, and the program waits for its user.
+struct ScriptOver {};
+
+class VirtualPump : public MessagePump {
+ public:
+  // `any_visible` tells whether a window is on the screen.
+  VirtualPump(Journal& journal, std::function<bool()> any_visible)
+      : journal_(journal), any_visible_(std::move(any_visible)) {}
+
+  std::int64_t now_ms() const { return now_ms_; }
+  bool journal_waits = false;  // whether each Sleep is recorded
+
+  // Schedules what a user or another program does. Equal times keep their order.
+  void At(std::int64_t at_ms, std::function<void()> action);
+
+  void ProcessPending(const std::function<bool()>& enough = {}) override;
+  void Sleep(int milliseconds) override;
+
+  // Throws ScriptOver when nothing is scheduled any more while a window is visible.
+  void Run() override;
+
+ private:
+  void AdvanceTo(std::int64_t now_ms);
+
+  static constexpr std::int64_t kLongestWaitMs = 24 * 60 * 60 * 1000;
+
+  Journal& journal_;
+  std::function<bool()> any_visible_;
+  std::int64_t now_ms_ = 0;
+  std::int64_t last_action_ms_ = 0;
+  std::multimap<std::int64_t, std::function<void()>> actions_;
+};
+
+}  // namespace platform::simulated

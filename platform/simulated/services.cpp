@@ -1,0 +1,107 @@
+#include "platform/simulated/services.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "base/errors.h"
+
+namespace platform::simulated {
+namespace {
+
+std::string TwoDigits(int number) {
+  return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+std::string Hexadecimal(std::uint32_t number) {
+  std::string digits;
+  do {
+    digits.insert(digits.begin(), "0123456789abcdef"[number % 16]);
+    number /= 16;
+  } while (number != 0);
+  return "0x" + digits;
+}
+
+}  // namespace
+
+std::string FixedEnvironment::Get(const std::string& name) {
+  const auto variable = variables.find(name);
+  return variable == variables.end() ? "" : variable->second;
+}
+
+std::string FixedEnvironment::FullPath(const std::string& path) {
+  const bool rooted = path.find(':') != std::string::npos || path.starts_with("\\");
+  return rooted ? path : current_folder + "\\" + path;
+}
+
+std::string FixedClock::ShortDate() {
+  return std::to_string(now.day) + "-" + std::to_string(now.month) + "-" +
+         std::to_string(now.year);
+}
+
+std::string FixedClock::ShortTime() {
+  return TwoDigits(now.hour) + ":" + TwoDigits(now.minute);
+}
+
+bool FakeProcesses::Terminate(std::uint32_t id) {
+  const auto process = std::find_if(running.begin(), running.end(),
+                                    [id](const ProcessEntry& entry) { return entry.id == id; });
+  if (process == running.end() || protected_ids.count(id) != 0) return false;
+  journal_.Add(Kind::kProcess, "terminate " + process->name);
+  running.erase(process);
+  return true;
+}
+
+void FakeProcesses::Start(const std::string& command) {
+  Begin(command, "start ");
+}
+
+void FakeProcesses::StartHidden(const std::string& command) {
+  Begin(command, "start hidden ");
+}
+
+void FakeProcesses::EndProcess() {
+  journal_.Add(Kind::kProcess, "end");
+  throw ProcessEnded{};
+}
+
+void FakeProcesses::Begin(const std::string& command, const std::string& how) {
+  if (missing_commands.count(command) != 0) {
+    throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+  }
+  journal_.Add(Kind::kProcess, how + command);
+}
+
+void FakeWavePlayer::Play(const std::string& path, std::uint32_t flags) {
+  playing = path;
+  journal_.Add(Kind::kSound, "play " + path + " " + Hexadecimal(flags));
+}
+
+void FakeWavePlayer::Stop(std::uint32_t flags) {
+  playing.clear();
+  journal_.Add(Kind::kSound, "stop " + Hexadecimal(flags));
+}
+
+VersionRecord FakeVersion::Query() {
+  if (failing_queries > 0) {
+    --failing_queries;
+    throw base::RuntimeError(base::ErrorCode::kInvalidCall);
+  }
+  return record;
+}
+
+std::int16_t ScriptedMessages::Show(const std::string& text, const std::string& title,
+                                    MessageIcon icon, MessageButtons buttons) {
+  journal_.Add(Kind::kMessage,
+               std::string(icon == MessageIcon::kCritical ? "critical" : "exclamation") +
+                   (buttons == MessageButtons::kYesNo ? " yes/no" : "") + " [" + title + "] " +
+                   text);
+  if (answers.empty()) {
+    if (buttons == MessageButtons::kOk) return kAnswerOk;
+    throw std::logic_error("no answer scripted for: " + text);
+  }
+  const std::int16_t answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+}  // namespace platform::simulated

@@ -1,0 +1,111 @@
+// The simulated services around the virtual clock: time, processes, sound, screen, messages.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/simulated/journal.h"
+#include "platform/system.h"
+
+namespace platform::simulated {
+
+class FixedEnvironment : public Environment {
+ public:
+  std::map<std::string, std::string> variables;
+  std::string arguments;
+  std::string program_folder = "C:\\Tonmira";
+  std::string current_folder = "C:\\Users\\Tom";
+
+  std::string Get(const std::string& name) override;
+  std::string Arguments() override { return arguments; }
+  std::string ProgramFolder() override { return program_folder; }
+  std::string FullPath(const std::string& path) override;
+  void SetCurrentFolder(const std::string& path) override { current_folder = path; }
+};
+
+// The date and the time of day stand still; only the pump's milliseconds run.
+class FixedClock : public Clock {
+ public:
+  LocalTime now{2026, 11, 20, 14, 30, 5};
+
+  LocalTime Now() override { return now; }
+  std::string ShortDate() override;
+  std::string ShortTime() override;
+};
+
+class ScriptedRandom : public Random {
+ public:
+  double next = 0.5;
+
+  double Next() override { return next; }
+};
+
+class FakeProcesses : public Processes {
+ public:
+  explicit FakeProcesses(Journal& journal) : journal_(journal) {}
+
+  std::vector<ProcessEntry> running;
+  std::set<std::uint32_t> protected_ids;   // may not be ended
+  std::set<std::string> missing_commands;  // cannot be started
+
+  std::vector<ProcessEntry> Snapshot() override { return running; }
+  bool Terminate(std::uint32_t id) override;
+  void Start(const std::string& command) override;
+  void StartHidden(const std::string& command) override;
+  [[noreturn]] void EndProcess() override;
+
+ private:
+  void Begin(const std::string& command, const std::string& how);
+
+  Journal& journal_;
+};
+
+class FakeWavePlayer : public WavePlayer {
+ public:
+  explicit FakeWavePlayer(Journal& journal) : journal_(journal) {}
+
+  std::string playing;  // path of the sound that sounds now, empty in silence
+
+  void Play(const std::string& path, std::uint32_t flags) override;
+  void Stop(std::uint32_t flags) override;
+
+ private:
+  Journal& journal_;
+};
+
+class FakeScreen : public Screen {
+ public:
+  PixelsPerInch pixels_per_inch{96, 96};
+  Size size{1920, 1080};
+
+  PixelsPerInch LogicalPixelsPerInch() override { return pixels_per_inch; }
+  Size Pixels() override { return size; }
+};
+
+class FakeVersion : public SystemVersion {
+ public:
+  VersionRecord record{1, 2, 6, 1};
+  int failing_queries = 0;  // so many queries from now throw
+
+  VersionRecord Query() override;
+};
+
+// Answers come from a script; OK boxes without one are answered with OK.
+class ScriptedMessages : public MessageBoxes {
+ public:
+  explicit ScriptedMessages(Journal& journal) : journal_(journal) {}
+
+  std::deque<std::int16_t> answers;
+
+  std::int16_t Show(const std::string& text, const std::string& title, MessageIcon icon,
+                    MessageButtons buttons) override;
+
+ private:
+  Journal& journal_;
+};
+
+}  // namespace platform::simulated

@@ -1,0 +1,56 @@
+// The whole simulated surroundings of the program, for tests.
+//
+// A fresh simulation is a machine on which everything is in order: folders for TEMP and APPDATA,
+// 96 DPI, Windows 6.1, no files.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "platform/simulated/files.h"
+#include "platform/simulated/journal.h"
+#include "platform/simulated/pump.h"
+#include "platform/simulated/services.h"
+#include "platform/simulated/windows.h"
+
+namespace platform::simulated {
+
+inline constexpr char kTemp[] = "C:\\Temp";
+inline constexpr char kAppData[] = "C:\\Users\\Tom\\AppData\\Roaming";
+
+class Simulation {
+ public:
+  Simulation();
+
+  Journal journal;
+  Files files{journal};
+  Latin1 code_page;
+  FixedEnvironment environment;
+  FixedClock clock;
+  ScriptedRandom random;
+  Windows windows{journal};
+  VirtualPump pump{journal, [this] { return windows.AnyVisible(); }};
+  FakeProcesses processes{journal};
+  FakeWavePlayer waves{journal};
+  FakeScreen screen;
+  FakeVersion version;
+  ScriptedMessages messages{journal};
+
+  platform::Platform services{files,     code_page, environment, clock,   random,   pump,
+                              processes, waves,     screen,      version, messages, windows};
+
+  // Schedules `action` at a moment of the virtual clock.
+  void At(std::chrono::milliseconds moment, std::function<void()> action);
+
+  // Runs `program` until it returns, ends its process or waits for a user who does nothing more.
+  // True when it ended its process.
+  bool Run(const std::function<void()>& program);
+
+  // The lines of a text file, without their line ends; empty when there is no such file.
+  std::vector<std::string> Lines(const std::string& path) const;
+};
+
+}  // namespace platform::simulated

@@ -1,0 +1,102 @@
+#include "platform/simulated/windows.h"
+
+#include "ui/window.h"
+
+namespace platform::simulated {
+namespace {
+
+std::string YesNo(bool value) {
+  return value ? "yes" : "no";
+}
+
+std::string ValueOf(const ui::Control& control) {
+  if (const auto* option = dynamic_cast<const ui::OptionButton*>(&control)) {
+    return YesNo(option->Value());
+  }
+  if (const auto* scroll_bar = dynamic_cast<const ui::ScrollBar*>(&control)) {
+    return std::to_string(scroll_bar->Value());
+  }
+  return "?";
+}
+
+std::string Describe(const ui::Control& control, ui::Property property) {
+  switch (property) {
+    case ui::Property::kCaption:
+      return " caption: " + control.Caption();
+    case ui::Property::kEnabled:
+      return " enabled: " + YesNo(control.Enabled());
+    case ui::Property::kVisible:
+      return " visible: " + YesNo(control.Visible());
+    case ui::Property::kValue:
+      return " value: " + ValueOf(control);
+    case ui::Property::kItems:
+      return " items";
+    case ui::Property::kPicture:
+      return " picture";
+    case ui::Property::kChecked:
+      return " checked";
+  }
+  return "";
+}
+
+std::string Describe(const ui::MenuItem& item, ui::Property property) {
+  switch (property) {
+    case ui::Property::kCaption:
+      return " caption: " + item.Caption();
+    case ui::Property::kEnabled:
+      return " enabled: " + YesNo(item.Enabled());
+    default:
+      return " checked: " + YesNo(item.Checked());
+  }
+}
+
+}  // namespace
+
+class JournalView : public ui::WindowView {
+ public:
+  JournalView(Windows& windows, ui::Window& window) : windows_(windows), window_(window) {
+    ++windows_.open_views_;
+    Note(" loaded");
+  }
+
+  ~JournalView() override {
+    windows_.visible_.erase(window_.Name());
+    --windows_.open_views_;
+    Note(" unloaded");
+  }
+
+  void ShowWindow(bool visible) override {
+    if (visible) {
+      windows_.visible_.insert(window_.Name());
+    } else {
+      windows_.visible_.erase(window_.Name());
+    }
+    Note(visible ? " shown" : " hidden");
+  }
+
+  void CaptionChanged() override { Note(" caption: " + window_.Caption()); }
+
+  void Changed(const ui::Control& control, ui::Property property) override {
+    windows_.journal_.Add(Kind::kControl, window_.Name() + "." + control.Name() +
+                                              Describe(control, property));
+  }
+
+  void Changed(const ui::MenuItem& item, ui::Property property) override {
+    windows_.journal_.Add(Kind::kControl,
+                          window_.Name() + "." + item.Name() + Describe(item, property));
+  }
+
+ private:
+  void Note(const std::string& what) {
+    windows_.journal_.Add(Kind::kWindow, window_.Name() + what);
+  }
+
+  Windows& windows_;
+  ui::Window& window_;
+};
+
+std::unique_ptr<ui::WindowView> Windows::Open(ui::Window& window) {
+  return std::make_unique<JournalView>(*this, window);
+}
+
+}  // namespace platform::simulated

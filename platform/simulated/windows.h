@@ -1,0 +1,32 @@
+// Windows without a display: every visible change goes to the journal.
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+
+#include "platform/simulated/journal.h"
+#include "ui/window_system.h"
+
+namespace platform::simulated {
+
+class Windows : public ui::WindowSystem {
+ public:
+  explicit Windows(Journal& journal) : journal_(journal) {}
+
+  std::unique_ptr<ui::WindowView> Open(ui::Window& window) override;
+
+  bool AnyVisible() const { return !visible_.empty(); }
+
+  // Windows opened so far and not dropped.
+  int open_views() const { return open_views_; }
+
+ private:
+  friend class JournalView;
+
+  Journal& journal_;
+  std::set<std::string> visible_;
+  int open_views_ = 0;
+};
+
+}  // namespace platform::simulated

@@ -1,0 +1,161 @@
+// The services of the surrounding system, one small abstract class each.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace platform {
+
+class Environment {
+ public:
+  virtual ~Environment() = default;
+
+  // Value of an environment variable, empty when it is not set.
+  virtual std::string Get(const std::string& name) = 0;
+
+  // The command line after the program's own name, as it was given.
+  virtual std::string Arguments() = 0;
+
+  // The folder of the program's executable file, without a backslash at its end.
+  virtual std::string ProgramFolder() = 0;
+
+  virtual std::string FullPath(const std::string& path) = 0;
+  virtual void SetCurrentFolder(const std::string& path) = 0;
+};
+
+struct LocalTime {
+  int year = 0;
+  int month = 0;  // 1 to 12
+  int day = 0;    // 1 to 31
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+
+  virtual LocalTime Now() = 0;
+
+  // The current date and time in the system's short formats.
+  virtual std::string ShortDate() = 0;
+  virtual std::string ShortTime() = 0;
+};
+
+class Random {
+ public:
+  virtual ~Random() = default;
+
+  // A pseudo-random number in [0, 1).
+  virtual double Next() = 0;
+};
+
+// The message queue of the program's one thread. Nothing else waits.
+class MessagePump {
+ public:
+  virtual ~MessagePump() = default;
+
+  // Handles the messages that are pending. With `enough` given, stops as soon as it holds after a
+  // message: what the user did next is left for whoever pumps next, so that a stopped loop ends
+  // before the input that follows is handled.
+  virtual void ProcessPending(const std::function<bool()>& enough = {}) = 0;
+
+  // Blocks the thread; messages wait.
+  virtual void Sleep(int milliseconds) = 0;
+
+  // Handles messages until no window is left that could be used.
+  virtual void Run() = 0;
+};
+
+struct ProcessEntry {
+  std::uint32_t id = 0;
+  std::string name;  // name of the executable file, without a folder
+};
+
+class Processes {
+ public:
+  virtual ~Processes() = default;
+
+  virtual std::vector<ProcessEntry> Snapshot() = 0;
+
+  // Ends a process with exit code 0. False when it is gone or may not be ended.
+  virtual bool Terminate(std::uint32_t id) = 0;
+
+  // Starts a command without waiting for it; throws base::RuntimeError 53 when it cannot start.
+  virtual void Start(const std::string& command) = 0;
+  virtual void StartHidden(const std::string& command) = 0;
+
+  // Ends this process at once. No handler, trap or destructor of the program runs after it.
+  [[noreturn]] virtual void EndProcess() = 0;
+};
+
+// Flags of the multimedia player's PlaySound function (winmm), as documented for it.
+inline constexpr std::uint32_t kPlayAsync = 0x1;
+inline constexpr std::uint32_t kPlayNoDefault = 0x2;
+inline constexpr std::uint32_t kPlayLoop = 0x8;
+inline constexpr std::uint32_t kPlayFilename = 0x20000;
+
+class WavePlayer {
+ public:
+  virtual ~WavePlayer() = default;
+
+  // Starts a file, replacing the sound that is playing. Failure is silent.
+  virtual void Play(const std::string& path, std::uint32_t flags) = 0;
+
+  // Stops whatever this process is playing.
+  virtual void Stop(std::uint32_t flags) = 0;
+};
+
+class Screen {
+ public:
+  virtual ~Screen() = default;
+
+  struct PixelsPerInch {
+    std::int32_t horizontal = 0;
+    std::int32_t vertical = 0;
+  };
+  struct Size {
+    std::int32_t width = 0;  // pixels
+    std::int32_t height = 0;
+  };
+
+  virtual PixelsPerInch LogicalPixelsPerInch() = 0;
+  virtual Size Pixels() = 0;
+};
+
+struct VersionRecord {
+  std::int32_t success = 0;   // the call's own result, 1 when it succeeded
+  std::int32_t platform = 0;  // 2 = NT family
+  std::int32_t major = 0;
+  std::int32_t minor = 0;
+};
+
+class SystemVersion {
+ public:
+  virtual ~SystemVersion() = default;
+
+  virtual VersionRecord Query() = 0;
+};
+
+enum class MessageIcon { kExclamation, kCritical };
+enum class MessageButtons { kOk, kYesNo };
+
+// Answer codes of the system's message box.
+inline constexpr std::int16_t kAnswerOk = 1;
+inline constexpr std::int16_t kAnswerYes = 6;
+inline constexpr std::int16_t kAnswerNo = 7;
+
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+
+  // Shows a message box and returns the answer code. Messages of other windows are handled while
+  // it is open.
+  virtual std::int16_t Show(const std::string& text, const std::string& title, MessageIcon icon,
+                            MessageButtons buttons) = 0;
+};
+
+}  // namespace platform
