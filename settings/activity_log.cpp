@@ -1,0 +1,32 @@
+#include "settings/activity_log.h"
+
+#include "base/field_reader.h"
+#include "base/text.h"
+
+namespace settings {
+
+void ActivityLog::PrintFile(std::string_view newdata) {
+  LoadFile();
+  std::string log = base::Line(slots_[1]) + base::Line(slots_[2]);
+  for (std::size_t n = 3;; ++n) {
+    log += base::Line(slots_[n]);
+    if (slots_[n + 1].empty() || n + 1 == kMaxLines) break;
+  }
+  log += base::Line(newdata);
+  platform_.Texts().Replace(Path(), log, platform::Durability::kVisible);
+}
+
+void ActivityLog::LoadFile() {
+  TrapErrors(errors_, 108, [this] {
+    const auto content = platform_.Texts().Read(Path());
+    if (!content) return;
+    base::FieldReader reader(*content);
+    for (std::size_t n = 1; n <= kMaxLines && !reader.AtEnd(); ++n) slots_[n] = *reader.Next();
+  });
+}
+
+std::string ActivityLog::Path() const {
+  return platform_.environment.Get("TEMP") + "\\userdata.txt";
+}
+
+}  // namespace settings

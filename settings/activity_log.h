@@ -1,0 +1,38 @@
+// The activity log: "userdata.txt" in the temporary folder, one line per thing that the user or
+// the program did in this run, at most 100 lines.
+//
+// Lines 1 and 2 are the date and time of the start, line 3 is empty. The log is read back with the
+// free-format field reader before every entry, so an entry with commas becomes several lines.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "settings/error_notes.h"
+
+namespace settings {
+
+class ActivityLog {
+ public:
+  ActivityLog(platform::Platform& platform, ErrorNotes& errors)
+      : platform_(platform), errors_(errors) {}
+
+  // Appends one entry; a full log has its last line replaced. Throws base::RuntimeError.
+  void PrintFile(std::string_view newdata);
+
+  // Reads the log into the slots. Slots without an entry keep what they hold. Error value 108.
+  void LoadFile();
+
+ private:
+  static constexpr std::size_t kMaxLines = 100;
+
+  std::string Path() const;
+
+  platform::Platform& platform_;
+  ErrorNotes& errors_;
+  std::array<std::string, kMaxLines + 1> slots_;  // slot N holds line N
+};
+
+}  // namespace settings

@@ -1,0 +1,35 @@
+#include "settings/form6.h"
+
+#include <utility>
+
+namespace settings {
+
+Form6::Form6(ui::WindowSystem& system, std::function<void()> unload_all)
+    : ui::Window(system, {"Form6", "Error", 500, 214}), unload_all_(std::move(unload_all)) {
+  Command1.OnClick = [this] { Leave(); };
+  SetDefaultButton(&Command1);
+  SetCancelButton(&Command1);
+}
+
+void Form6::Present(const std::vector<std::string>& lines) {
+  done_flag = 0;
+  Load();
+  List1.SetItems(lines);
+  Show();
+}
+
+void Form6::Close() {
+  Handle([this] { Leave(); });
+}
+
+void Form6::DesignState() {
+  // There is no page to visit yet.
+  Command2.SetEnabled(false);
+}
+
+void Form6::Leave() {
+  done_flag = 1;
+  unload_all_();
+}
+
+}  // namespace settings
