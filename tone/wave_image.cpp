@@ -1,0 +1,69 @@
+#include "tone/wave_image.h"
+
+#include "base/numbers.h"
+
+namespace tone {
+namespace {
+
+constexpr std::int16_t kPcm = 1;
+constexpr std::int32_t kFormatBytes = 16;
+
+struct Sizes {
+  std::int32_t byte_rate;
+  std::int32_t block_align;
+  std::int32_t data_bytes;   // what the image holds
+  std::int32_t data_field;   // what its header says
+};
+
+Sizes Compute(std::int32_t channels, std::int32_t samples, std::int32_t rate, std::int32_t bits) {
+  using base::MultiplyInt32;
+  Sizes sizes{};
+  sizes.byte_rate = base::ToInt32(MultiplyInt32(MultiplyInt32(rate, channels), bits) / 8.0);
+  sizes.block_align = base::ToInt32(MultiplyInt32(bits, channels) / 8.0);
+  sizes.data_bytes = MultiplyInt32(sizes.block_align, samples);
+  sizes.data_field = base::ToInt32(MultiplyInt32(MultiplyInt32(channels, samples), bits) / 8.0);
+  return sizes;
+}
+
+// Appends the `bytes` low bytes of `value`, low byte first.
+void Append(std::string& image, std::int32_t value, int bytes) {
+  auto rest = static_cast<std::uint32_t>(value);
+  for (int i = 0; i < bytes; ++i) {
+    image += static_cast<char>(rest & 0xFF);
+    rest >>= 8;
+  }
+}
+
+}  // namespace
+
+std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
+                      std::int16_t bits_per_sample) {
+  const std::int32_t channels = base::ToInt32(static_cast<double>(samples.channels()));
+  const std::int32_t count = base::ToInt32(static_cast<double>(samples.samples()));
+  const Sizes sizes = Compute(channels, count, sample_rate, bits_per_sample);
+  const std::int32_t total =
+      base::AddInt32(sizes.data_bytes, static_cast<std::int32_t>(kWaveHeaderBytes));
+
+  std::string image;
+  image.reserve(static_cast<std::size_t>(total));
+  image += "RIFF";
+  Append(image, total - 8, 4);
+  image += "WAVEfmt ";
+  Append(image, kFormatBytes, 4);
+  Append(image, kPcm, 2);
+  Append(image, channels, 2);
+  Append(image, sample_rate, 4);
+  Append(image, sizes.byte_rate, 4);
+  Append(image, sizes.block_align, 2);
+  Append(image, bits_per_sample, 2);
+  image += "data";
+  Append(image, sizes.data_field, 4);
+  for (std::size_t i = 0; i < samples.samples(); ++i) {
+    for (std::size_t channel = 0; channel < samples.channels(); ++channel) {
+      Append(image, samples.At(channel, i), bits_per_sample / 8);
+    }
+  }
+  return image;
+}
+
+}  // namespace tone

@@ -1,0 +1,20 @@
+// The image of a WAV file in memory: a RIFF container (Multimedia Programming Interface and Data
+// Specifications 1.0, IBM and Microsoft, 1991) with one PCM format block and one data block.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "tone/sine.h"
+
+namespace tone {
+
+inline constexpr std::size_t kWaveHeaderBytes = 44;
+
+// The low 16 or the low 8 bits of every sample, frame by frame. `bits_per_sample` is 8 or 16;
+// 8-bit samples are expected in offset encoding. Throws base::RuntimeError kOverflow when a size
+// or rate leaves 32 bits.
+std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
+                      std::int16_t bits_per_sample);
+
+}  // namespace tone

@@ -1,0 +1,45 @@
+#include "tone/wave_output.h"
+
+#include "tone/wave_image.h"
+#include "tone/quietly.h"
+
+namespace tone {
+
+std::string WaveOutput::CreateWaveArray(const SampleBuffer& samples, std::int32_t sample_rate,
+                                        std::int16_t bits_per_sample) {
+  if (bits_per_sample != 8 && bits_per_sample != 16) platform_.processes.EndProcess();
+  return WaveImage(samples, sample_rate, bits_per_sample);
+}
+
+void WaveOutput::WriteWave(const std::string& file_name, const std::string& image) {
+  const bool there = Quietly([&] {
+    if (!platform_.files.OpenForReading(file_name)) {
+      throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+    }
+  });
+  if (there) Quietly([&] { platform_.files.Delete(file_name); });
+
+  const bool written = Quietly([&] {
+    const auto file = platform_.files.OpenForWriting(file_name);
+    file->Write(image);
+    file->Close();
+  });
+  if (!written) Quietly([&] { platform_.files.Delete(file_name); });
+}
+
+void WaveOutput::WavPlay(const std::string& path, bool loop_sound, bool kill_all) {
+  Quietly([&] {
+    if (kill_all) {
+      platform_.waves.Stop(platform::kPlayNoDefault);
+    } else {
+      const std::uint32_t loop = loop_sound ? platform::kPlayLoop : 0;
+      platform_.waves.Play(path, platform::kPlayFilename | platform::kPlayAsync | loop);
+    }
+  });
+}
+
+void WaveOutput::delay(std::int16_t timems) {
+  Quietly([&] { platform_.pump.Sleep(timems); });
+}
+
+}  // namespace tone
