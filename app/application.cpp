@@ -1,0 +1,66 @@
+#include "app/application.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace app {
+
+Application::Application(platform::Platform& platform)
+    : form1(platform, *this, CommandLine(platform)),
+      form2(platform.windows),
+      form6(platform.windows, [this] { UnloadAll(); }),
+      form8(platform.windows),
+      platform_(platform) {
+  for (ui::Window* window : {static_cast<ui::Window*>(&form1), static_cast<ui::Window*>(&form2),
+                             static_cast<ui::Window*>(&form6), static_cast<ui::Window*>(&form8)}) {
+    window->OnUntrappedError = [this](const base::RuntimeError& error) { EndAfter(error); };
+  }
+}
+
+void Application::Run() {
+  form1.Handle([this] {
+    form1.Load();
+    if (!form1.StaysHidden()) form1.Show();
+  });
+  platform_.pump.Run();
+  // Nothing is left to be seen or used.
+  form1.Handle([this] { form1.Unload(); });
+}
+
+void Application::HideOtherWindows() {
+  form1.Hide();
+  form2.Hide();
+  form8.Hide();
+}
+
+void Application::UnloadOtherWindows() {
+  form2.Unload();
+  form6.Unload();
+  form8.Unload();
+}
+
+// A path is resolved before the program's own folder becomes the current one: language files and
+// helpers named without a folder are then always its own.
+std::string Application::CommandLine(platform::Platform& platform) {
+  const std::string arguments = platform.environment.Arguments();
+  const std::string path = base::RemoveAll(arguments, '"');
+  const std::string resolved = path.empty() ? path : platform.environment.FullPath(path);
+  platform.environment.SetCurrentFolder(platform.environment.ProgramFolder());
+  return resolved;
+}
+
+void Application::UnloadAll() {
+  form1.Unload();
+  UnloadOtherWindows();
+}
+
+// An error that no procedure traps: reporting itself has failed, so all that is left is to say so.
+void Application::EndAfter(const base::RuntimeError& error) {
+  platform_.messages.Show("Run-time error '" + base::BareNumber(error.number()) + "':\r\n\r\n" +
+                              error.description(),
+                          "Tonmira", platform::MessageIcon::kCritical,
+                          platform::MessageButtons::kOk);
+  platform_.processes.EndProcess();
+}
+
+}  // namespace app

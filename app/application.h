@@ -1,0 +1,47 @@
+// The program: its windows and their life, from the command line to the end of the process.
+#pragma once
+
+#include <string>
+
+#include "app/form1.h"
+#include "app/form2.h"
+#include "app/form8.h"
+#include "platform/platform.h"
+#include "settings/form6.h"
+
+namespace app {
+
+class Application : public OtherWindows {
+ public:
+  explicit Application(platform::Platform& platform);
+
+  // Starts the program, handles its user's input and ends the process when no window is left.
+  void Run();
+
+  Form1 form1;
+  Form2 form2;
+  settings::Form6 form6;
+  Form8 form8;
+
+  // OtherWindows
+  ui::Window& StatusWindow() override { return form8; }
+  ui::Label& StatusLabel() override { return form8.Label2; }
+  ui::Window& HelpWindow() override { return form2; }
+
+  // settings::ErrorScene
+  settings::Form6& ErrorDialog() override { return form6; }
+  void HideOtherWindows() override;
+
+  // WindowList
+  void UnloadOtherWindows() override;
+  void UnloadMainWindow() override { form1.Unload(); }
+
+ private:
+  static std::string CommandLine(platform::Platform& platform);
+  void UnloadAll();
+  void EndAfter(const base::RuntimeError& error);
+
+  platform::Platform& platform_;
+};
+
+}  // namespace app

@@ -1,0 +1,37 @@
+// The tone modes of the main window.
+#include "app/form1.h"
+
+#include "app/tone_modes.h"
+#include "base/numbers.h"
+
+namespace app {
+
+void Form1::OptionClick(int mode) {
+  const ProgramPtr program = NewProgram();
+  settings::TrapErrors(*program, static_cast<std::int16_t>(16 + mode), [&] {
+    program->SelectRadio(static_cast<std::int16_t>(mode));
+    if (mode != kHearingMode) mode_chosen_flag = 1;
+  });
+}
+
+void Form1::ShowMode(int mode) {
+  for (int other = 1; other <= kModes; ++other) {
+    if (other != mode) Options()[static_cast<std::size_t>(other - 1)]->SetValue(false);
+  }
+  Picture1.SetVisible(ShowsSine(mode));
+  Line1.SetVisible(ShowsSine(mode));
+  Command2.SetEnabled(true);
+  EnableCustomPitch(UsesSlider(mode));
+  Label1.SetCaption(texts_.messages[static_cast<std::size_t>(lang::kModeDescriptions + mode)]);
+  Label8.SetVisible(false);
+  Command2.SetCaption(texts_.messages[OpensTool(mode) ? lang::kPlayCaptionB : lang::kPlayCaptionA]);
+  // Enter plays, but not before there is something to play.
+  SetDefaultButton(&Command2);
+}
+
+void Form1::HScroll1_Change() {
+  settings::TrapErrors(*NewProgram(), 26,
+                       [this] { Label10.SetCaption(base::SignedNumber(HScroll1.Value())); });
+}
+
+}  // namespace app

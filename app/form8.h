@@ -1,0 +1,21 @@
+// The window that shows what the program is doing while it starts.
+#pragma once
+
+#include "ui/window.h"
+
+namespace app {
+
+class Form8 : public ui::Window {
+ public:
+  explicit Form8(ui::WindowSystem& system)
+      : ui::Window(system, {"Form8", "Starting Tonmira", 340, 112}) {}
+
+  ui::PictureBox Picture1{
+      *this, "Picture1", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};
+  ui::Label Label1{*this, "Label1", {96, 16, 228, 24}, "Tonmira", ui::Label::Style::kHeading};
+  ui::Label Label2{*this, "Label2", {96, 46, 228, 18}, "Starting..."};
+  ui::Label Label3{*this, "Label3", {96, 66, 228, 18}, "Tones from 4 Hz to 32000 Hz"};
+  ui::Label Label4{*this, "Label4", {16, 88, 308, 18}, "Version 2.3.6"};
+};
+
+}  // namespace app

@@ -1,0 +1,34 @@
+// SelectRadio: what choosing a tone mode does to the main window.
+#pragma once
+
+#include <cstdint>
+
+#include "settings/activity_log.h"
+#include "settings/error_notes.h"
+
+namespace app {
+
+// The main window as the choice of a mode needs it.
+class ModeDisplay {
+ public:
+  virtual ~ModeDisplay() = default;
+
+  // Shows mode `mode`, 1 to 9, as the one selected.
+  virtual void ShowMode(int mode) = 0;
+};
+
+class ModeSelection {
+ public:
+  ModeSelection(ModeDisplay& display, settings::ActivityLog& log, settings::ErrorNotes& errors)
+      : display_(display), log_(log), errors_(errors) {}
+
+  // Applies the choice of mode `newselected`, 1 to 9. Error value 1010.
+  void SelectRadio(std::int16_t newselected);
+
+ private:
+  ModeDisplay& display_;
+  settings::ActivityLog& log_;
+  settings::ErrorNotes& errors_;
+};
+
+}  // namespace app

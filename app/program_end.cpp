@@ -1,0 +1,40 @@
+#include "app/program_end.h"
+
+#include "base/text.h"
+
+namespace app {
+
+void ProgramEnd::WriteTest() {
+  settings::TrapErrors(errors_, 1012, [this] {
+    const std::string app_data = platform_.environment.Get("APPDATA");
+    const std::string temp = platform_.environment.Get("TEMP");
+    for (const std::string& folder : {temp, app_data}) {
+      if (CanWriteIn(folder)) continue;
+      platform_.messages.Show("Write error", "Write error", platform::MessageIcon::kExclamation,
+                              platform::MessageButtons::kOk);
+      platform_.processes.EndProcess();
+    }
+  });
+}
+
+void ProgramEnd::Terminate() {
+  settings::TrapErrors(errors_, 105, [this] {
+    state_.stop_flag = 1;
+    windows_.UnloadOtherWindows();
+    windows_.UnloadMainWindow();
+    platform_.processes.EndProcess();
+  });
+}
+
+bool ProgramEnd::CanWriteIn(const std::string& folder) {
+  const std::string probe = folder + "\\test.txt";
+  // Not being able to write is what the test is there to find out, no run-time error.
+  const auto failure = settings::Caught([&] {
+    platform_.Texts().Write(probe, base::Line("Tonmira write test"));
+  });
+  const bool there = platform_.files.Exists(probe);
+  if (there) platform_.files.Delete(probe);
+  return there && !failure;
+}
+
+}  // namespace app

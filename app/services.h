@@ -1,0 +1,52 @@
+// The service classes that handlers work with. Each gathers the procedures of several rooms and
+// has none of its own; an object keeps no state that matters between calls.
+#pragma once
+
+#include "app/mode_selection.h"
+#include "app/program_end.h"
+#include "app/system_checks.h"
+#include "base/main_state.h"
+#include "platform/platform.h"
+#include "settings/activity_log.h"
+#include "settings/error_notes.h"
+#include "settings/settings_file.h"
+#include "tone/process_killer.h"
+#include "tone/sound_routes.h"
+#include "tone/wave_output.h"
+
+namespace app {
+
+// What the services reach of the windows.
+struct Scene {
+  settings::SettingsDisplay& settings;
+  settings::ErrorScene& errors;
+  ModeDisplay& modes;
+  WindowList& windows;
+};
+
+class Program : public settings::ErrorNotes,
+                public settings::ActivityLog,
+                public settings::SettingsFile,
+                public ModeSelection,
+                public ProgramEnd {
+ public:
+  Program(platform::Platform& platform, base::MainState& state, const Scene& scene)
+      : ErrorNotes(platform, scene.errors),
+        ActivityLog(platform, *this),
+        SettingsFile(platform, state, scene.settings, *this, *this),
+        ModeSelection(scene.modes, *this, *this),
+        ProgramEnd(platform, state, scene.windows, *this) {}
+};
+
+class ExFunctions : public tone::WaveOutput, public tone::ProcessKiller, public SystemChecks {
+ public:
+  ExFunctions(platform::Platform& platform, settings::ErrorNotes& errors)
+      : WaveOutput(platform), ProcessKiller(platform), SystemChecks(platform, errors) {}
+};
+
+class sound : public tone::SoundRoutes {
+ public:
+  using SoundRoutes::SoundRoutes;
+};
+
+}  // namespace app
