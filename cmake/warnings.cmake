@@ -21,6 +21,6 @@ endif()
 
 if(TONMIRA_SANITIZE)
   target_compile_options(build_settings INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(build_settings INTERFACE -fsanitize=address,undefined)
 endif()

@@ -1,0 +1,245 @@
+"""The test bench: a display, a sound card with ears and a Wine prefix, all private.
+
+Everything lives in one temporary folder and ends with the bench; several benches can run side by
+side. Nothing outside the folder is written, except the cache of prepared things under build/.
+"""
+
+import fcntl
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from contextlib import ExitStack
+from pathlib import Path
+from typing import Callable
+
+PROJECT = Path(__file__).resolve().parents[2]
+CACHE = PROJECT / "build" / "test-bench"
+PROGRAM = PROJECT / "build" / "windows" / "tonmira" / "tonmira.exe"
+DRIVER_SOURCE = PROJECT / "tests" / "real" / "driver.cpp"
+
+SCREEN = "1280x1024x24"
+QUIET_WINE = {
+    "WINEDEBUG": "-all",
+    # No menu entries, no .NET, and no browser engine that asks for a download.
+    "WINEDLLOVERRIDES": "winemenubuilder.exe=d;mscoree=d;mshtml=d",
+}
+SOUND_CARD = """
+load-module module-native-protocol-unix auth-anonymous=1 socket={socket}
+load-module module-null-sink sink_name=out rate=44100 channels=2 format=s16le
+load-module module-null-sink sink_name=mic rate=44100 channels=2 format=s16le
+set-default-sink out
+set-default-source mic.monitor
+"""
+
+
+def wait_for(condition: Callable[[], object], what: str, seconds: float = 20) -> object:
+    """Returns the first true value of `condition`; fails when none comes in time."""
+    end = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > end:
+            raise TimeoutError(f"waited {seconds} s in vain for {what}")
+        time.sleep(0.02)
+
+
+class Locked:
+    """Holds a lock file, so that two benches do not prepare the same thing at once."""
+
+    def __init__(self, path: Path):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        self._file = open(path, "w")
+
+    def __enter__(self) -> None:
+        fcntl.flock(self._file, fcntl.LOCK_EX)
+
+    def __exit__(self, *_: object) -> None:
+        self._file.close()
+
+
+def build_driver() -> Path:
+    exe = CACHE / "driver.exe"
+    with Locked(CACHE / "lock"):
+        if not exe.exists() or exe.stat().st_mtime < DRIVER_SOURCE.stat().st_mtime:
+            subprocess.run(
+                ["x86_64-w64-mingw32-g++-win32", "-std=c++20", "-O2", "-static", "-Wall",
+                 "-Wextra", "-Wconversion", "-Wshadow", "-Werror", DRIVER_SOURCE, "-o", exe],
+                check=True)
+    return exe
+
+
+class Bench:
+    """Starts everything on construction; `close` ends it, also after a failed start."""
+
+    def __init__(self) -> None:
+        self.folder = Path(tempfile.mkdtemp(prefix="tonmira-bench-"))
+        self._stack = ExitStack()
+        self._stack.callback(shutil.rmtree, self.folder, ignore_errors=True)
+        self.env = self._private_environment()
+        self.display_number = ""
+        try:
+            self._start_display()
+            self._start_sound()
+            self._start_wine()
+        except BaseException:
+            self.close()
+            raise
+
+    def close(self) -> None:
+        self._stack.close()
+
+    def __enter__(self) -> "Bench":
+        return self
+
+    def __exit__(self, *_: object) -> None:
+        self.close()
+
+    @property
+    def prefix(self) -> Path:
+        return self.folder / "prefix"
+
+    def new_folder(self, name: str) -> Path:
+        """A new, empty folder whose name begins with `name`."""
+        return Path(tempfile.mkdtemp(prefix=name + "-", dir=self.folder))
+
+    def windows_path(self, path: Path) -> str:
+        return "Z:" + str(path).replace("/", "\\")
+
+    def run(self, *command: str, timeout: float = 60) -> str:
+        """Runs a tool on the bench and returns what it prints."""
+        return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL, check=True,
+                              timeout=timeout, stdout=subprocess.PIPE, text=True).stdout
+
+    def start(self, *command: str, **options: object) -> subprocess.Popen:
+        """Starts a process that ends with the bench."""
+        process = subprocess.Popen(command, env=self.env, start_new_session=True,
+                                   **{"stdin": subprocess.DEVNULL, **options})
+        self._stack.callback(end_process, process)
+        return process
+
+    def processes(self) -> list[int]:
+        """Every process that runs on this bench, found by its environment."""
+        mark = f"TONMIRA_BENCH={self.folder}".encode()
+        return [pid for pid in all_processes() if mark in environment_of(pid)]
+
+    def _private_environment(self) -> dict[str, str]:
+        for name in ("home", "runtime", "tmp"):
+            (self.folder / name).mkdir(mode=0o700)
+        kept = {name: os.environ[name] for name in ("PATH", "USER") if name in os.environ}
+        return {
+            **kept,
+            "LANG": "C.UTF-8",
+            "HOME": str(self.folder / "home"),
+            "TMPDIR": str(self.folder / "tmp"),
+            "XDG_RUNTIME_DIR": str(self.folder / "runtime"),
+            "PULSE_RUNTIME_PATH": str(self.folder / "runtime" / "pulse"),
+            "PULSE_SERVER": f"unix:{self.folder}/runtime/sound",
+            "WINEPREFIX": str(self.prefix),
+            "TONMIRA_BENCH": str(self.folder),
+            **QUIET_WINE,
+        }
+
+    def _start_display(self) -> None:
+        reading, writing = os.pipe()
+        with os.fdopen(reading) as answer:
+            self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN,
+                       "-nolisten", "tcp", "-noreset", pass_fds=[writing],
+                       stderr=subprocess.DEVNULL)
+            os.close(writing)
+            self.display_number = answer.readline().strip()
+        if not self.display_number:
+            raise RuntimeError("the virtual display did not start")
+        self.env["DISPLAY"] = ":" + self.display_number
+        self.start("openbox", "--sm-disable", stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL)
+        wait_for(self._windows_are_managed, "the window manager")
+
+    def _windows_are_managed(self) -> bool:
+        # Only a window manager tells the number of desktops.
+        return subprocess.run(["xdotool", "get_num_desktops"], env=self.env, check=False,
+                              stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL).returncode == 0
+
+    def _start_sound(self) -> None:
+        socket = self.folder / "runtime" / "sound"
+        script = self.folder / "sound.pa"
+        script.write_text(SOUND_CARD.format(socket=socket))
+        self.start("pulseaudio", "-n", "--file", str(script), "--daemonize=no", "--system=no",
+                   "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no",
+                   "--high-priority=no", "--disallow-exit", "--log-level=error",
+                   stderr=subprocess.DEVNULL)
+        wait_for(socket.exists, "the sound server")
+
+    def _start_wine(self) -> None:
+        template = self._prefix_template()
+        subprocess.run(["cp", "-a", "--reflink=auto", template, self.prefix], check=True)
+        (self.prefix / "wineserver").unlink(missing_ok=True)
+        # Ends every process of the prefix, then waits until the server is gone.
+        self._stack.callback(self._end_wine)
+        # A server that outlives its programs keeps later starts short and alike.
+        self.run("wineserver", "-p")
+
+    def _end_wine(self) -> None:
+        for argument in ("-k", "-w"):
+            subprocess.run(["wineserver", argument], env=self.env, timeout=30, check=False,
+                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        for pid in self.processes():
+            if executable_of(pid).startswith("wine"):
+                os.kill(pid, signal.SIGKILL)
+
+    def _prefix_template(self) -> Path:
+        """A fresh prefix; making one takes ten seconds, so it is kept between runs."""
+        version = self.run("wine", "--version").strip().replace(" ", "-")
+        template = CACHE / f"prefix-{version}"
+        with Locked(CACHE / "lock"):
+            if not template.exists():
+                draft = self.folder / "draft"
+                env = {**self.env, "WINEPREFIX": str(draft)}
+                for command in (["wine", "wineboot", "-i"], ["wineserver", "-w"]):
+                    subprocess.run(command, env=env, check=True, timeout=180,
+                                   stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                shutil.move(draft, template.with_suffix(".new"))
+                template.with_suffix(".new").rename(template)
+        return template
+
+
+def all_processes() -> list[int]:
+    return [int(name) for name in os.listdir("/proc") if name.isdigit()]
+
+
+def environment_of(pid: int) -> list[bytes]:
+    try:
+        return Path(f"/proc/{pid}/environ").read_bytes().split(b"\0")
+    except OSError:
+        return []
+
+
+def executable_of(pid: int) -> str:
+    try:
+        return os.path.basename(os.readlink(f"/proc/{pid}/exe"))
+    except OSError:
+        return ""
+
+
+def command_of(pid: int) -> str:
+    try:
+        return Path(f"/proc/{pid}/cmdline").read_bytes().replace(b"\0", b" ").decode(
+            errors="replace").strip()
+    except OSError:
+        return ""
+
+
+def end_process(process: subprocess.Popen) -> None:
+    if process.poll() is None:
+        process.terminate()
+        try:
+            process.wait(timeout=5)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+

@@ -1,0 +1,276 @@
+// The tests' hands and eyes inside the Windows session: starts programs and works their windows.
+//
+// Reads commands from standard input, one a line, UTF-8, fields parted by tabs; answers each with
+// any number of lines and then "ok", or with "error" and a reason. Handles and ids are decimal.
+//
+//   start EXE FOLDER TEMP APPDATA     starts EXE in FOLDER with these two variables: process id
+//   launch EXE CLASS TITLE            starts EXE and waits for its visible window: ms, process id
+//   running PID                       1 or 0
+//   handles PID                       number of open handles
+//   end PID                           ends a process that this program started
+//   windows                           handle, process, class, visible, x, y, width, height, title
+//   controls WINDOW                   handle, id, class, enabled, visible, checked, x, y, width,
+//                                     height, text
+//   text WINDOW                       its text
+//   press BUTTON                      posts a click
+//   clicks COUNT BUTTON...            clicks the buttons in turn, each when the last was handled
+//   command WINDOW ID                 posts a menu choice
+//   slide BAR VALUE                   puts a horizontal scroll bar's thumb at a value
+//   close WINDOW                      posts the wish to close
+#include <windows.h>
+
+#include <algorithm>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Fields = std::vector<std::string>;
+
+constexpr UINT kAnswerTimeoutMs = 10000;
+
+struct HandleCloser {
+  void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+using UniqueHandle = std::unique_ptr<void, HandleCloser>;
+
+std::wstring Wide(const std::string& text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(
+      static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), size, nullptr, 0)),
+      L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), static_cast<int>(wide.size()));
+  return wide;
+}
+
+std::string Utf8(const std::wstring& wide) {
+  const int size = static_cast<int>(wide.size());
+  std::string text(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, wide.data(), size,
+                                                                nullptr, 0, nullptr, nullptr)),
+                   '\0');
+  WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, text.data(), static_cast<int>(text.size()),
+                      nullptr, nullptr);
+  for (char& c : text) {
+    if (c == '\t' || c == '\n' || c == '\r') c = ' ';
+  }
+  return text;
+}
+
+HWND Window(const std::string& field) {
+  return reinterpret_cast<HWND>(static_cast<std::intptr_t>(std::stoll(field)));
+}
+
+long long Number(HWND window) {
+  return reinterpret_cast<std::intptr_t>(window);
+}
+
+LRESULT Ask(HWND window, UINT message, WPARAM first = 0, LPARAM second = 0) {
+  DWORD_PTR answer = 0;
+  if (SendMessageTimeoutW(window, message, first, second, SMTO_NORMAL, kAnswerTimeoutMs, &answer) ==
+      0) {
+    throw std::runtime_error("the window did not answer");
+  }
+  return static_cast<LRESULT>(answer);
+}
+
+void Post(HWND window, UINT message, WPARAM first = 0, LPARAM second = 0) {
+  if (!PostMessageW(window, message, first, second)) {
+    throw std::runtime_error("no such window");
+  }
+}
+
+std::string ClassOf(HWND window) {
+  wchar_t name[64] = {};
+  GetClassNameW(window, name, 64);
+  return Utf8(name);
+}
+
+std::string TextOf(HWND window) {
+  wchar_t text[1024] = {};
+  Ask(window, WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text));
+  return Utf8(text);
+}
+
+std::string PlaceOf(HWND window) {
+  RECT place = {};
+  GetWindowRect(window, &place);
+  std::ostringstream line;
+  line << place.left << '\t' << place.top << '\t' << place.right - place.left << '\t'
+       << place.bottom - place.top;
+  return line.str();
+}
+
+// A program that was started here, and the commands that concern it.
+class Programs {
+ public:
+  DWORD Start(const std::string& exe, const std::string& folder, std::wstring environment) {
+    std::wstring command = L"\"" + Wide(exe) + L"\"";
+    const std::wstring wide_folder = Wide(folder);
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION started = {};
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE,
+                        CREATE_UNICODE_ENVIRONMENT,
+                        environment.empty() ? nullptr : environment.data(),
+                        folder.empty() ? nullptr : wide_folder.c_str(), &startup, &started)) {
+      throw std::runtime_error("cannot start " + exe + ": " + std::to_string(GetLastError()));
+    }
+    CloseHandle(started.hThread);
+    processes_[started.dwProcessId] = UniqueHandle(started.hProcess);
+    return started.dwProcessId;
+  }
+
+  HANDLE Get(const std::string& pid) const {
+    return processes_.at(static_cast<DWORD>(std::stoul(pid))).get();
+  }
+
+ private:
+  std::map<DWORD, UniqueHandle> processes_;
+};
+
+// This program's own environment with some variables replaced.
+std::wstring EnvironmentWith(const std::map<std::wstring, std::wstring>& replaced) {
+  std::wstring block;
+  wchar_t* const own = GetEnvironmentStringsW();
+  for (const wchar_t* entry = own; *entry != L'\0'; entry += std::wcslen(entry) + 1) {
+    const std::wstring text(entry);
+    if (!replaced.contains(text.substr(0, text.find(L'=', 1)))) block += text + L'\0';
+  }
+  FreeEnvironmentStringsW(own);
+  for (const auto& [name, value] : replaced) block += name + L'=' + value + L'\0';
+  return block + L'\0';
+}
+
+void Start(Programs& programs, const Fields& fields) {
+  const std::wstring temp = Wide(fields.at(3));
+  std::cout << programs.Start(
+                   fields.at(1), fields.at(2),
+                   EnvironmentWith(
+                       {{L"TEMP", temp}, {L"TMP", temp}, {L"APPDATA", Wide(fields.at(4))}}))
+            << '\n';
+}
+
+void Launch(Programs& programs, const Fields& fields) {
+  const std::wstring window_class = Wide(fields.at(2));
+  const std::wstring title = Wide(fields.at(3));
+  LARGE_INTEGER begin = {}, end = {}, frequency = {};
+  QueryPerformanceFrequency(&frequency);
+  QueryPerformanceCounter(&begin);
+  const DWORD pid = programs.Start(fields.at(1), "", {});
+  for (;;) {
+    const HWND window = FindWindowW(window_class.c_str(), title.c_str());
+    QueryPerformanceCounter(&end);
+    if (window != nullptr && IsWindowVisible(window)) break;
+    if ((end.QuadPart - begin.QuadPart) / frequency.QuadPart > 30) {
+      throw std::runtime_error("no window");
+    }
+    Sleep(1);
+  }
+  std::cout << 1000.0 * static_cast<double>(end.QuadPart - begin.QuadPart) /
+                   static_cast<double>(frequency.QuadPart)
+            << '\t' << pid << '\n';
+}
+
+BOOL CALLBACK PrintWindow(HWND window, LPARAM) {
+  DWORD pid = 0;
+  GetWindowThreadProcessId(window, &pid);
+  wchar_t title[256] = {};
+  GetWindowTextW(window, title, 256);
+  std::cout << Number(window) << '\t' << pid << '\t' << ClassOf(window) << '\t'
+            << IsWindowVisible(window) << '\t' << PlaceOf(window) << '\t' << Utf8(title) << '\n';
+  return TRUE;
+}
+
+BOOL CALLBACK PrintControl(HWND window, LPARAM) {
+  const std::string name = ClassOf(window);
+  const bool checked = name == "Button" && Ask(window, BM_GETCHECK) == BST_CHECKED;
+  std::cout << Number(window) << '\t' << GetDlgCtrlID(window) << '\t' << name << '\t'
+            << IsWindowEnabled(window) << '\t' << IsWindowVisible(window) << '\t' << checked << '\t'
+            << PlaceOf(window) << '\t' << TextOf(window) << '\n';
+  return TRUE;
+}
+
+void Clicks(const Fields& fields) {
+  const std::size_t buttons = fields.size() - 2;
+  const unsigned long count = std::stoul(fields.at(1));
+  for (unsigned long i = 0; i < count; ++i) Ask(Window(fields[2 + i % buttons]), BM_CLICK);
+}
+
+void Slide(const Fields& fields) {
+  const HWND bar = Window(fields.at(1));
+  const int value = std::stoi(fields.at(2));
+  SCROLLINFO position = {};
+  position.cbSize = sizeof(position);
+  position.fMask = SIF_POS;
+  position.nPos = value;
+  SetScrollInfo(bar, SB_CTL, &position, TRUE);
+  const HWND parent = GetAncestor(bar, GA_PARENT);
+  for (const int code : {SB_THUMBPOSITION, SB_ENDSCROLL}) {
+    Ask(parent, WM_HSCROLL, MAKEWPARAM(code, value), reinterpret_cast<LPARAM>(bar));
+  }
+}
+
+void Handles(const Programs& programs, const Fields& fields) {
+  DWORD count = 0;
+  GetProcessHandleCount(programs.Get(fields.at(1)), &count);
+  std::cout << count << '\n';
+}
+
+std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& programs) {
+  return {
+      {"start", [&](const Fields& f) { Start(programs, f); }},
+      {"launch", [&](const Fields& f) { Launch(programs, f); }},
+      {"running",
+       [&](const Fields& f) {
+         std::cout << (WaitForSingleObject(programs.Get(f.at(1)), 0) == WAIT_TIMEOUT) << '\n';
+       }},
+      {"handles", [&](const Fields& f) { Handles(programs, f); }},
+      {"end", [&](const Fields& f) { TerminateProcess(programs.Get(f.at(1)), 1); }},
+      {"windows", [](const Fields&) { EnumWindows(PrintWindow, 0); }},
+      {"controls", [](const Fields& f) { EnumChildWindows(Window(f.at(1)), PrintControl, 0); }},
+      {"text", [](const Fields& f) { std::cout << TextOf(Window(f.at(1))) << '\n'; }},
+      {"press", [](const Fields& f) { Post(Window(f.at(1)), BM_CLICK); }},
+      {"clicks", Clicks},
+      {"command",
+       [](const Fields& f) {
+         Post(Window(f.at(1)), WM_COMMAND, static_cast<WPARAM>(std::stoi(f.at(2))));
+       }},
+      {"slide", Slide},
+      {"close", [](const Fields& f) { Post(Window(f.at(1)), WM_CLOSE); }},
+  };
+}
+
+Fields Split(std::string line) {
+  if (line.ends_with('\r')) line.pop_back();
+  Fields fields;
+  for (std::size_t begin = 0; begin <= line.size();) {
+    const std::size_t end = std::min(line.find('\t', begin), line.size());
+    fields.push_back(line.substr(begin, end - begin));
+    begin = end + 1;
+  }
+  return fields;
+}
+
+}  // namespace
+
+int main() {
+  SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+  Programs programs;
+  const auto commands = Commands(programs);
+  for (std::string line; std::getline(std::cin, line);) {
+    const Fields fields = Split(line);
+    try {
+      commands.at(fields.at(0))(fields);
+      std::cout << "ok" << std::endl;
+    } catch (const std::exception& failure) {
+      std::cout << "error " << failure.what() << std::endl;
+    }
+  }
+  return 0;
+}

@@ -1,0 +1,107 @@
+"""What a recording holds: pitch, peak and length of its longest steady tone, and its end.
+
+A recording is an array of samples of one channel, full scale 32768. It may begin late, and it may
+have gaps: only the longest stretch whose phase advances evenly is judged.
+"""
+
+from dataclasses import dataclass
+
+import numpy as np
+
+RATE = 44100
+# Below this nothing is heard; the quietest tone wanted is far above.
+LOUD = 1000
+CHUNK = RATE // 100
+# A dropped sample moves the phase by far more than the small step at the joints of a looped tone.
+PHASE_TOLERANCE = 0.25
+
+
+@dataclass(frozen=True)
+class Tone:
+    frequency_hz: float
+    peak: int
+    start_s: float
+    length_s: float
+
+
+def loud_stretches(samples: np.ndarray) -> list[tuple[int, int]]:
+    """First and past-the-last sample of every stretch that is loud throughout."""
+    chunks = len(samples) // CHUNK
+    if chunks == 0:
+        return []
+    peaks = np.abs(samples[: chunks * CHUNK].reshape(chunks, CHUNK)).max(axis=1)
+    loud = np.concatenate(([False], peaks > LOUD, [False]))
+    edges = np.flatnonzero(loud[1:] != loud[:-1])
+    return [(int(a) * CHUNK, int(b) * CHUNK) for a, b in zip(edges[::2], edges[1::2])]
+
+
+def last_loud_sample(samples: np.ndarray) -> int | None:
+    loud = np.flatnonzero(np.abs(samples) > LOUD)
+    return int(loud[-1]) if len(loud) else None
+
+
+def rough_frequency(samples: np.ndarray) -> float:
+    """The strongest frequency, to a fraction of the spectrum's grain."""
+    part = samples[: 4 * RATE] - samples[: 4 * RATE].mean()
+    spectrum = np.abs(np.fft.rfft(part * np.hanning(len(part))))
+    top = int(spectrum[1:-1].argmax()) + 1
+    below, at, above = np.log(spectrum[top - 1 : top + 2] + 1e-9)
+    shift = 0.5 * (below - above) / (below - 2 * at + above)
+    return (top + shift) * RATE / len(part)
+
+
+def block_phases(samples: np.ndarray, frequency: float, block: int, hop: int) -> np.ndarray:
+    """How far the phase is ahead of a tone of `frequency`, in radians, once per hop."""
+    starts = np.arange(0, len(samples) - block + 1, hop)
+    window = np.hanning(block)
+    turning = np.exp(-2j * np.pi * frequency / RATE * np.arange(block))
+    sums = np.array([(samples[s : s + block] * window * turning).sum() for s in starts])
+    ahead = np.angle(sums * np.exp(-2j * np.pi * frequency / RATE * starts))
+    return np.unwrap(ahead)
+
+
+def longest_even_run(phases: np.ndarray) -> tuple[int, int]:
+    """First and past-the-last index of the longest run of phases on one straight line."""
+    steps = np.diff(phases)
+    even = np.abs(steps - np.median(steps)) < PHASE_TOLERANCE
+    edges = np.flatnonzero(np.diff(np.concatenate(([0], even.astype(int), [0]))))
+    runs = list(zip(edges[::2], edges[1::2]))
+    if not runs:
+        return 0, 0
+    first, last = max(runs, key=lambda run: run[1] - run[0])
+    return int(first), int(last) + 1
+
+
+def measure(samples: np.ndarray) -> Tone | None:
+    """The longest steady tone, or nothing when none lasts three of its blocks."""
+    best: Tone | None = None
+    for first, end in loud_stretches(samples):
+        if best and (end - first) / RATE <= best.length_s:
+            continue
+        tone = _measure_stretch(samples, first, end)
+        if tone and (best is None or tone.length_s > best.length_s):
+            best = tone
+    return best
+
+
+def _measure_stretch(samples: np.ndarray, first: int, end: int) -> Tone | None:
+    part = samples[first:end].astype(float)
+    if len(part) < RATE // 10:
+        return None
+    frequency = rough_frequency(part)
+    block = int(max(0.05, 4 / max(frequency, 1.0)) * RATE)
+    hop = block // 4
+    if len(part) < block + 2 * hop:
+        return None
+    phases = block_phases(part, frequency, block, hop)
+    a, b = longest_even_run(phases)
+    if b - a < 3:
+        return None
+    slope = np.polyfit(np.arange(b - a) * hop / RATE, phases[a:b], 1)[0]
+    begin, past = a * hop, (b - 1) * hop + block
+    return Tone(
+        frequency_hz=float(frequency + slope / (2 * np.pi)),
+        peak=int(np.abs(part[begin:past]).max()),
+        start_s=(first + begin) / RATE,
+        length_s=(past - begin) / RATE,
+    )

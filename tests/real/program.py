@@ -1,0 +1,126 @@
+"""One run of Tonmira on the bench, with folders of its own."""
+
+from pathlib import Path
+
+from bench import PROGRAM, Bench, all_processes, command_of, environment_of, wait_for
+from measuring import Tone, measure
+from sound import Recorder
+from window import Driver, User, Window, wait_for_window
+
+MAIN_TITLE = "Tonmira"
+MODES = ["Low pitch", "Average pitch", "High pitch", "Extreme pitch", "Spooky pitch",
+         "Low to high", "Custom pitch", "Morse tool", "Hearing age"]
+GOOD_SETTINGS = ["AutoUpdate=y", "Soundbit=128", "Language=EN", "SendData=n", "Microphone=1",
+                 "MicrophoneON=y"]
+TEMPORARY_WAVE = "tnfwinmmtmp.wav"
+
+
+class Folders:
+    """The user's two folders, TEMP and APPDATA, and the files that the program keeps there."""
+
+    def __init__(self, bench: Bench, name: str = "user"):
+        root = bench.new_folder(name)
+        self.temp = root / "Temp"
+        self.appdata = root / "Roaming"
+        self.temp.mkdir()
+        self.appdata.mkdir()
+
+    def write_settings(self, lines: list[str]) -> None:
+        self.settings_file.write_bytes("".join(line + "\r\n" for line in lines).encode())
+
+    @property
+    def settings_file(self) -> Path:
+        return self.appdata / "tonmira.ini"
+
+    @property
+    def log_file(self) -> Path:
+        return self.temp / "userdata.txt"
+
+    def log(self) -> list[str]:
+        text = self.log_file.read_bytes().decode("cp1252")
+        assert text.endswith("\r\n"), "the log ends within a line"
+        lines = text.split("\r\n")[:-1]
+        assert not any("\r" in line or "\n" in line for line in lines)
+        return lines
+
+    def names(self) -> list[str]:
+        return sorted(path.name for path in (*self.temp.iterdir(), *self.appdata.iterdir()))
+
+
+class Tonmira:
+    """The running program. Its process is ended by `finish`, whatever state it is in."""
+
+    def __init__(self, bench: Bench, driver: Driver, folders: Folders, exe: Path = PROGRAM,
+                 start_folder: Path | None = None):
+        self.bench = bench
+        self.driver = driver
+        self.folders = folders
+        before = set(all_processes())
+        self.process = int(driver.ask(
+            "start", bench.windows_path(exe), bench.windows_path(start_folder or exe.parent),
+            bench.windows_path(folders.temp), bench.windows_path(folders.appdata))[0][0])
+        self._before = before
+
+    def window(self, title: str = MAIN_TITLE, seconds: float = 30) -> Window:
+        return wait_for_window(self.driver, title, self.process, seconds)
+
+    def titles(self) -> list[str]:
+        """Titles of the windows that it shows."""
+        return [w.title for w in self.driver.windows()
+                if w.process == self.process and w.visible and w.title]
+
+    def running(self) -> bool:
+        return self.driver.running(self.process)
+
+    def wait_for_end(self, seconds: float = 15) -> None:
+        wait_for(lambda: not self.running(), "the end of the program", seconds)
+
+    def finish(self) -> None:
+        if self.running():
+            self.driver.ask("end", str(self.process))
+            self.wait_for_end()
+
+    def linux_process(self) -> int:
+        """The process as Linux numbers it."""
+        mark = f"TONMIRA_BENCH={self.bench.folder}".encode()
+        found = [pid for pid in all_processes()
+                 if pid not in self._before and "tonmira.exe" in command_of(pid).lower()
+                 and mark in environment_of(pid)]
+        if len(found) != 1:
+            raise LookupError(f"{len(found)} new processes of the program")
+        return found[0]
+
+    def wait_for_log(self, entry: str, seconds: float = 15) -> None:
+        wait_for(lambda: self.folders.log_file.exists()
+                 and entry.encode() in self.folders.log_file.read_bytes().split(b"\r\n"),
+                 f"{entry!r} in the log", seconds)
+
+    def wait_for_buttons(self, window: Window, playing: bool) -> None:
+        def ready() -> bool:
+            return (window.button("Stop Sound").enabled == playing
+                    and window.button("Play Sound").enabled != playing)
+
+        wait_for(ready, "a playing window" if playing else "an idle window")
+
+
+def hear_tone(recorder: Recorder, seconds: float, good) -> Tone | None:
+    """Measures what is playing; a bad result is taken once more, for the machine is busy."""
+    tone = None
+    for _ in range(2):
+        tone = measure(recorder.record(seconds))
+        if tone and good(tone):
+            break
+    return tone
+
+
+def play_once(program: Tonmira, user: User, mode: str) -> Window:
+    """Picks a mode and presses "Play Sound", both with the mouse; returns the main window."""
+    window = program.window()
+    program.wait_for_log(">> Program starting finished")
+    user.activate(window)
+    user.click_button(window, mode)
+    wait_for(lambda: window.button(mode).checked, f"the mode {mode!r}")
+    user.click_button(window, "Play Sound")
+    return window
+
+

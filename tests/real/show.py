@@ -1,0 +1,63 @@
+"""Shows, where there is no display, what the program does: starts it on a virtual one, picks
+"High pitch" and presses "Play Sound" with the mouse, records, takes a picture, stops and leaves.
+"""
+
+import signal
+import sys
+
+from bench import PROJECT, Bench
+from measuring import measure
+from program import GOOD_SETTINGS, Folders, Tonmira, play_once
+from sound import Recorder, save_wav
+from window import Driver, User
+
+PICTURE = PROJECT / "out" / "tonmira.png"
+TONE = PROJECT / "out" / "tone.wav"
+MODE, PITCH_HZ = "High pitch", 10000
+
+
+def show(bench: Bench) -> bool:
+    driver, user = Driver(bench), User(bench)
+    folders = Folders(bench)
+    folders.write_settings(GOOD_SETTINGS)
+    recorder = Recorder(bench)
+    program = Tonmira(bench, driver, folders)
+    try:
+        print(f'Tonmira is open on the virtual display :{bench.display_number}. '
+              f'Playing "{MODE}" ...')
+        window = play_once(program, user, MODE)
+        recorder.wait_for_tone()
+        first = recorder.frames()
+        tone = measure(recorder.record(3))
+        save_wav(TONE, recorder.stereo(first))
+        user.screenshot(window, PICTURE)
+        user.click_button(window, "Stop Sound")
+        recorder.wait_for_silence()
+        program.wait_for_buttons(window, playing=False)
+        window.close()
+        program.wait_for_end()
+    finally:
+        program.finish()
+        recorder.stop()
+    if tone is None:
+        print("No steady tone was heard.")
+        return False
+    print(f"Measured pitch: {tone.frequency_hz:.3f} Hz, peak {tone.peak} of 32767, "
+          f"steady for {tone.length_s:.2f} s")
+    print(f"Picture: {PICTURE.relative_to(PROJECT)}")
+    print(f"Sound:   {TONE.relative_to(PROJECT)}")
+    return abs(tone.frequency_hz / PITCH_HZ - 1) < 1e-4
+
+
+def main() -> int:
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    with Bench() as bench:
+        good = show(bench)
+    return 0 if good else 1
+
+
+if __name__ == "__main__":
+    try:
+        sys.exit(main())
+    except KeyboardInterrupt:
+        sys.exit(130)

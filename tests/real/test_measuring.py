@@ -1,0 +1,85 @@
+"""The measuring itself, on signals whose pitch is known."""
+
+import numpy as np
+import pytest
+
+from measuring import RATE, last_loud_sample, measure
+
+
+def tone(frequency: float, seconds: float, amplitude: float = 30000) -> np.ndarray:
+    time_s = np.arange(int(seconds * RATE)) / RATE
+    return np.round(amplitude * np.sin(2 * np.pi * frequency * time_s)).astype(np.int32)
+
+
+def silence(seconds: float) -> np.ndarray:
+    return np.zeros(int(seconds * RATE), dtype=np.int32)
+
+
+@pytest.mark.parametrize("frequency", [437.3, 440.0, 1000.0, 4500.0, 10000.0, 15000.0, 16600.0,
+                                       20999.5, 21000.0])
+def test_a_pitch_is_measured_to_a_thousandth_of_a_percent(frequency: float) -> None:
+    found = measure(tone(frequency, 2))
+    assert found and found.frequency_hz == pytest.approx(frequency, rel=1e-5)
+    assert 29800 <= found.peak <= 30000
+
+
+def test_440_and_440_02_hertz_are_told_apart() -> None:
+    a, b = measure(tone(440, 2)), measure(tone(440.02, 2))
+    assert a and b
+    assert b.frequency_hz - a.frequency_hz == pytest.approx(0.02, abs=0.004)
+
+
+@pytest.mark.parametrize("frequency", [4.0, 4.05])
+def test_four_hertz_is_measured_to_a_thousandth(frequency: float) -> None:
+    found = measure(tone(frequency, 5))
+    assert found and found.frequency_hz == pytest.approx(frequency, rel=1e-3)
+
+
+def test_a_looped_second_of_a_whole_number_of_hertz_keeps_its_pitch() -> None:
+    # The joint of each second has a phase step, as in what the program plays.
+    second = np.round(30000 * np.sin(21000 * 0.00014247585204429924 * np.arange(RATE)))
+    found = measure(np.tile(second.astype(np.int32), 4))
+    assert found and found.frequency_hz == pytest.approx(21000, rel=1e-5)
+    assert found.length_s > 3.8
+
+
+def test_the_longest_stretch_between_gaps_is_judged() -> None:
+    heard = np.concatenate((silence(0.3), tone(440, 0.7), silence(0.05), tone(440, 2)))
+    found = measure(heard)
+    assert found and found.frequency_hz == pytest.approx(440, rel=1e-5)
+    assert found.start_s == pytest.approx(1.05, abs=0.05)
+    assert found.length_s == pytest.approx(2, abs=0.1)
+
+
+def test_dropped_samples_end_a_steady_stretch() -> None:
+    whole = tone(10000, 3)
+    # 2 samples less is nearly half a period: nothing is quiet, but the phase jumps.
+    found = measure(np.delete(whole, [RATE, RATE + 1]))
+    assert found and found.frequency_hz == pytest.approx(10000, rel=1e-5)
+    assert found.length_s == pytest.approx(2, abs=0.1)
+
+
+def test_a_clipped_end_and_a_late_start_do_not_matter() -> None:
+    found = measure(np.concatenate((silence(1.234), tone(15000, 1.5), silence(1))))
+    assert found and found.frequency_hz == pytest.approx(15000, rel=1e-5)
+
+
+def test_a_rising_tone_is_not_a_steady_one() -> None:
+    time_s = np.arange(2 * RATE) / RATE
+    rising = 30000 * np.sin(2 * np.pi * (1000 * time_s + 2000 * time_s**2))
+    found = measure(rising.astype(np.int32))
+    assert found is None or found.length_s < 0.3
+
+
+def test_silence_and_faint_noise_give_nothing() -> None:
+    noise = np.random.default_rng(1).integers(-300, 300, RATE)
+    assert measure(silence(2)) is None
+    assert measure(noise) is None
+    assert measure(np.zeros(0, dtype=np.int32)) is None
+    assert last_loud_sample(noise) is None
+
+
+def test_the_last_sound_is_found_to_the_sample() -> None:
+    heard = np.concatenate((silence(0.5), tone(1000, 1), silence(0.5)))
+    last = last_loud_sample(heard)
+    assert last is not None and last == pytest.approx(1.5 * RATE, abs=45)

@@ -1,0 +1,212 @@
+"""The windows of the Wine session, through the driver program and, for a user's hands, xdotool."""
+
+import re
+import subprocess
+import time
+from dataclasses import dataclass
+from pathlib import Path
+
+from bench import Bench, build_driver, wait_for
+
+
+@dataclass(frozen=True)
+class Place:
+    x: int
+    y: int
+    width: int
+    height: int
+
+    @property
+    def middle(self) -> tuple[int, int]:
+        return self.x + self.width // 2, self.y + self.height // 2
+
+
+@dataclass(frozen=True)
+class Control:
+    handle: str
+    id: int
+    kind: str
+    enabled: bool
+    visible: bool
+    checked: bool
+    place: Place
+    caption: str  # with "&" before the letter of its access key
+
+    @property
+    def text(self) -> str:
+        return re.sub("&(.)", r"\1", self.caption)
+
+    @property
+    def access_key(self) -> str:
+        """The letter that reaches the control together with Alt, or nothing."""
+        return (re.findall("&([^&])", self.caption.replace("&&", "")) or [""])[0].lower()
+
+
+@dataclass(frozen=True)
+class TopWindow:
+    handle: str
+    process: int
+    kind: str
+    visible: bool
+    place: Place
+    title: str
+
+
+class Driver:
+    """One helper program inside the Windows session; see driver.cpp for its commands."""
+
+    def __init__(self, bench: Bench):
+        self.bench = bench
+        self._process = bench.start("wine", str(build_driver()), stdin=subprocess.PIPE,
+                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                    encoding="utf-8")
+
+    def ask(self, *fields: str) -> list[list[str]]:
+        """The answer's lines, each as its fields."""
+        assert self._process.stdin and self._process.stdout
+        self._process.stdin.write("\t".join(fields) + "\n")
+        self._process.stdin.flush()
+        lines = []
+        for line in self._process.stdout:
+            line = line.rstrip("\r\n")
+            if line == "ok":
+                return lines
+            if line.startswith("error "):
+                raise RuntimeError(f"{fields[0]}: {line[6:]}")
+            lines.append(line.split("\t"))
+        raise RuntimeError("the driver ended")
+
+    def windows(self) -> list[TopWindow]:
+        return [TopWindow(w[0], int(w[1]), w[2], w[3] == "1", Place(*map(int, w[4:8])), w[8])
+                for w in self.ask("windows")]
+
+    def controls(self, window: str) -> list[Control]:
+        return [Control(c[0], int(c[1]), c[2], c[3] == "1", c[4] == "1", c[5] == "1",
+                        Place(*map(int, c[6:10])), c[10])
+                for c in self.ask("controls", window)]
+
+    def running(self, process: int) -> bool:
+        return self.ask("running", str(process)) == [["1"]]
+
+    def handles(self, process: int) -> int:
+        return int(self.ask("handles", str(process))[0][0])
+
+
+class Window:
+    """A window that stands on the screen."""
+
+    def __init__(self, driver: Driver, handle: str, title: str):
+        self.driver = driver
+        self.handle = handle
+        self.title = title
+
+    def controls(self) -> list[Control]:
+        return self.driver.controls(self.handle)
+
+    def control(self, kind: str, text: str | None = None) -> Control:
+        """The one control of this class, and with this text where one is given."""
+        found = [c for c in self.controls()
+                 if c.kind.lower() == kind.lower() and text in (None, c.text)]
+        if len(found) != 1:
+            raise LookupError(f"{len(found)} controls {kind} {text!r} in {self.title!r}")
+        return found[0]
+
+    def button(self, text: str) -> Control:
+        return self.control("Button", text)
+
+    def texts(self) -> list[str]:
+        return [c.text for c in self.controls() if c.visible]
+
+    def status(self) -> str:
+        return self.control("msctls_statusbar32").text
+
+    def press(self, text: str) -> None:
+        """A click without the mouse."""
+        self.driver.ask("press", self.button(text).handle)
+
+    def choose(self, command: int) -> None:
+        self.driver.ask("command", self.handle, str(command))
+
+    def slide(self, value: int) -> None:
+        self.driver.ask("slide", self.control("ScrollBar").handle, str(value))
+
+    def close(self) -> None:
+        self.driver.ask("close", self.handle)
+
+    def place(self) -> Place:
+        return next(w.place for w in self.driver.windows() if w.handle == self.handle)
+
+    def is_open(self) -> bool:
+        return any(w.handle == self.handle and w.visible for w in self.driver.windows())
+
+
+class User:
+    """A person at the bench's display: looks, moves the mouse and types."""
+
+    def __init__(self, bench: Bench):
+        self.bench = bench
+
+    def xdotool(self, *arguments: str) -> str:
+        return self.bench.run("xdotool", *arguments, timeout=20).strip()
+
+    def x_window(self, window: Window) -> str:
+        """The window as the display numbers it."""
+        return str(wait_for(lambda: self._find(window), f"{window.title!r} on the display"))
+
+    def _find(self, window: Window) -> str:
+        place = window.place()
+        try:
+            ids = self.xdotool("search", "--onlyvisible", "--name",
+                               f"^{re.escape(window.title)}$").split()
+            for candidate in ids:
+                position = self.xdotool("getwindowgeometry", candidate)
+                found = re.search(r"Position: (-?\d+),(-?\d+)", position)
+                # Two copies have one title; the frame lies between the two kinds of positions.
+                if (found and abs(int(found[1]) - place.x) < 40
+                        and abs(int(found[2]) - place.y) < 60):
+                    return candidate
+        except subprocess.CalledProcessError:
+            pass  # a window went while xdotool looked
+        return ""
+
+    def activate(self, window: Window) -> None:
+        self.xdotool("windowactivate", "--sync", self.x_window(window))
+
+    def point_at(self, control: Control) -> None:
+        x, y = control.place.middle
+        self.xdotool("mousemove", "--sync", str(x), str(y))
+
+    def click(self, window: Window, kind: str, text: str) -> float:
+        """Clicks a control with the mouse; returns the moment before the click."""
+        control = window.control(kind, text)
+        self.point_at(control)
+        # The pointer must have reached the window before the button goes down.
+        time.sleep(0.05)
+        moment = time.monotonic()
+        self.xdotool("click", "1")
+        return moment
+
+    def click_button(self, window: Window, text: str) -> float:
+        return self.click(window, "Button", text)
+
+    def type_keys(self, *keys: str) -> None:
+        self.xdotool("key", "--delay", "60", *keys)
+
+    def screenshot(self, window: Window, path: Path) -> None:
+        """The window as it stands on the screen, with its frame."""
+        path.parent.mkdir(parents=True, exist_ok=True)
+        self.bench.run("import", "-window", self.x_window(window), "-frame", str(path))
+
+
+def wait_for_window(driver: Driver, title: str, process: int | None = None,
+                    seconds: float = 30) -> Window:
+    def find() -> Window | None:
+        for window in driver.windows():
+            if (window.visible and window.title == title
+                    and process in (None, window.process)):
+                return Window(driver, window.handle, title)
+        return None
+
+    found = wait_for(find, f"the window {title!r}", seconds)
+    assert isinstance(found, Window)
+    return found
