@@ -7,8 +7,8 @@
 namespace ui {
 
 // Gives every caption of a window a letter of its own where there is one, and marks it the way the
-// system does: "&" before the letter, "&&" for an ampersand of the text. Earlier captions choose
-// first: the first letter of a word if it is free, else any free letter of the caption.
+// system does: "&" before the letter, "&&" for an ampersand of the text. First letters are given
+// out first, then those of other words, then any letter; earlier captions come before later ones.
 std::vector<std::string> WithAccessKeys(const std::vector<std::string>& captions);
 
 }  // namespace ui

@@ -15,6 +15,11 @@ TEST(AccessKeys, EveryCaptionGetsALetterOfItsOwn) {
             (Captions{"&File", "&Settings", "&Low pitch", "&High pitch", "S&top Sound"}));
 }
 
+TEST(AccessKeys, AFirstLetterIsNotTakenBySomeOtherCaptionsSecondWord) {
+  EXPECT_EQ(WithAccessKeys({"Settings", "Spooky pitch", "Play Sound"}),
+            (Captions{"&Settings", "Sp&ooky pitch", "&Play Sound"}));
+}
+
 TEST(AccessKeys, TheFirstLetterOfAnotherWordComesBeforeALetterInside) {
   EXPECT_EQ(WithAccessKeys({"Low pitch", "Low to high"}), (Captions{"&Low pitch", "Low &to high"}));
 }
