@@ -49,7 +49,7 @@ Form1::ProgramPtr Form1::NewProgram() {
 }
 
 std::shared_ptr<ExFunctions> Form1::NewExFunctions() {
-  ex_functions_ = std::make_shared<ExFunctions>(platform_, *program_);
+  ex_functions_ = std::make_shared<ExFunctions>(platform_, state_, *this, *program_);
   return ex_functions_;
 }
 

@@ -50,6 +50,7 @@ class Form1 : public Form1Controls,
 
   // tone::PlayScene
   bool MainWindowVisible() const override { return Visible(); }
+  ui::WindowView& MainWindowView() override { return *View(); }
   void ShowStatus(const std::string& text) override { StatusBar1.SetCaption(text); }
   std::string StatusCaption() const override { return texts_.status; }
 
@@ -95,7 +96,7 @@ class Form1 : public Form1Controls,
   std::int16_t TakePitch();
   void StartHearingTest();
   void DisableForPlaying();
-  void PlaySweep(const ProgramPtr& program);
+  void PlaySweep(const ProgramPtr& program, sound& tone);
   void PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch);
   void Stop(const ProgramPtr& program);
   void RefreshStatus() { ShowStatus(texts_.status); }

@@ -48,7 +48,7 @@ void Form1::Play(const ProgramPtr& program) {
   if (pitch != kUnusedMarker && pitch != kMorseMarker) DisableForPlaying();
 
   if (pitch == kSweepMarker) {
-    PlaySweep(program);
+    PlaySweep(program, tone);
   } else if (pitch == kMorseMarker) {
     program->PrintFile("#Morse");
     RefreshStatus();
@@ -85,7 +85,12 @@ void Form1::DisableForPlaying() {
   for (ui::OptionButton* option : Options()) option->SetEnabled(false);
 }
 
-void Form1::PlaySweep(const ProgramPtr& program) {
+void Form1::PlaySweep(const ProgramPtr& program, sound& tone) {
+  if (RouteOf(kSweepMarker, state_.SoundBit) == Route::kSoundWinmmLTH) {
+    tone.SoundWinmmLTH();
+  } else {
+    tone.LowToHigh(state_.SoundBit);
+  }
   do {
     WaitTick();
   } while (!PlayingEnds());
@@ -94,7 +99,22 @@ void Form1::PlaySweep(const ProgramPtr& program) {
 
 void Form1::PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch) {
   RefreshStatus();
-  if (RouteOf(pitch, state_.SoundBit) == Route::kSoundWinmmRND) tone.SoundWinmmRND(pitch);
+  switch (RouteOf(pitch, state_.SoundBit)) {
+    case Route::kSound16:
+      tone.Sound16(pitch);
+      break;
+    case Route::kSound32:
+      tone.Sound32(pitch);
+      break;
+    case Route::kToneDXRND:
+      tone.ToneDXRND(pitch);
+      break;
+    case Route::kSoundWinmmRND:
+      tone.SoundWinmmRND(pitch);
+      break;
+    default:
+      break;
+  }
   while (!PlayingEnds()) WaitTick();
   program->PrintFile("#Sound stopped");
   RefreshStatus();

@@ -10,9 +10,13 @@
 #include "settings/activity_log.h"
 #include "settings/error_notes.h"
 #include "settings/settings_file.h"
+#include "tone/direct_sound_routes.h"
+#include "tone/helper_routes.h"
 #include "tone/process_killer.h"
-#include "tone/sound_routes.h"
+#include "tone/route_support.h"
+#include "tone/short_tones.h"
 #include "tone/wave_output.h"
+#include "tone/winmm_routes.h"
 
 namespace app {
 
@@ -38,15 +42,29 @@ class Program : public settings::ErrorNotes,
         ProgramEnd(platform, state, scene.windows, *this) {}
 };
 
-class ExFunctions : public tone::WaveOutput, public tone::ProcessKiller, public SystemChecks {
+class ExFunctions : public tone::WaveOutput,
+                    public tone::ProcessKiller,
+                    public tone::ShortTones,
+                    public SystemChecks {
  public:
-  ExFunctions(platform::Platform& platform, settings::ErrorNotes& errors)
-      : WaveOutput(platform), ProcessKiller(platform), SystemChecks(platform, errors) {}
+  ExFunctions(platform::Platform& platform, base::MainState& state, tone::PlayScene& scene,
+              settings::ErrorNotes& errors)
+      : WaveOutput(platform),
+        ProcessKiller(platform),
+        ShortTones(platform, state, scene),
+        SystemChecks(platform, errors) {}
 };
 
-class sound : public tone::SoundRoutes {
+class sound : public tone::RouteSupport,
+              public tone::WinmmRoutes,
+              public tone::HelperRoutes,
+              public tone::DirectSoundRoutes {
  public:
-  using SoundRoutes::SoundRoutes;
+  sound(platform::Platform& platform, base::MainState& main_state, tone::PlayScene& play_scene)
+      : RouteSupport(platform, main_state, play_scene),
+        WinmmRoutes(static_cast<RouteSupport&>(*this)),
+        HelperRoutes(static_cast<RouteSupport&>(*this)),
+        DirectSoundRoutes(static_cast<RouteSupport&>(*this)) {}
 };
 
 }  // namespace app

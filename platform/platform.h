@@ -1,6 +1,7 @@
 // Everything the program asks of its surroundings, in one bundle of references.
 #pragma once
 
+#include "platform/direct_sound.h"
 #include "platform/files.h"
 #include "platform/system.h"
 #include "platform/text_files.h"
@@ -17,6 +18,8 @@ struct Platform {
   MessagePump& pump;
   Processes& processes;
   WavePlayer& waves;
+  DirectSound& direct_sound;
+  Beeper& beeper;
   Screen& screen;
   SystemVersion& version;
   MessageBoxes& messages;

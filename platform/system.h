@@ -109,6 +109,15 @@ class WavePlayer {
   virtual void Stop(std::uint32_t flags) = 0;
 };
 
+// The system's own beep.
+class Beeper {
+ public:
+  virtual ~Beeper() = default;
+
+  // Sounds and returns when it is over.
+  virtual void Beep(int pitch_hz, int duration_ms) = 0;
+};
+
 class Screen {
  public:
   virtual ~Screen() = default;

@@ -7,12 +7,18 @@
 namespace platform {
 
 std::optional<std::string> TextFiles::Read(const std::string& path) {
+  auto bytes = ReadBytes(path);
+  if (bytes) bytes = code_page_.Decode(*bytes);
+  return bytes;
+}
+
+std::optional<std::string> TextFiles::ReadBytes(const std::string& path) {
   const auto file = files_.OpenForReading(path);
   if (!file) return std::nullopt;
   std::string bytes;
   std::array<char, 4096> block{};
   while (const std::size_t count = file->Read(block)) bytes.append(block.data(), count);
-  return code_page_.Decode(bytes);
+  return bytes;
 }
 
 void TextFiles::Write(const std::string& path, std::string_view text) {

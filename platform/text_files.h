@@ -21,6 +21,7 @@ class TextFiles {
 
   // Nothing when the file does not exist.
   std::optional<std::string> Read(const std::string& path);
+  std::optional<std::string> ReadBytes(const std::string& path);
 
   // Empties the file and writes `text`. On failure whatever was written stays.
   void Write(const std::string& path, std::string_view text);

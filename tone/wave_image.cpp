@@ -34,6 +34,16 @@ void Append(std::string& image, std::int32_t value, int bytes) {
   }
 }
 
+// Writes the low bytes of each value, low byte first.
+template <std::size_t kBytes>
+void WriteData(const std::int32_t* values, std::size_t count, char* data) {
+  for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t byte = 0; byte < kBytes; ++byte) {
+      data[i * kBytes + byte] = static_cast<char>(values[i] >> (8 * byte));
+    }
+  }
+}
+
 }  // namespace
 
 std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
@@ -58,10 +68,13 @@ std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
   Append(image, bits_per_sample, 2);
   image += "data";
   Append(image, sizes.data_field, 4);
-  for (std::size_t i = 0; i < samples.samples(); ++i) {
-    for (std::size_t channel = 0; channel < samples.channels(); ++channel) {
-      Append(image, samples.At(channel, i), bits_per_sample / 8);
-    }
+  image.resize(static_cast<std::size_t>(total));
+  char* const data = image.data() + kWaveHeaderBytes;
+  const std::size_t values = samples.channels() * samples.samples();
+  if (bits_per_sample == 16) {
+    WriteData<2>(samples.Frame(0), values, data);
+  } else {
+    WriteData<1>(samples.Frame(0), values, data);
   }
   return image;
 }

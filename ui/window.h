@@ -24,6 +24,7 @@ class Window {
     std::string caption;
     int width = 0;  // client area, pixels at 96 DPI
     int height = 0;
+    bool takes_focus = true;  // false: only to be looked at, showing it leaves the focus alone
   };
 
   Window(WindowSystem& system, Design design);

@@ -69,6 +69,8 @@ void FakeProcesses::Begin(const std::string& command, const std::string& how) {
     throw base::RuntimeError(base::ErrorCode::kFileNotFound);
   }
   journal_.Add(Kind::kProcess, how + command);
+  const auto process = become.find(command);
+  if (process != become.end()) running.push_back({next_id_++, process->second});
 }
 
 void FakeWavePlayer::Play(const std::string& path, std::uint32_t flags) {
@@ -79,6 +81,12 @@ void FakeWavePlayer::Play(const std::string& path, std::uint32_t flags) {
 void FakeWavePlayer::Stop(std::uint32_t flags) {
   playing.clear();
   journal_.Add(Kind::kSound, "stop " + Hexadecimal(flags));
+}
+
+void FakeBeeper::Beep(int pitch_hz, int duration_ms) {
+  journal_.Add(Kind::kSound,
+               "beep " + std::to_string(pitch_hz) + " " + std::to_string(duration_ms));
+  pump_.Sleep(duration_ms);
 }
 
 VersionRecord FakeVersion::Query() {

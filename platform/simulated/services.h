@@ -51,6 +51,7 @@ class FakeProcesses : public Processes {
   std::vector<ProcessEntry> running;
   std::set<std::uint32_t> protected_ids;   // may not be ended
   std::set<std::string> missing_commands;  // cannot be started
+  std::map<std::string, std::string> become;  // command: name of the process that it starts
 
   std::vector<ProcessEntry> Snapshot() override { return running; }
   bool Terminate(std::uint32_t id) override;
@@ -59,6 +60,8 @@ class FakeProcesses : public Processes {
   [[noreturn]] void EndProcess() override;
 
  private:
+  std::uint32_t next_id_ = 10000;
+
   void Begin(const std::string& command, const std::string& how);
 
   Journal& journal_;
@@ -75,6 +78,18 @@ class FakeWavePlayer : public WavePlayer {
 
  private:
   Journal& journal_;
+};
+
+// Blocks for the length of its sound.
+class FakeBeeper : public Beeper {
+ public:
+  FakeBeeper(Journal& journal, MessagePump& pump) : journal_(journal), pump_(pump) {}
+
+  void Beep(int pitch_hz, int duration_ms) override;
+
+ private:
+  Journal& journal_;
+  MessagePump& pump_;
 };
 
 class FakeScreen : public Screen {

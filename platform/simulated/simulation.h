@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "platform/simulated/direct_sound.h"
 #include "platform/simulated/files.h"
 #include "platform/simulated/journal.h"
 #include "platform/simulated/pump.h"
@@ -35,12 +36,15 @@ class Simulation {
   VirtualPump pump{journal, [this] { return windows.AnyVisible(); }};
   FakeProcesses processes{journal};
   FakeWavePlayer waves{journal};
+  FakeDirectSound direct_sound{journal};
+  FakeBeeper beeper{journal, pump};
   FakeScreen screen;
   FakeVersion version;
   ScriptedMessages messages{journal};
 
-  platform::Platform services{files,     code_page, environment, clock,   random,   pump,
-                              processes, waves,     screen,      version, messages, windows};
+  platform::Platform services{files,     code_page, environment,  clock,  random, pump,
+                              processes, waves,     direct_sound, beeper, screen, version,
+                              messages,  windows};
 
   // Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);

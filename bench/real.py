@@ -1,0 +1,99 @@
+"""Figures of the real program, measured on the private test bench:
+
+- the time from start to visible main window, as a ratio to a bare program with one empty window,
+  the two started alternately;
+- the size of the program's file;
+- its processor time, idle and while it plays, as a share of one core.
+
+Run it with /usr/bin/python3 after ./test or "cmake --build --preset windows".
+"""
+
+import os
+import statistics
+import sys
+import time
+from pathlib import Path
+
+PROJECT = Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(PROJECT / "tests" / "real"))
+
+from bench import PROGRAM, Bench, wait_for  # noqa: E402
+from program import GOOD_SETTINGS, Folders, Tonmira, play_once  # noqa: E402
+from sound import Recorder  # noqa: E402
+from window import Driver, User, wait_for_window  # noqa: E402
+
+BARE = PROJECT / "build" / "windows" / "bench" / "bare_window.exe"
+PAIRS = 20
+WATCHED_S = 10
+
+
+def start_up_ms(bench: Bench, driver: Driver, folders: Folders, exe: Path, title: str) -> float:
+    answer = driver.ask("launch", bench.windows_path(exe), title,
+                        bench.windows_path(folders.temp), bench.windows_path(folders.appdata))
+    time_ms, process = float(answer[0][0]), int(answer[0][1])
+    time.sleep(0.3)
+    wait_for_window(driver, title, process).close()
+    wait_for(lambda: not driver.running(process), f"the end of {title!r}")
+    return time_ms
+
+
+def start_up(bench: Bench, driver: Driver, folders: Folders) -> None:
+    programs = [(PROGRAM, "Tonmira"), (BARE, "Bare")]
+    for program in programs:  # the first start of each reads its file from the disk
+        start_up_ms(bench, driver, folders, *program)
+    times: list[list[float]] = [[], []]
+    for _ in range(PAIRS):
+        for series, program in zip(times, programs):
+            series.append(start_up_ms(bench, driver, folders, *program))
+    own, bare = (statistics.median(series) for series in times)
+    print(f"Start-up to visible main window, medians of {PAIRS} alternate starts: "
+          f"Tonmira {own:.1f} ms, bare window {bare:.1f} ms, ratio {own / bare:.2f}")
+    for name, series in zip(("Tonmira", "bare"), times):
+        print(f"  {name}: {min(series):.1f} to {max(series):.1f} ms")
+
+
+def processor_share(process: int) -> float:
+    """Share of one core in percent that a process takes over the watched time."""
+
+    def ticks() -> int:
+        fields = Path(f"/proc/{process}/stat").read_text().rpartition(")")[2].split()
+        return int(fields[11]) + int(fields[12])
+
+    before, begin = ticks(), time.monotonic()
+    time.sleep(WATCHED_S)
+    used_s = (ticks() - before) / os.sysconf("SC_CLK_TCK")
+    return 100 * used_s / (time.monotonic() - begin)
+
+
+def processor_time(bench: Bench, driver: Driver, folders: Folders) -> None:
+    user, recorder = User(bench), Recorder(bench)
+    program = Tonmira(bench, driver, folders)
+    try:
+        program.wait_for_log(">> Program starting finished")
+        program.window()
+        time.sleep(1)
+        process = program.linux_process()
+        print(f"Processor time over {WATCHED_S} s, share of one core:")
+        print(f"  idle:    {processor_share(process):.2f} %")
+        window = play_once(program, user, "High pitch")
+        recorder.wait_for_tone()
+        time.sleep(1)
+        print(f"  playing: {processor_share(process):.2f} %")
+        window.press("Stop Sound")
+        program.wait_for_buttons(window, playing=False)
+    finally:
+        program.finish()
+        recorder.stop()
+
+
+def main() -> None:
+    print(f"Size of tonmira.exe: {PROGRAM.stat().st_size} bytes")
+    with Bench() as bench:
+        driver, folders = Driver(bench), Folders(bench)
+        folders.write_settings(GOOD_SETTINGS)
+        start_up(bench, driver, folders)
+        processor_time(bench, driver, folders)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,86 @@
+// What every route shares: the generated WAV file, the status text, the wait loop, and the
+// procedure that silences all routes at once.
+//
+// A continuous tone lives until the stop flag is 1 or the main window is not visible; its route
+// then releases what it started. Every procedure of a route traps its own errors and ends quietly.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/main_state.h"
+#include "platform/platform.h"
+#include "tone/process_killer.h"
+#include "tone/wave_output.h"
+
+namespace tone {
+
+inline constexpr std::int16_t kWaveTickMs = 100;
+inline constexpr std::int16_t kHelperTickMs = 208;
+
+// What a playing tone needs of the main window.
+class PlayScene {
+ public:
+  virtual ~PlayScene() = default;
+
+  virtual bool MainWindowVisible() const = 0;
+  virtual ui::WindowView& MainWindowView() = 0;
+  virtual void ShowStatus(const std::string& text) = 0;
+
+  // The caption of the status panel in the loaded language.
+  virtual std::string StatusCaption() const = 0;
+};
+
+class RouteSupport {
+ public:
+  RouteSupport(platform::Platform& platform, base::MainState& main_state, PlayScene& play_scene)
+      : services(platform),
+        state(main_state),
+        scene(play_scene),
+        waves(platform),
+        killer(platform),
+        language_(main_state.language) {}
+
+  std::int16_t online = 0;   // 1 while the program shuts down
+  std::int16_t playing = 0;  // cleared by KillAll
+
+  // The language of the status texts; at first the main window's.
+  void setLang(const std::string& newlang) { language_ = newlang; }
+
+  // Silences every route and deletes the temporary files. A DirectSound buffer is stopped by the
+  // route that plays it.
+  void KillAll();
+
+  // For the routes.
+  platform::Platform& services;
+  base::MainState& state;
+  PlayScene& scene;
+  WaveOutput waves;
+  ProcessKiller killer;
+
+  void ReadTempFolder();
+  std::string WavePath() const { return temp_ + "\\tnfwinmmtmp.wav"; }
+  std::string HandOverPath() const { return temp_ + "\\sound.ini"; }
+
+  // Writes one second of a tone as the generated WAV file.
+  void WriteTone(std::int32_t pitch);
+  void DeleteIfThere(const std::string& path);
+
+  // "Actual pitch (Hertz): ", in Dutch the loaded caption; then the pitch in bare digits.
+  void ShowPitchCaption();
+  void ShowPitch(std::int32_t pitch);
+
+  bool Stopped() const;
+  void HandleMessages();
+
+  // Handles messages and waits, in turn, until the tone is stopped.
+  void WaitUntilStopped(std::int16_t tick_ms);
+
+ private:
+  std::string PitchCaption() const;
+
+  std::string language_;
+  std::string temp_;
+};
+
+}  // namespace tone

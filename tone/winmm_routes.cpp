@@ -1,0 +1,72 @@
+#include "tone/winmm_routes.h"
+
+#include "base/numbers.h"
+#include "tone/quietly.h"
+
+namespace tone {
+namespace {
+
+constexpr std::int16_t kSweepTop = 32000;
+constexpr std::int16_t kSweepStep = 200;
+constexpr std::int16_t kSweepTickMs = 75;
+
+}  // namespace
+
+void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
+  Quietly([&] {
+    support_.ReadTempFolder();
+    StartTone(pitch);
+    support_.ShowPitch(pitch);
+    support_.WaitUntilStopped(kWaveTickMs);
+    StopTone();
+    support_.DeleteIfThere(support_.WavePath());
+  });
+}
+
+void WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch, std::int16_t Duration) {
+  Quietly([&] {
+    support_.ReadTempFolder();
+    StartTone(pitch);
+    support_.waves.delay(Duration);
+    StopTone();
+    support_.DeleteIfThere(support_.WavePath());
+  });
+}
+
+void WinmmRoutes::SoundWinmm(std::int16_t pitch, const std::string& modeval) {
+  Quietly([&] {
+    support_.waves.WavPlay("tonedx" + modeval + ".dll", true, false);
+    support_.ShowPitch(pitch);
+    support_.WaitUntilStopped(kWaveTickMs);
+    StopTone();
+  });
+}
+
+void WinmmRoutes::SoundWinmmLTH() {
+  Quietly([this] {
+    support_.ReadTempFolder();
+    std::int16_t pitch = 0;
+    do {
+      support_.HandleMessages();
+      if (pitch >= kSweepTop) pitch = 0;
+      pitch = base::ToInt16(pitch + kSweepStep);
+      StartTone(pitch);
+      support_.ShowPitch(pitch);
+      support_.waves.delay(kSweepTickMs);
+      StopTone();
+    } while (!support_.Stopped());
+    StopTone();
+    support_.DeleteIfThere(support_.WavePath());
+  });
+}
+
+void WinmmRoutes::StartTone(std::int32_t pitch) {
+  support_.WriteTone(pitch);
+  support_.waves.WavPlay(support_.WavePath(), true, false);
+}
+
+void WinmmRoutes::StopTone() {
+  support_.waves.WavPlay("0", false, true);
+}
+
+}  // namespace tone
