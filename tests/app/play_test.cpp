@@ -237,7 +237,7 @@ TEST_F(PlayTest, AModeThatWasDisabledBeforeAPlayStaysSo) {
   EXPECT_FALSE(Run());
 }
 
-TEST_F(PlayTest, AnUnknownSoundModePlaysNothingAndWaitsInTicksOf208Ms) {
+TEST_F(PlayTest, ClassicWaitsInTicksOf208Ms) {
   sim.files.Put(kSettings, GoodSettings("16"));
   At(1s, [this](Form1& form1) {
     form1.Option1.Click();
@@ -248,6 +248,63 @@ TEST_F(PlayTest, AnUnknownSoundModePlaysNothingAndWaitsInTicksOf208Ms) {
   Run();
   EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines{"sleep 208", "sleep 208", "sleep 208"}));
   EXPECT_EQ(EntriesAfterStart().back(), "#Sound stopped");
+}
+
+struct RouteCase {
+  std::string sound_bit;
+  int mode;
+  Lines first_steps;  // of processes and sounds
+};
+
+class RoutesTest : public PlayTest, public testing::WithParamInterface<RouteCase> {};
+
+TEST_P(RoutesTest, TheSoundModeDecidesWhoSounds) {
+  sim.files.Put(kSettings, GoodSettings(GetParam().sound_bit));
+  At(1s, [this](Form1& form1) {
+    form1.Options()[static_cast<std::size_t>(GetParam().mode - 1)]->Click();
+    sim.journal.Clear();
+    form1.Command2.Click();
+  });
+  At(1050ms, [](Form1& form1) { form1.Command3.Click(); });
+  EXPECT_FALSE(Run());
+  const Lines steps = sim.journal.Texts({Kind::kProcess, Kind::kSound});
+  ASSERT_GE(steps.size(), GetParam().first_steps.size());
+  EXPECT_EQ(Lines(steps.begin(), steps.begin() + std::ssize(GetParam().first_steps)),
+            GetParam().first_steps);
+  EXPECT_FALSE(sim.files.Exists(kWave));
+  EXPECT_FALSE(sim.files.Exists("C:\\Temp\\sound.ini"));
+  EXPECT_TRUE(sim.waves.playing.empty());
+  EXPECT_EQ(sim.direct_sound.live_objects, 0);
+  EXPECT_EQ(LogEntries().back(), "#Sound stopped");
+}
+
+const std::string kPlayed = "play C:\\Temp\\tnfwinmmtmp.wav 0x20009";
+
+INSTANTIATE_TEST_SUITE_P(
+    SoundModes, RoutesTest,
+    testing::Values(RouteCase{"16", 1, {"start hidden cmd /c play16.exe"}},
+                    RouteCase{"32", 7, {"start hidden tone32.dll"}},
+                    RouteCase{"64", 3, {kPlayed, "directsound root", "directsound device"}},
+                    RouteCase{"128", 7, {kPlayed, "stop 0x2"}},
+                    RouteCase{"256", 3, {kPlayed, "stop 0x2"}},
+                    RouteCase{"16", 6, {"start hidden cmd /c play16.exe"}},
+                    RouteCase{"32", 6, {"start hidden tone32.dll"}},
+                    RouteCase{"128", 6, {kPlayed, "stop 0x2", "stop 0x2"}},
+                    RouteCase{"256", 6, {kPlayed, "stop 0x2", "stop 0x2"}}));
+
+TEST_F(PlayTest, LowToHighWithClassicAsksItsHelperForASweep) {
+  sim.files.Put(kSettings, GoodSettings("16"));
+  At(1s, [](Form1& form1) {
+    form1.Option6.Click();
+    form1.Command2.Click();
+  });
+  At(1100ms, [this](Form1& form1) {
+    EXPECT_EQ(sim.files.Get("C:\\Temp\\sound.ini"), "1\r\n");
+    form1.Command3.Click();
+  });
+  Run();
+  EXPECT_EQ(EntriesAfterStart(), (Lines{"#Option 6 Clicked", "#Pressed Button 2", "1",
+                                        "#Pressed Button 3", "#Sound stopped"}));
 }
 
 TEST_F(PlayTest, StopSilencesEveryRoute) {
@@ -342,7 +399,7 @@ TEST_P(QuickRoundsTest, OfPlayAndStopDoNotDeepenTheStack) {
   EXPECT_TRUE(main().Command2.Enabled());
 }
 
-// The sound of a helper costs nothing here; every round of the player makes a second of samples.
+// A helper's sound costs nothing here; every round of the player makes a second of samples.
 INSTANTIATE_TEST_SUITE_P(Many, QuickRoundsTest,
                          testing::Values(Rounds{"16", 10000}, Rounds{"256", 100}));
 

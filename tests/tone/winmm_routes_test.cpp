@@ -1,0 +1,161 @@
+#include "tests/tone/fixture.h"
+
+namespace tone {
+namespace {
+
+class WinmmTest : public RoutesFixture {};
+
+TEST_F(WinmmTest, AToneIsWrittenLoopedStoppedAndCleanedUp) {
+  StopAt(250ms);
+  winmm.SoundWinmmRND(440);
+  EXPECT_EQ(Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
+            (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+                   "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 440", "stop 0x2",
+                   "delete " + kWavePath}));
+  EXPECT_EQ(sim.pump.now_ms(), 400);
+}
+
+TEST_F(WinmmTest, HidingTheMainWindowEndsTheTone) {
+  sim.At(150ms, [this] { scene.visible = false; });
+  winmm.SoundWinmmRND(440);
+  EXPECT_EQ(sim.pump.now_ms(), 300);
+  EXPECT_TRUE(sim.waves.playing.empty());
+}
+
+TEST_F(WinmmTest, AToneOfFixedLengthHandlesNoMessagesAndShowsNoStatus) {
+  bool handled = false;
+  sim.At(10ms, [&handled] { handled = true; });
+  winmm.SoundWinmmRNDTMP(700, 200);
+  EXPECT_EQ(sim.pump.now_ms(), 200);
+  EXPECT_FALSE(handled);
+  EXPECT_EQ(Journal({Kind::kSound, Kind::kControl}),
+            (Lines{"play " + kWavePath + " 0x20009", "stop 0x2"}));
+  EXPECT_FALSE(sim.files.Exists(kWavePath));
+}
+
+TEST_F(WinmmTest, APreparedFileIsPlayedFromTheCurrentFolder) {
+  StopAt(100ms);
+  winmm.SoundWinmm(440, "3");
+  EXPECT_EQ(Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
+            (Lines{"play tonedx3.dll 0x20009", "Actual pitch (Hertz): 440", "stop 0x2"}));
+}
+
+TEST_F(WinmmTest, TheSweepStepsBy200HzEvery75MsAndBeginsAnewAfter32000) {
+  // 160 steps to the top, and two more.
+  StopAt(std::chrono::milliseconds(75 * 161));
+  winmm.SoundWinmmLTH();
+  const Lines statuses = Journal({Kind::kControl});
+  ASSERT_EQ(statuses.size(), 162u);
+  EXPECT_EQ(statuses[0], "Actual pitch (Hertz): 200");
+  EXPECT_EQ(statuses[1], "Actual pitch (Hertz): 400");
+  EXPECT_EQ(statuses[158], "Actual pitch (Hertz): 31800");
+  EXPECT_EQ(statuses[159], "Actual pitch (Hertz): 32000");
+  EXPECT_EQ(statuses[160], "Actual pitch (Hertz): 200");
+  EXPECT_EQ(statuses[161], "Actual pitch (Hertz): 400");
+  EXPECT_EQ(sim.pump.now_ms(), 75 * 162);
+}
+
+TEST_F(WinmmTest, StopDuringAStepEndsTheSweepAfterItsDelayAndLeavesNoFile) {
+  StopAt(100ms);
+  winmm.SoundWinmmLTH();
+  EXPECT_EQ(Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
+            (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+                   "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 200", "stop 0x2",
+                   "delete " + kWavePath, "create " + kWavePath,
+                   "write " + kWavePath + ", 176444 bytes", "play " + kWavePath + " 0x20009",
+                   "Actual pitch (Hertz): 400", "stop 0x2", "delete " + kWavePath,
+                   "create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+                   "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 600", "stop 0x2",
+                   "stop 0x2", "delete " + kWavePath}));
+}
+
+TEST_F(WinmmTest, InDutchTheLoadedCaptionStandsBeforeThePitch) {
+  support.setLang("nl");
+  StopAt(100ms);
+  winmm.SoundWinmmRND(440);
+  EXPECT_EQ(scene.status, "Huidige toonhoogte (Hertz): 440");
+  support.KillAll();
+  EXPECT_EQ(scene.status, "Huidige toonhoogte (Hertz): ");
+}
+
+TEST_F(WinmmTest, AFullDiskIsSilentAndTheToneStillStops) {
+  sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  StopAt(300ms);
+  winmm.SoundWinmmRND(440);
+  EXPECT_EQ(sim.pump.now_ms(), 400);
+  EXPECT_TRUE(Journal({Kind::kMessage}).empty());
+}
+
+TEST_F(WinmmTest, AReadOnlyWaveFileIsSilentAndTheToneStillStops) {
+  sim.files.Put(kWavePath, "old");
+  sim.files.Fail(Operation::kDelete, kWavePath, ErrorCode::kPathFileAccess);
+  sim.files.Fail(Operation::kOpenForWriting, kWavePath, ErrorCode::kPathFileAccess);
+  StopAt(100ms);
+  EXPECT_NO_THROW(winmm.SoundWinmmRND(440));
+  EXPECT_EQ(sim.pump.now_ms(), 200);
+}
+
+class ShortTonesTest : public RoutesFixture {};
+
+TEST_F(ShortTonesTest, TheHelperModesUseTheSystemsBeep) {
+  for (const char* code : {"16", "32"}) {
+    sim.journal.Clear();
+    state.SoundBit = code;
+    short_tones.sound(700, 100);
+    EXPECT_EQ(Journal({Kind::kSound}), (Lines{"beep 700 100"})) << code;
+  }
+}
+
+TEST_F(ShortTonesTest, AutomaticSoundsExactlyAsWinmm) {
+  Lines journals[2];
+  for (int i = 0; i < 2; ++i) {
+    sim.journal.Clear();
+    state.SoundBit = i == 0 ? "128" : "256";
+    short_tones.sound(700, 100);
+    journals[i] = Journal({Kind::kFile, Kind::kSound});
+  }
+  EXPECT_EQ(journals[0], journals[1]);
+  EXPECT_EQ(journals[0],
+            (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+                   "play " + kWavePath + " 0x20009", "stop 0x2", "delete " + kWavePath}));
+}
+
+TEST_F(ShortTonesTest, DirectSoundIsSilentAndReturnsAtOnce) {
+  state.SoundBit = "64";
+  short_tones.sound(700, 100);
+  EXPECT_TRUE(Journal({Kind::kSound, Kind::kFile}).empty());
+  EXPECT_EQ(sim.pump.now_ms(), 0);
+}
+
+class KillAllTest : public RoutesFixture {};
+
+TEST_F(KillAllTest, SilencesEveryRouteInItsOrder) {
+  sim.processes.running = {{1, "tone16.dll"}, {2, "mytone32.dll"}};
+  sim.files.Put(kHandOver, " 440 \r\n");
+  sim.files.Put(kWavePath, "wave");
+  support.playing = 1;
+  support.KillAll();
+  EXPECT_EQ(Journal({Kind::kProcess, Kind::kSound, Kind::kControl, Kind::kFile}),
+            (Lines{"terminate mytone32.dll", "terminate tone16.dll", "stop 0x2",
+                   "Actual pitch (Hertz): ", "delete " + kHandOver, "delete " + kWavePath}));
+  EXPECT_EQ(support.playing, 0);
+}
+
+TEST_F(KillAllTest, AFileThatCannotBeDeletedDoesNotKeepTheOtherFromGoing) {
+  sim.files.Put(kHandOver, " 440 \r\n");
+  sim.files.Put(kWavePath, "wave");
+  sim.files.Lock(kHandOver);
+  support.KillAll();
+  EXPECT_FALSE(sim.files.Exists(kWavePath));
+}
+
+TEST_F(KillAllTest, AHelperThatEndsWhileItIsBeingEndedIsNoFailure) {
+  sim.processes.running = {{1, "tone32.dll"}};
+  sim.processes.protected_ids = {1};
+  sim.files.Put(kHandOver, " 440 \r\n");
+  support.KillAll();
+  EXPECT_FALSE(sim.files.Exists(kHandOver));
+}
+
+}  // namespace
+}  // namespace tone
