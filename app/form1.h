@@ -124,7 +124,6 @@ class Form1 : public Form1Controls,
   std::string command_line_;
   std::string command_line_file_;
   std::int16_t file_mode_flag_ = 0;
-  std::int16_t connection_flag_ = 0;
   std::int16_t start_up_flag_ = 0;
   std::int16_t close_attempts_ = 0;
   std::int16_t last_close_answer_ = 0;
