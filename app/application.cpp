@@ -7,12 +7,13 @@ namespace app {
 
 Application::Application(platform::Platform& platform)
     : form1(platform, *this, CommandLine(platform)),
-      form2(platform.windows),
+      form2(platform.windows, [this] { LoadHelpCaptions(); }),
+      form4(platform, form1.State(), form1, *this),
       form6(platform.windows, [this] { UnloadAll(); }),
       form8(platform.windows),
       platform_(platform) {
-  for (ui::Window* window : {static_cast<ui::Window*>(&form1), static_cast<ui::Window*>(&form2),
-                             static_cast<ui::Window*>(&form6), static_cast<ui::Window*>(&form8)}) {
+  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form4, &form6, &form8};
+  for (ui::Window* window : windows) {
     window->OnUntrappedError = [this](const base::RuntimeError& error) { EndAfter(error); };
   }
 }
@@ -30,13 +31,38 @@ void Application::Run() {
 void Application::HideOtherWindows() {
   form1.Hide();
   form2.Hide();
+  form4.Hide();
   form8.Hide();
 }
 
 void Application::UnloadOtherWindows() {
   form2.Unload();
+  form4.Unload();
   form6.Unload();
   form8.Unload();
+}
+
+std::vector<lang::CaptionSlot> Application::CaptionsOf(std::int16_t formval) {
+  switch (formval) {
+    case lang::kMainWindow:
+      return form1.Captions();
+    case lang::kHelpWindow:
+      return form2.Captions();
+    case lang::kMorseWindow:
+      return form4.Captions();
+    default:
+      return {};
+  }
+}
+
+void Application::LoadMorseCaptions(const std::string& language) {
+  form1.LoadCaptions(language, lang::kMorseWindow);
+}
+
+// The help window is designed in English.
+void Application::LoadHelpCaptions() {
+  const std::string& language = form1.State().language;
+  if (language == "nl") form1.LoadCaptions(language, lang::kHelpWindow);
 }
 
 // A path is resolved before the program's own folder becomes the current one: language files and

@@ -6,12 +6,13 @@
 #include "app/form1.h"
 #include "app/form2.h"
 #include "app/form8.h"
+#include "morse/form4.h"
 #include "platform/platform.h"
 #include "settings/form6.h"
 
 namespace app {
 
-class Application : public OtherWindows {
+class Application : public OtherWindows, public morse::MorseScene {
  public:
   explicit Application(platform::Platform& platform);
 
@@ -20,6 +21,7 @@ class Application : public OtherWindows {
 
   Form1 form1;
   Form2 form2;
+  morse::Form4 form4;
   settings::Form6 form6;
   Form8 form8;
 
@@ -27,6 +29,14 @@ class Application : public OtherWindows {
   ui::Window& StatusWindow() override { return form8; }
   ui::Label& StatusLabel() override { return form8.Label2; }
   ui::Window& HelpWindow() override { return form2; }
+  ui::Window& MorseWindow() override { return form4; }
+
+  // lang::CaptionScene
+  std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval) override;
+  void UseTexts(const lang::Texts& texts) override { form1.UseTexts(texts); }
+
+  // morse::MorseScene
+  void LoadMorseCaptions(const std::string& language) override;
 
   // settings::ErrorScene
   settings::Form6& ErrorDialog() override { return form6; }
@@ -38,6 +48,7 @@ class Application : public OtherWindows {
 
  private:
   static std::string CommandLine(platform::Platform& platform);
+  void LoadHelpCaptions();
   void UnloadAll();
   void EndAfter(const base::RuntimeError& error);
 

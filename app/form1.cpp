@@ -11,7 +11,7 @@ Form1::Form1(platform::Platform& platform, OtherWindows& others, std::string com
     : Form1Controls(platform.windows),
       platform_(platform),
       others_(others),
-      scene_{*this, others, *this, others},
+      scene_{*this, others, *this, others, others},
       command_line_(std::move(command_line)) {
   ConnectControls();
   ConnectMenu();

@@ -18,11 +18,14 @@
 namespace app {
 
 // The other windows of the program, as the main window reaches them.
-class OtherWindows : public WindowList, public settings::ErrorScene {
+class OtherWindows : public WindowList,
+                     public settings::ErrorScene,
+                     public lang::CaptionScene {
  public:
   virtual ui::Window& StatusWindow() = 0;  // Form8
   virtual ui::Label& StatusLabel() = 0;    // Form8.Label2
   virtual ui::Window& HelpWindow() = 0;    // Form2
+  virtual ui::Window& MorseWindow() = 0;   // Form4
 };
 
 class Form1 : public Form1Controls,
@@ -33,10 +36,17 @@ class Form1 : public Form1Controls,
   // `command_line` is what followed the program's name, its path resolved.
   Form1(platform::Platform& platform, OtherWindows& others, std::string command_line);
 
-  const base::MainState& State() const { return state_; }
+  base::MainState& State() { return state_; }
 
   // Whether something hid the window since it began to load.
   bool StaysHidden() const { return stays_hidden_; }
+
+  // The captions of this window, by slot of a language file.
+  std::vector<lang::CaptionSlot> Captions();
+  void UseTexts(const lang::Texts& texts);
+
+  // Applies the language file of `language` to a window.
+  void LoadCaptions(const std::string& language, std::int16_t formval);
 
   void Hide() override;
   void HelpRequested() override;
@@ -44,6 +54,7 @@ class Form1 : public Form1Controls,
   // settings::SettingsDisplay
   void ShowAutoUpdate(bool on) override;
   void ShowLanguage(const std::string& language) override;
+  void LoadCaptions(const std::string& code) override { LoadCaptions(code, lang::kMainWindow); }
   void ShowMicrophone(bool on) override;
   void ShowMicrophoneLevel(std::int16_t level) override;
   void HideMainWindow() override { Hide(); }

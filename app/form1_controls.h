@@ -63,7 +63,7 @@ class Form1Controls : public ui::Window {
   ui::MenuItem sndwinmm{soundmode, "sndwinmm", "Winmm"};
   ui::MenuItem language{settings, "language", "Language"};
   ui::MenuItem english{language, "english", "English"};
-  ui::MenuItem dutch{language, "dutch", "Dutch"};
+  ui::MenuItem dutch{language, "dutch", "Nederlands"};
   ui::MenuItem separator{settings, "-", ""};
   ui::MenuItem microinputonoff{settings, "microinputonoff", "Display Microphone Input"};
   ui::MenuItem autoupdate{settings, "autoupdate", "Check for updates at start"};

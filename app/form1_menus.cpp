@@ -41,6 +41,9 @@ void Form1::ChooseLanguage(std::int16_t error_value, const std::string& code,
     ShowLanguage(code);
     program->WriteLine(3, setting);
     state_.language = code;
+    program->LanguageAPI(code, lang::kMainWindow);
+    const int mode = SelectedMode();
+    if (mode != 0) program->SelectRadio(static_cast<std::int16_t>(mode));
   });
 }
 

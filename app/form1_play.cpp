@@ -52,6 +52,7 @@ void Form1::Play(const ProgramPtr& program) {
   } else if (pitch == kMorseMarker) {
     program->PrintFile("#Morse");
     RefreshStatus();
+    others_.MorseWindow().Show();
   } else {
     PlayTone(program, tone, pitch);
   }

@@ -91,6 +91,7 @@ void Form1::ReadSettings() {
   program_->PrintFile("> Reading settings");
   ShowStep("Reading settings...");
   program_->CheckSettings();
+  program_->LanguageAPI(state_.language, lang::kMainWindow);
   program_->PrintFile("> Bit: " + state_.SoundBit);
 }
 

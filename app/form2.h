@@ -1,19 +1,27 @@
 // The help window: what the nine tone modes, the slider and the sound modes do.
 #pragma once
 
+#include <functional>
+#include <vector>
+
+#include "lang/language_loader.h"
 #include "ui/window.h"
 
 namespace app {
 
 class Form2 : public ui::Window {
  public:
-  explicit Form2(ui::WindowSystem& system);
+  // `load_captions` translates this window where the language asks for it.
+  Form2(ui::WindowSystem& system, std::function<void()> load_captions);
+
+  // The captions of this window, by slot of a language file.
+  std::vector<lang::CaptionSlot> Captions();
 
   ui::Label Label1{*this, "Label1", {16, 14, 528, 24}, "How to make a tone",
                    ui::Label::Style::kHeading};
   ui::Label Label2{*this, "Label2", {16, 42, 528, 36},
-                   "Choose a tone mode on the left, then press \"Play Sound\". The tone sounds until "
-                   "you press \"Stop Sound\". The Enter key plays, the Esc key stops."};
+                   "Choose a tone mode on the left, then press Play Sound. The tone sounds until you "
+                   "press Stop Sound. The Enter key plays, the Esc key stops."};
   ui::Label Label3{*this, "Label3", {16, 90, 528, 36},
                    "Low, Average, High and Extreme pitch play 1000, 4500, 10000 and 16600 Hz. Spooky "
                    "pitch plays 21000 Hz, which most people do not hear."};
@@ -36,6 +44,12 @@ class Form2 : public ui::Window {
   ui::Label Label9{*this, "Label9", {16, 382, 528, 36},
                    "Loud high tones can damage your hearing, even tones that you do not hear. Set "
                    "the volume low before you play them."};
+
+ protected:
+  void Form_Load() override { load_captions_(); }
+
+ private:
+  std::function<void()> load_captions_;
 };
 
 }  // namespace app

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "base/main_state.h"
+#include "lang/language_loader.h"
 #include "settings/activity_log.h"
 #include "settings/error_notes.h"
 
@@ -19,14 +21,17 @@ class ModeDisplay {
 
 class ModeSelection {
  public:
-  ModeSelection(ModeDisplay& display, settings::ActivityLog& log, settings::ErrorNotes& errors)
-      : display_(display), log_(log), errors_(errors) {}
+  ModeSelection(const base::MainState& state, ModeDisplay& display, lang::LanguageLoader& languages,
+                settings::ActivityLog& log, settings::ErrorNotes& errors)
+      : state_(state), display_(display), languages_(languages), log_(log), errors_(errors) {}
 
-  // Applies the choice of mode `newselected`, 1 to 9. Error value 1010.
+  // Applies the choice of mode `newselected`, 1 to 9, with freshly loaded texts. Error value 1010.
   void SelectRadio(std::int16_t newselected);
 
  private:
+  const base::MainState& state_;
   ModeDisplay& display_;
+  lang::LanguageLoader& languages_;
   settings::ActivityLog& log_;
   settings::ErrorNotes& errors_;
 };

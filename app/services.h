@@ -6,6 +6,7 @@
 #include "app/program_end.h"
 #include "app/system_checks.h"
 #include "base/main_state.h"
+#include "lang/language_loader.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
 #include "settings/error_notes.h"
@@ -25,12 +26,14 @@ struct Scene {
   settings::SettingsDisplay& settings;
   settings::ErrorScene& errors;
   ModeDisplay& modes;
+  lang::CaptionScene& captions;
   WindowList& windows;
 };
 
 class Program : public settings::ErrorNotes,
                 public settings::ActivityLog,
                 public settings::SettingsFile,
+                public lang::LanguageLoader,
                 public ModeSelection,
                 public ProgramEnd {
  public:
@@ -38,7 +41,8 @@ class Program : public settings::ErrorNotes,
       : ErrorNotes(platform, scene.errors),
         ActivityLog(platform, *this),
         SettingsFile(platform, state, scene.settings, *this, *this),
-        ModeSelection(scene.modes, *this, *this),
+        LanguageLoader(platform, scene.captions, *this),
+        ModeSelection(state, scene.modes, *this, *this, *this),
         ProgramEnd(platform, state, scene.windows, *this) {}
 };
 

@@ -54,6 +54,12 @@ std::string_view TrimLeft(std::string_view text) {
   return text;
 }
 
+std::string_view Trim(std::string_view text) {
+  text = TrimLeft(text);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
 double Convert(std::string_view number) {
   std::string digits(number);
   for (char& c : digits) {
@@ -99,11 +105,14 @@ double LeadingNumber(std::string_view text) {
 }
 
 double NumberFromText(std::string_view text) {
-  text = TrimLeft(text);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  if (!IsNumber(text)) throw RuntimeError(ErrorCode::kTypeMismatch);
+  return Convert(Trim(text));
+}
+
+bool IsNumber(std::string_view text) {
+  text = Trim(text);
   const std::size_t length = NumberLength(text);
-  if (length == 0 || length != text.size()) throw RuntimeError(ErrorCode::kTypeMismatch);
-  return Convert(text);
+  return length != 0 && length == text.size();
 }
 
 double WholePart(double value) {

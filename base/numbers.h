@@ -23,6 +23,9 @@ double LeadingNumber(std::string_view text);
 // Throws kTypeMismatch when it is none, kOverflow beyond the range of double.
 double NumberFromText(std::string_view text);
 
+// Whether NumberFromText takes the text for a number (of any size).
+bool IsNumber(std::string_view text);
+
 // The greatest whole number not above `value`.
 double WholePart(double value);
 

@@ -22,6 +22,19 @@ bool EndsWith(std::string_view text, std::string_view ending) {
   return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
 }
 
+std::vector<std::string> Characters(std::string_view text) {
+  std::vector<std::string> characters;
+  for (const char c : text) {
+    const bool continues = (c & 0xC0) == 0x80;
+    if (continues && !characters.empty()) {
+      characters.back() += c;
+    } else {
+      characters.emplace_back(1, c);
+    }
+  }
+  return characters;
+}
+
 std::string Line(std::string_view text) {
   return std::string(text) + "\r\n";
 }

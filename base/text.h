@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace base {
 
@@ -13,6 +14,9 @@ std::string ToLower(std::string_view text);
 std::string RemoveAll(std::string_view text, char marker);
 
 bool EndsWith(std::string_view text, std::string_view ending);
+
+// The characters of `text`, each a text of its own. A byte that is no UTF-8 counts as one.
+std::vector<std::string> Characters(std::string_view text);
 
 // `text` followed by CR LF, the line end of every file this program writes.
 std::string Line(std::string_view text);

@@ -88,6 +88,7 @@ bool SettingsFile::ApplyLanguage() {
   log_.PrintFile(slots_[3]);
   state_.language = *language;
   display_.ShowLanguage(*language);
+  display_.LoadCaptions(*language);
   return true;
 }
 

@@ -26,6 +26,7 @@ class SettingsDisplay {
 
   virtual void ShowAutoUpdate(bool on) = 0;
   virtual void ShowLanguage(const std::string& language) = 0;
+  virtual void LoadCaptions(const std::string& language) = 0;
   virtual void ShowMicrophone(bool on) = 0;
   virtual void ShowMicrophoneLevel(std::int16_t level) = 0;
   virtual void HideMainWindow() = 0;

@@ -27,6 +27,8 @@ enum class ControlKind {
   kPictureBox,
   kLine,
   kListBox,
+  kTextBox,
+  kCheckBox,
   kStatusBar,
 };
 
@@ -61,6 +63,9 @@ class Control {
 
  protected:
   void Tell(Property property);
+
+  // As SetCaption, but the view is not told.
+  void StoreCaption(const std::string& caption) { caption_ = caption; }
 
   // Runs a user's event of this control; nothing happens while it is disabled or hidden.
   void Raise(const std::function<void()>& handler);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/window.h"
+
 namespace ui {
 
 void OptionButton::SetValue(bool value) {
@@ -57,6 +59,34 @@ void ListBox::SetItems(const std::vector<std::string>& items) {
 void ListBox::Reset() {
   Control::Reset();
   items_.clear();
+}
+
+bool TextBox::KeyPress(char32_t key) {
+  bool accepted = true;
+  if (AcceptsKey) Owner().Handle([&] { accepted = AcceptsKey(key); });
+  return accepted;
+}
+
+void TextBox::Edit(const std::string& text) {
+  if (Enabled() && Visible()) StoreCaption(text);
+}
+
+void CheckBox::SetValue(bool value) {
+  if (value_ == value) return;
+  value_ = value;
+  Tell(Property::kValue);
+}
+
+void CheckBox::Reset() {
+  Control::Reset();
+  value_ = false;
+}
+
+void CheckBox::Click() {
+  Raise([this] {
+    SetValue(!value_);
+    if (OnClick) OnClick();
+  });
 }
 
 }  // namespace ui

@@ -130,6 +130,49 @@ class ListBox : public Control {
   std::vector<std::string> items_;
 };
 
+// A field for text; its caption is the text.
+class TextBox : public Control {
+ public:
+  enum class Lines { kOne, kMany };
+
+  TextBox(Window& window, std::string name, Rect bounds, std::string text,
+          Lines lines = Lines::kOne)
+      : Control(window, ControlKind::kTextBox, std::move(name), bounds, std::move(text)),
+        lines_(lines) {}
+
+  Lines lines() const { return lines_; }
+  const std::string& Text() const { return Caption(); }
+  void SetText(const std::string& text) { SetCaption(text); }
+
+  // Whether a typed character (a Unicode code point) may enter the field; any may without it.
+  std::function<bool(char32_t)> AcceptsKey;
+  bool KeyPress(char32_t key);
+
+  // What the user's editing does: the field holds `text` now. The view knows already.
+  void Edit(const std::string& text);
+
+ private:
+  Lines lines_;
+};
+
+class CheckBox : public Control {
+ public:
+  CheckBox(Window& window, std::string name, Rect bounds, std::string caption)
+      : Control(window, ControlKind::kCheckBox, std::move(name), bounds, std::move(caption)) {}
+
+  bool Value() const { return value_; }
+  void SetValue(bool value);
+  void Reset() override;
+
+  std::function<void()> OnClick;
+
+  // What a user's click does: the box changes, then its handler runs.
+  void Click();
+
+ private:
+  bool value_ = false;
+};
+
 // A status bar; its caption is the text of its first panel.
 class StatusBar : public Control {
  public:

@@ -21,7 +21,7 @@ TEST_F(SettingsTest, AGoodFileIsAppliedAndEchoedToTheLog) {
   EXPECT_EQ(state.SendData, 0);
   EXPECT_EQ(state.Microphone, 1);
   EXPECT_EQ(state.MicrophoneON, 1);
-  EXPECT_EQ(display.calls, (Lines{"auto update on", "language en", "microphone on", "level 1"}));
+  EXPECT_EQ(display.calls, (Lines{"auto update on", "language en", "captions en", "microphone on", "level 1"}));
   EXPECT_EQ(LogEntries(), (Lines{"AutoUpdate=y", "Soundbit=128", "Language=EN", "SendData=n",
                                  "Microphone=1", "MicrophoneON=y"}));
 }
@@ -30,7 +30,7 @@ TEST_F(SettingsTest, KeysAndValuesAreMatchedIgnoringCase) {
   Put("AUTOUPDATE=Y\r\nsoundbit=64\r\nLANGUAGE=nl\r\nsenddata=Y\r\nMICROPHONE=20\r\n"
       "microphoneon=N\r\n");
   file.CheckSettings();
-  EXPECT_EQ(display.calls, (Lines{"auto update on", "language nl", "microphone off", "level 20"}));
+  EXPECT_EQ(display.calls, (Lines{"auto update on", "language nl", "captions nl", "microphone off", "level 20"}));
   EXPECT_EQ(state.SoundBit, "64");
   EXPECT_EQ(state.SendData, 1);
   EXPECT_EQ(state.MicrophoneON, 0);
@@ -78,18 +78,18 @@ INSTANTIATE_TEST_SUITE_P(
                 {"auto update on"}},
         BadFile{"ACommaThatShiftsTheLines",
                 "AutoUpdate=n\r\nSoundBit=64\r\nLanguage=EN,extra\r\n" + kTail,
-                {"auto update off", "language en"}},
+                {"auto update off", "language en", "captions en"}},
         BadFile{"MicrophoneZero",
                 "AutoUpdate=y\r\nSoundBit=64\r\nLanguage=EN\r\nSendData=n\r\nMicrophone=0\r\n"
                 "MicrophoneON=y\r\n",
-                {"auto update on", "language en"}},
+                {"auto update on", "language en", "captions en"}},
         BadFile{"Microphone21",
                 "AutoUpdate=y\r\nSoundBit=64\r\nLanguage=EN\r\nSendData=n\r\nMicrophone=21\r\n"
                 "MicrophoneON=y\r\n",
-                {"auto update on", "language en"}},
+                {"auto update on", "language en", "captions en"}},
         BadFile{"OnlyFiveLines",
                 "AutoUpdate=y\r\nSoundBit=64\r\nLanguage=EN\r\nSendData=n\r\nMicrophone=2\r\n",
-                {"auto update on", "language en"}}),
+                {"auto update on", "language en", "captions en"}}),
     [](const auto& bad) { return bad.param.name; });
 
 TEST_F(SettingsTest, AMissingFileLeadsToTheFirstRun) {
@@ -110,7 +110,7 @@ TEST_F(SettingsTest, TheAutoUpdateStateIsAppliedBeforeABadThirdLineIsFound) {
 TEST_F(SettingsTest, AFileOfNineEntriesIsAcceptedButTheNextWriteEndsTheProgram) {
   Put(Entries(9));
   file.CheckSettings();
-  EXPECT_EQ(display.calls.size(), 4u);
+  EXPECT_EQ(display.calls.size(), 5u);
   EXPECT_TRUE(sim.Run([this] { file.WriteLine(2, "SoundBit=64"); }));
   EXPECT_EQ(sim.files.Get(kPath), Entries(9));
 }

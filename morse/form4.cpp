@@ -1,0 +1,150 @@
+#include "morse/form4.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "morse/morse_code.h"
+#include "tone/quietly.h"
+
+namespace morse {
+namespace {
+
+constexpr std::int16_t kTurnMs = 20;
+constexpr char32_t kBackspace = 8;
+
+}  // namespace
+
+Form4::Form4(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
+             MorseScene& morse_scene)
+    : ui::Window(platform.windows, {"Form4", "Morse tool", 480, 328}),
+      platform_(platform),
+      state_(state),
+      play_scene_(play_scene),
+      morse_scene_(morse_scene),
+      tones_(platform, state, play_scene),
+      waves_(platform) {
+  Command1.OnClick = [this] { Command1_Click(); };
+  Command2.OnClick = [this] { Command2_Click(); };
+  Check1.OnClick = [this] { Check1_Click(); };
+  for (ui::TextBox* field : {&Text2, &Text3}) {
+    field->AcceptsKey = [field](char32_t key) {
+      if (key == kBackspace) return true;
+      return key < 128 && base::IsNumber(field->Text() + static_cast<char>(key));
+    };
+  }
+  SetDefaultButton(&Command1);
+  SetCancelButton(&Command2);
+}
+
+std::vector<lang::CaptionSlot> Form4::Captions() {
+  return {{42, &Label1},   {43, &Label2}, {44, &Check1}, {45, &Label3},
+          {46, &Command1}, {47, &Command2}, {48, this},   {79, &Text1, true}};
+}
+
+void Form4::Form_Load() {
+  tone::Quietly([this] {
+    if (loading_ == 1) return;
+    loading_ = 1;
+    stop_flag = 1;
+    Check1.SetValue(false);
+    Text1.SetText("Type your message here...");
+    if (state_.language == "nl") morse_scene_.LoadMorseCaptions(state_.language);
+  });
+  loading_ = 0;
+}
+
+void Form4::Form_Unload() {
+  stop_flag = 1;
+}
+
+void Form4::Command1_Click() {
+  tone::Quietly([this] {
+    ReadFields();
+    TakeMessage();
+    position_ = 1;
+    stop_flag = 0;
+    Command1.SetEnabled(false);
+    Command2.SetEnabled(true);
+    PlayLoop();
+  });
+}
+
+void Form4::Command2_Click() {
+  tone::Quietly([this] {
+    tone::RouteSupport(platform_, state_, play_scene_).KillAll();
+    Command1.SetEnabled(true);
+    Command2.SetEnabled(false);
+    stop_flag = 1;
+  });
+}
+
+void Form4::Check1_Click() {
+  const bool shown = !Check1.Value();
+  Text1.SetVisible(shown);
+  Label3.SetVisible(shown);
+}
+
+void Form4::ReadFields() {
+  speed_long_ = base::ToInt32(base::NumberFromText(Text2.Text()));
+  pitch_long_ = base::ToInt32(base::NumberFromText(Text3.Text()));
+  if (speed_long_ > 500) Correct(speed_long_, 0, "Max Speed", "Max speed = 500", Text2);
+  if (pitch_long_ < 50) Correct(pitch_long_, 700, "Min Pitch", "Min pitch = 50 Hertz", Text3);
+  if (pitch_long_ > 32000) Correct(pitch_long_, 700, "Max Pitch", "Max pitch = 32000", Text3);
+  speed_ = base::ToInt16(speed_long_);
+  pitch_ = base::ToInt16(pitch_long_);
+}
+
+void Form4::Correct(std::int32_t& value, std::int32_t corrected, const std::string& title,
+                    const std::string& text, ui::TextBox& field) {
+  value = corrected;
+  platform_.messages.Show(text, title, platform::MessageIcon::kExclamation,
+                          platform::MessageButtons::kOk);
+  field.SetText(base::BareNumber(corrected));
+}
+
+void Form4::TakeMessage() {
+  const auto message = base::Characters(Text1.Text());
+  for (std::size_t i = 1; i < characters_.size(); ++i) {
+    characters_[i] = i <= message.size() ? message[i - 1] : "";
+  }
+}
+
+void Form4::PlayLoop() {
+  for (;;) {
+    platform_.pump.ProcessPending();
+    Wait(kTurnMs);
+    const std::string character = CharacterAt(position_);
+    if (character == " ") Wait(WordPause(speed_));
+    if (position_ == kLastPosition) break;
+    SoundCharacter(character);
+    Wait(CharacterPause(speed_));
+    ++position_;
+    UnloadIfHidden();
+    if (CharacterAt(position_).empty()) {
+      Command1.SetEnabled(true);
+      Command2.SetEnabled(false);
+    }
+    if (stop_flag == 1) break;
+  }
+  stop_flag = 0;
+}
+
+// A character without a code is passed over in silence and without a message.
+void Form4::SoundCharacter(const std::string& character) {
+  if (character.size() != 1) return;
+  for (const char symbol : SymbolsOf(character[0])) {
+    tones_.sound(pitch_, symbol == '.' ? DotLength(speed_) : DashLength(speed_));
+  }
+}
+
+void Form4::UnloadIfHidden() {
+  if (!play_scene_.MainWindowVisible() || !Visible()) Unload();
+}
+
+const std::string& Form4::CharacterAt(std::int16_t position) const {
+  if (position < 0 || position > kLastPosition) {
+    throw base::RuntimeError(base::ErrorCode::kSubscriptOutOfRange);
+  }
+  return characters_[static_cast<std::size_t>(position)];
+}
+
+}  // namespace morse

@@ -1,0 +1,337 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "base/errors.h"
+#include "lang/language_file.h"
+#include "tests/app/fixture.h"
+
+namespace app {
+namespace {
+
+using lang::LanguageFile;
+using platform::simulated::Operation;
+
+// A language file whose entry K is "text K", with a good head.
+std::string FileOf(const std::string& language, std::size_t entries,
+                   const std::vector<std::pair<std::size_t, std::string>>& changes = {}) {
+  std::vector<std::string> lines(entries + 1);
+  for (std::size_t k = 1; k <= entries; ++k) lines[k] = "text " + std::to_string(k);
+  const std::string head[] = {"", "%valid%", "lang=" + language, "<1>"};
+  for (std::size_t k = 1; k <= 3 && k <= entries; ++k) lines[k] = head[k];
+  for (const auto& [slot, text] : changes) lines[slot] = text;
+  std::string content;
+  for (std::size_t k = 1; k <= entries; ++k) content += lines[k] + "\r\n";
+  return content;
+}
+
+constexpr char kDutch[] = "lng_nl.dll";
+constexpr char kEnglish[] = "lng_en.dll";
+
+std::string Shipped(const std::string& name) {
+  std::ifstream file(std::string(TONMIRA_LANGUAGES) + "/" + name, std::ios::binary);
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+class LanguagesTest : public ProgramTest {
+ protected:
+  void UseDutch() {
+    sim.files.Put(kSettings,
+                  "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=NL\r\nSendData=n\r\nMicrophone=7\r\n"
+                  "MicrophoneON=n\r\n");
+  }
+};
+
+TEST_F(LanguagesTest, EverySlotOfTheMainWindowTakesItsText) {
+  UseDutch();
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  Run();
+  for (std::size_t i = 0; i < 9; ++i) {
+    EXPECT_EQ(main().Options()[i]->Caption(), "text " + std::to_string(4 + i));
+  }
+  EXPECT_EQ(main().Frame1.Caption(), "text 13");
+  EXPECT_EQ(main().Command2.Caption(), "text 14");
+  EXPECT_EQ(main().Command3.Caption(), "text 15");
+  EXPECT_EQ(main().Label9.Caption(), "text 16");
+  EXPECT_EQ(main().Label3.Caption(), "text 17");
+  EXPECT_EQ(main().Frame3.Caption(), "text 18");
+  EXPECT_EQ(main().file.Caption(), "text 19");
+  EXPECT_EQ(main().exit.Caption(), "text 20");
+  EXPECT_EQ(main().settings.Caption(), "text 21");
+  EXPECT_EQ(main().soundmode.Caption(), "text 22");
+  EXPECT_EQ(main().language.Caption(), "text 23");
+  EXPECT_EQ(main().microinputonoff.Caption(), "text 24");
+  EXPECT_EQ(main().autoupdate.Caption(), "text 25");
+  EXPECT_EQ(main().StatusBar1.Caption(), "text 29");
+  EXPECT_EQ(main().Frame4.Caption(), "text 56, text 57 7");
+  EXPECT_EQ(main().Label1.Caption(), "text 73");
+  EXPECT_EQ(main().StatusCaption(), "text 29");
+}
+
+TEST_F(LanguagesTest, TheMessageTextsDescribeTheModes) {
+  UseDutch();
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [](Form1& form1) {
+    for (std::size_t i = 0; i < 9; ++i) {
+      form1.Options()[i]->Click();
+      EXPECT_EQ(form1.Label1.Caption(), "text " + std::to_string(60 + i));
+      EXPECT_EQ(form1.Command2.Caption(), i < 7 ? "text 69" : "text 70");
+    }
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, TheHelpWindowIsTranslatedOnlyInDutch) {
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kEnglish, FileOf("en", 79));
+  At(1s, [this](Form1& form1) {
+    form1.HelpRequested();
+    EXPECT_EQ(program->form2.Label1.Caption(), "How to make a tone");
+    program->form2.Close();
+    form1.dutch.Click();
+    form1.HelpRequested();
+    const ui::Label* labels[] = {&program->form2.Label1, &program->form2.Label2,
+                                 &program->form2.Label3, &program->form2.Label4,
+                                 &program->form2.Label5, &program->form2.Label6,
+                                 &program->form2.Label7, &program->form2.Label8,
+                                 &program->form2.Label9};
+    const char* texts[] = {"text 31", "text 32", "text 33", "text 34", "text 35",
+                           "text 37", "text 38", "text 39", "text 40"};
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(labels[i]->Caption(), texts[i]);
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, TheMorseToolIsTranslatedOnlyInDutch) {
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [this](Form1& form1) {
+    program->form4.Show();
+    EXPECT_EQ(program->form4.Label2.Caption(), "Pitch (Hertz):");
+    EXPECT_EQ(program->form4.Text1.Text(), "Type your message here...");
+    program->form4.Close();
+    form1.dutch.Click();
+    program->form4.Show();
+    EXPECT_EQ(program->form4.Label1.Caption(), "text 42");
+    EXPECT_EQ(program->form4.Label2.Caption(), "text 43");
+    EXPECT_EQ(program->form4.Check1.Caption(), "text 44");
+    EXPECT_EQ(program->form4.Label3.Caption(), "text 45");
+    EXPECT_EQ(program->form4.Command1.Caption(), "text 46");
+    EXPECT_EQ(program->form4.Command2.Caption(), "text 47");
+    EXPECT_EQ(program->form4.Caption(), "text 48");
+    EXPECT_EQ(program->form4.Text1.Text(), "text 79");
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, AnotherWindowNumberChangesNoControlButTakesTheMessageTexts) {
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [](Form1& form1) {
+    form1.LoadCaptions("nl", 7);
+    EXPECT_EQ(form1.Option1.Caption(), "Low pitch");
+    EXPECT_EQ(form1.StatusCaption(), "text 29");
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, TheDutchMenuTranslatesWhatIsShownAndKeepsTheSetting) {
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [this](Form1& form1) {
+    form1.Option3.Click();
+    form1.dutch.Click();
+    EXPECT_EQ(form1.Option3.Caption(), "text 6");
+    EXPECT_EQ(form1.Label1.Caption(), "text 62");
+    EXPECT_EQ(form1.SelectedMode(), 3);
+    EXPECT_EQ(sim.Lines(kSettings)[2], "Language=NL");
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, SwitchingWithAToolSelectedKeepsItsPlayCaption) {
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [](Form1& form1) {
+    form1.Option8.Click();
+    form1.dutch.Click();
+    EXPECT_EQ(form1.Command2.Caption(), "text 70");
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, OpenWindowsKeepTheirLanguageUntilTheyAreOpenedAgain) {
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [this](Form1& form1) {
+    form1.HelpRequested();
+    form1.dutch.Click();
+    EXPECT_EQ(program->form2.Label1.Caption(), "How to make a tone");
+    program->form2.Close();
+    form1.HelpRequested();
+    EXPECT_EQ(program->form2.Label1.Caption(), "text 31");
+  });
+  Run();
+}
+
+TEST_F(LanguagesTest, EnglishWithoutItsFileLeavesTheDutchCaptionsUntilTheNextStart) {
+  UseDutch();
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  At(1s, [](Form1& form1) {
+    form1.english.Click();
+    EXPECT_EQ(form1.Option1.Caption(), "text 4");
+    EXPECT_TRUE(form1.english.Checked());
+  });
+  Run();
+  Run();
+  EXPECT_EQ(main().Option1.Caption(), "Low pitch");
+}
+
+TEST_F(LanguagesTest, AReadErrorIsReportedUnderItsErrorValue) {
+  UseDutch();
+  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Fail(Operation::kRead, kDutch, base::ErrorCode::kDeviceError);
+  sim.At(100ms, [this] { program->form6.Command1.Click(); });
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  57,   Error value:  1015");
+}
+
+struct BadFile {
+  std::string name;
+  std::string content;
+};
+
+class BadLanguageFileTest : public LanguagesTest, public testing::WithParamInterface<BadFile> {};
+
+TEST_P(BadLanguageFileTest, ChangesNothingAndShowsNothing) {
+  UseDutch();
+  sim.files.Put(kDutch, GetParam().content);
+  EXPECT_FALSE(Run());
+  EXPECT_EQ(main().Option1.Caption(), "Low pitch");
+  EXPECT_EQ(main().StatusCaption(), "Actual pitch (Hertz):");
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_FALSE(sim.files.Exists(kErrorLog));
+}
+
+std::string WithoutLineEnds(const std::string& content) {
+  std::string all_in_one;
+  for (const char c : content) {
+    if (c != '\r' && c != '\n') all_in_one += c;
+  }
+  return all_in_one;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BadLanguageFileTest,
+    testing::Values(BadFile{"Empty", ""}, BadFile{"OneEntry", "%valid%\r\n"},
+                    BadFile{"WrongMarker", FileOf("nl", 79, {{1, "%Valid%"}})},
+                    BadFile{"LanguageInCapitals", FileOf("nl", 79, {{2, "lang=NL"}})},
+                    BadFile{"WrongLanguage", FileOf("en", 79)},
+                    BadFile{"WrongThirdLine", FileOf("nl", 79, {{3, "<2>"}})},
+                    BadFile{"EmptyText", FileOf("nl", 79, {{20, ""}})},
+                    BadFile{"TextOfOneBlank", FileOf("nl", 79, {{31, "\" \""}})},
+                    BadFile{"TooFewEntries", FileOf("nl", 67)},
+                    BadFile{"NoLineEnds", WithoutLineEnds(FileOf("nl", 79))},
+                    BadFile{"Binary", std::string(5000, '\x80') + std::string(100, '\0')},
+                    BadFile{"AVeryLongLine", std::string(10 << 20, 'x')},
+                    BadFile{"AQuoteThatIsNeverClosed", FileOf("nl", 79, {{4, "\"never closed"}})},
+                    BadFile{"ACommaThatShiftsAnEmptyTextIntoACheckedSlot",
+                            FileOf("nl", 79, {{10, "a,b"}, {30, ""}})}),
+    [](const auto& bad) { return bad.param.name; });
+
+TEST(LanguageFileTest, SixtyEightEntriesAreEnough) {
+  EXPECT_TRUE(LanguageFile::Parse(FileOf("nl", 68), "nl"));
+  EXPECT_FALSE(LanguageFile::Parse(FileOf("nl", 67), "nl"));
+}
+
+TEST(LanguageFileTest, UncheckedSlotsMayBeEmpty) {
+  EXPECT_TRUE(LanguageFile::Parse(
+      FileOf("nl", 79, {{30, ""}, {40, ""}, {48, ""}, {57, ""}, {69, ""}, {70, ""}}), "nl"));
+}
+
+TEST(LanguageFileTest, EveryCheckedSlotMustHoldAText) {
+  for (std::size_t slot = 4; slot <= 68; ++slot) {
+    const bool checked = slot != 30 && slot != 40 && slot != 48 && slot != 57;
+    for (const char* blank : {"", "\" \""}) {
+      EXPECT_EQ(LanguageFile::Parse(FileOf("nl", 79, {{slot, blank}}), "nl").has_value(), !checked)
+          << slot;
+    }
+  }
+}
+
+TEST(LanguageFileTest, AFileOf70EntriesHasNoTextForSlot72) {
+  const auto file = LanguageFile::Parse(FileOf("nl", 70), "nl");
+  ASSERT_TRUE(file);
+  EXPECT_EQ(file->Text(70), "text 70");
+  EXPECT_EQ(file->Text(72), "");
+}
+
+TEST(LanguageFileTest, AtMost99EntriesAreRead) {
+  for (const std::size_t entries : {99u, 100u, 1000u}) {
+    const auto file = LanguageFile::Parse(FileOf("nl", entries), "nl");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->Text(99), "text 99");
+    EXPECT_EQ(file->Text(100), "");
+  }
+}
+
+TEST(LanguageFileTest, ACommaInATextShiftsWhatFollows) {
+  const auto file = LanguageFile::Parse(FileOf("nl", 79, {{10, "a, b"}}), "nl");
+  ASSERT_TRUE(file);
+  EXPECT_EQ(file->Text(10), "a");
+  EXPECT_EQ(file->Text(11), "b");
+  EXPECT_EQ(file->Text(12), "text 11");
+}
+
+TEST(LanguageFileTest, QuotesKeepACommaInItsText) {
+  const auto file = LanguageFile::Parse(FileOf("nl", 79, {{10, "\"a, b \""}}), "nl");
+  ASSERT_TRUE(file);
+  EXPECT_EQ(file->Text(10), "a, b ");
+}
+
+TEST(ShippedLanguages, AreValidAndComplete) {
+  for (const std::string code : {"en", "nl"}) {
+    const auto file = LanguageFile::Parse(Shipped("lng_" + code + ".dll"), code);
+    ASSERT_TRUE(file) << code;
+    for (std::size_t slot = 1; slot <= 79; ++slot) {
+      EXPECT_FALSE(file->Text(slot).empty()) << code << " " << slot;
+    }
+    EXPECT_EQ(file->Text(80), "") << code;
+  }
+}
+
+TEST_F(LanguagesTest, TheShippedEnglishSaysWhatTheProgramIsDesignedWith) {
+  Run();
+  std::vector<std::string> designed;
+  for (const auto& caption : main().Captions()) {
+    designed.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
+  }
+  sim.files.Put(kEnglish, Shipped(kEnglish));
+  main().LoadCaptions("en", 1);
+  std::vector<std::string> loaded;
+  for (const auto& caption : main().Captions()) {
+    loaded.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
+  }
+  EXPECT_EQ(loaded, designed);
+  EXPECT_EQ(main().Frame4.Caption(), "Microphone input, sensitivity: 1");
+}
+
+TEST_F(LanguagesTest, TheShippedDutchLeavesNoEnglishCaptionBehind) {
+  sim.files.Put(kDutch, Shipped(kDutch));
+  Run();
+  std::vector<std::string> english;
+  for (const auto& caption : main().Captions()) {
+    english.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
+  }
+  main().dutch.Click();
+  const auto captions = main().Captions();
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    const std::string text =
+        std::visit([](auto* target) { return target->Caption(); }, captions[i].target);
+    // Words that are the same in both languages.
+    if (text == "Info" || text == "Help") continue;
+    EXPECT_NE(text, english[i]);
+  }
+  EXPECT_EQ(main().Frame4.Caption(), "Microfooninvoer, gevoeligheid: 1");
+}
+
+}  // namespace
+}  // namespace app
