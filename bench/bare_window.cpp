@@ -3,15 +3,16 @@
 
 #include <commctrl.h>
 
+static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_DESTROY) PostQuitMessage(0);
+  return DefWindowProcW(window, message, wparam, lparam);
+}
+
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
   INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_STANDARD_CLASSES};
   InitCommonControlsEx(&wanted);
   WNDCLASSW window_class{};
-  window_class.lpfnWndProc = [](HWND window, UINT message, WPARAM wparam,
-                                LPARAM lparam) -> LRESULT {
-    if (message == WM_DESTROY) PostQuitMessage(0);
-    return DefWindowProcW(window, message, wparam, lparam);
-  };
+  window_class.lpfnWndProc = Procedure;
   window_class.hInstance = instance;
   window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   window_class.hbrBackground = GetSysColorBrush(COLOR_3DFACE);

@@ -54,8 +54,7 @@ class FakeDevice : public DirectSoundDevice {
     counted_.sound().Call(DirectSoundCall::kLevel, "cooperative level " + std::to_string(level));
   }
 
-  std::unique_ptr<DirectSoundBuffer> CreateBuffer(const WaveFormat& format,
-                                                  const std::string& data,
+  std::unique_ptr<DirectSoundBuffer> CreateBuffer(const WaveFormat& format, const std::string& data,
                                                   std::uint32_t flags) override {
     counted_.sound().Call(DirectSoundCall::kBuffer,
                           "buffer of " + std::to_string(data.size()) + " bytes, " +

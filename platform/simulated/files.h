@@ -19,8 +19,16 @@
 
 namespace platform::simulated {
 
-enum class Operation { kOpenForReading, kRead, kOpenForWriting, kWrite, kFlush, kClose, kRename,
-                       kDelete };
+enum class Operation {
+  kOpenForReading,
+  kRead,
+  kOpenForWriting,
+  kWrite,
+  kFlush,
+  kClose,
+  kRename,
+  kDelete
+};
 
 class Files : public FileSystem {
  public:

@@ -34,8 +34,7 @@ std::string FixedEnvironment::FullPath(const std::string& path) {
 }
 
 std::string FixedClock::ShortDate() {
-  return std::to_string(now.day) + "-" + std::to_string(now.month) + "-" +
-         std::to_string(now.year);
+  return std::to_string(now.day) + "-" + std::to_string(now.month) + "-" + std::to_string(now.year);
 }
 
 std::string FixedClock::ShortTime() {

@@ -49,8 +49,8 @@ class FakeProcesses : public Processes {
   explicit FakeProcesses(Journal& journal) : journal_(journal) {}
 
   std::vector<ProcessEntry> running;
-  std::set<std::uint32_t> protected_ids;   // may not be ended
-  std::set<std::string> missing_commands;  // cannot be started
+  std::set<std::uint32_t> protected_ids;      // may not be ended
+  std::set<std::string> missing_commands;     // cannot be started
   std::map<std::string, std::string> become;  // command: name of the process that it starts
 
   std::vector<ProcessEntry> Snapshot() override { return running; }

@@ -42,9 +42,9 @@ class Simulation {
   FakeVersion version;
   ScriptedMessages messages{journal};
 
-  platform::Platform services{files,     code_page, environment,  clock,  random, pump,
-                              processes, waves,     direct_sound, beeper, screen, version,
-                              messages,  windows};
+  platform::Platform services{files,  code_page, environment, clock,        random,
+                              pump,   processes, waves,       direct_sound, beeper,
+                              screen, version,   messages,    windows};
 
   // Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);

@@ -77,8 +77,8 @@ class JournalView : public ui::WindowView {
   void CaptionChanged() override { Note(" caption: " + window_.Caption()); }
 
   void Changed(const ui::Control& control, ui::Property property) override {
-    windows_.journal_.Add(Kind::kControl, window_.Name() + "." + control.Name() +
-                                              Describe(control, property));
+    windows_.journal_.Add(Kind::kControl,
+                          window_.Name() + "." + control.Name() + Describe(control, property));
   }
 
   void Changed(const ui::MenuItem& item, ui::Property property) override {

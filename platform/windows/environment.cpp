@@ -1,0 +1,64 @@
+#include "platform/windows/environment.h"
+
+#include <algorithm>
+
+#include "platform/windows/file_errors.h"
+#include "platform/windows/wide_text.h"
+#include "platform/windows/windows_api.h"
+
+namespace platform::windows {
+namespace {
+
+// The text that `fill(buffer, size)` writes; it returns the length, or a larger size that it needs.
+template <typename Fill>
+std::wstring Filled(Fill fill) {
+  std::wstring text(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = fill(text.data(), static_cast<DWORD>(text.size()));
+    if (length < text.size()) {
+      text.resize(length);
+      return text;
+    }
+    text.resize(std::max<std::size_t>(length + 1, text.size() * 2));
+  }
+}
+
+}  // namespace
+
+std::string WindowsEnvironment::Get(const std::string& name) {
+  const std::wstring wide_name = Widen(name);
+  return Narrow(Filled([&](wchar_t* buffer, DWORD size) {
+    return GetEnvironmentVariableW(wide_name.c_str(), buffer, size);
+  }));
+}
+
+std::string WindowsEnvironment::Arguments() {
+  const wchar_t* at = GetCommandLineW();
+  bool quoted = false;
+  for (; *at != L'\0' && (quoted || (*at != L' ' && *at != L'\t')); ++at) {
+    if (*at == L'"') quoted = !quoted;
+  }
+  while (*at == L' ' || *at == L'\t') ++at;
+  return Narrow(at);
+}
+
+std::string WindowsEnvironment::ProgramFolder() {
+  std::wstring path =
+      Filled([](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); });
+  path.resize(path.find_last_of(L'\\'));
+  return Narrow(path);
+}
+
+std::string WindowsEnvironment::FullPath(const std::string& path) {
+  const std::wstring wide_path = Widen(path);
+  return Narrow(Filled([&](wchar_t* buffer, DWORD size) {
+    return GetFullPathNameW(wide_path.c_str(), size, buffer, nullptr);
+  }));
+}
+
+void WindowsEnvironment::SetCurrentFolder(const std::string& path) {
+  const std::wstring folder = Widen(path);
+  if (!SetCurrentDirectoryW(folder.c_str())) ThrowFileError(GetLastError(), folder);
+}
+
+}  // namespace platform::windows

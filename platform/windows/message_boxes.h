@@ -1,0 +1,20 @@
+// The system's message box.
+#pragma once
+
+#include "platform/system.h"
+#include "platform/windows/open_windows.h"
+
+namespace platform::windows {
+
+class WindowsMessageBoxes final : public MessageBoxes {
+ public:
+  explicit WindowsMessageBoxes(const OpenWindows& open) : open_(open) {}
+
+  std::int16_t Show(const std::string& text, const std::string& title, MessageIcon icon,
+                    MessageButtons buttons) override;
+
+ private:
+  const OpenWindows& open_;
+};
+
+}  // namespace platform::windows

@@ -1,0 +1,90 @@
+#include "platform/windows/message_pump.h"
+
+#include "platform/windows/native_window.h"
+
+namespace platform::windows {
+namespace {
+
+constexpr int kCoarseTick =
+    16;  // ms; the system's timer grain when no program asks for a finer one
+
+bool IsKey(const MSG& message) {
+  return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+}
+
+class FineTimer {
+ public:
+  explicit FineTimer(MultimediaLibrary& multimedia) : multimedia_(multimedia) {
+    multimedia_.BeginFineTimer();
+  }
+  ~FineTimer() { multimedia_.EndFineTimer(); }
+  FineTimer(const FineTimer&) = delete;
+  FineTimer& operator=(const FineTimer&) = delete;
+
+ private:
+  MultimediaLibrary& multimedia_;
+};
+
+class Stopwatch {
+ public:
+  Stopwatch() {
+    QueryPerformanceFrequency(&frequency_);
+    QueryPerformanceCounter(&start_);
+  }
+
+  int ElapsedMilliseconds() const {
+    LARGE_INTEGER now{};
+    QueryPerformanceCounter(&now);
+    return static_cast<int>((now.QuadPart - start_.QuadPart) * 1000 / frequency_.QuadPart);
+  }
+
+ private:
+  LARGE_INTEGER frequency_{};
+  LARGE_INTEGER start_{};
+};
+
+}  // namespace
+
+void WindowsMessagePump::ProcessPending(const std::function<bool()>& enough) {
+  Settle();
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    Handle(message);
+    if (enough && enough()) return;
+  }
+}
+
+void WindowsMessagePump::Sleep(int milliseconds) {
+  if (milliseconds <= 0) return;
+  // A fine timer grain costs the whole machine power, so only the end of a long sleep has it.
+  const Stopwatch stopwatch;
+  if (milliseconds > 4 * kCoarseTick) {
+    ::Sleep(static_cast<DWORD>(milliseconds - 2 * kCoarseTick));
+    milliseconds -= stopwatch.ElapsedMilliseconds();
+    if (milliseconds <= 0) return;
+  }
+  const FineTimer fine(multimedia_);
+  ::Sleep(static_cast<DWORD>(milliseconds));
+}
+
+void WindowsMessagePump::Run() {
+  Settle();
+  MSG message{};
+  while (open_.AnyVisible() && GetMessageW(&message, nullptr, 0, 0) > 0) Handle(message);
+  open_.ForgetLeft();
+}
+
+void WindowsMessagePump::Handle(MSG& message) {
+  if (!IsKey(message) || !NativeWindow::TranslateKey(open_, message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  Settle();
+}
+
+void WindowsMessagePump::Settle() {
+  open_.ForgetLeft();
+  if (NativeWindow* const active = open_.Find(GetActiveWindow())) active->Settle();
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,29 @@
+// The message queue of the program's one thread.
+#pragma once
+
+#include "platform/system.h"
+#include "platform/windows/multimedia.h"
+#include "platform/windows/open_windows.h"
+
+namespace platform::windows {
+
+class WindowsMessagePump final : public MessagePump {
+ public:
+  WindowsMessagePump(OpenWindows& open, MultimediaLibrary& multimedia)
+      : open_(open), multimedia_(multimedia) {}
+
+  void ProcessPending(const std::function<bool()>& enough) override;
+  void Sleep(int milliseconds) override;
+  void Run() override;
+
+ private:
+  void Handle(MSG& message);
+
+  // Between messages: the keyboard focus is kept on a control that can be used.
+  void Settle();
+
+  OpenWindows& open_;
+  MultimediaLibrary& multimedia_;
+};
+
+}  // namespace platform::windows

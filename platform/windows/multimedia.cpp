@@ -1,0 +1,45 @@
+#include "platform/windows/multimedia.h"
+
+#include <string>
+
+#include "platform/windows/system_library.h"
+#include "platform/windows/wide_text.h"
+
+namespace platform::windows {
+void MultimediaLibrary::Load() {
+  if (tried_) return;
+  tried_ = true;
+  // Never unloaded: a sound may play until the process ends.
+  const HMODULE library = LoadSystemLibrary(L"winmm.dll");
+  play_sound_ = FunctionOf<PlaySoundFunction>(library, "PlaySoundW");
+  begin_period_ = FunctionOf<TimePeriodFunction>(library, "timeBeginPeriod");
+  end_period_ = FunctionOf<TimePeriodFunction>(library, "timeEndPeriod");
+}
+
+void MultimediaLibrary::PlaySound(const wchar_t* path, DWORD flags) {
+  if (path != nullptr) Load();
+  if (play_sound_ != nullptr) play_sound_(path, nullptr, flags);
+}
+
+void MultimediaLibrary::BeginFineTimer() {
+  Load();
+  if (begin_period_ != nullptr) begin_period_(1);
+}
+
+void MultimediaLibrary::EndFineTimer() {
+  if (end_period_ != nullptr) end_period_(1);
+}
+
+void MultimediaPlayer::Play(const std::string& path, std::uint32_t flags) {
+  library_.PlaySound(Widen(path).c_str(), flags);
+}
+
+void MultimediaPlayer::Stop(std::uint32_t flags) {
+  library_.PlaySound(nullptr, flags);
+}
+
+void SystemBeeper::Beep(int pitch_hz, int duration_ms) {
+  ::Beep(static_cast<DWORD>(pitch_hz), static_cast<DWORD>(duration_ms));
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,23 @@
+#include "platform/windows/native_window_system.h"
+
+#include "platform/windows/native_window.h"
+#include "platform/windows/picture_view.h"
+
+#include <commctrl.h>
+
+namespace platform::windows {
+
+NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
+    : appearance_(instance), open_(open) {
+  // Visual styles need the library of common controls to be loaded; the status bar is of it.
+  INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES};
+  InitCommonControlsEx(&wanted);
+  RegisterWindowClass(instance);
+  RegisterPictureClass(instance);
+}
+
+std::unique_ptr<ui::WindowView> NativeWindowSystem::Open(ui::Window& window) {
+  return std::make_unique<NativeWindow>(window, appearance_, open_);
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,17 @@
+// Other processes, and the end of this one.
+#pragma once
+
+#include "platform/system.h"
+
+namespace platform::windows {
+
+class WindowsProcesses final : public Processes {
+ public:
+  std::vector<ProcessEntry> Snapshot() override;
+  bool Terminate(std::uint32_t id) override;
+  void Start(const std::string& command) override;
+  void StartHidden(const std::string& command) override;
+  [[noreturn]] void EndProcess() override;
+};
+
+}  // namespace platform::windows

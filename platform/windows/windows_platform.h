@@ -1,0 +1,48 @@
+// All services on the Windows API, and their bundle.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/windows/clock.h"
+#include "platform/windows/direct_sound.h"
+#include "platform/windows/environment.h"
+#include "platform/windows/file_system.h"
+#include "platform/windows/message_boxes.h"
+#include "platform/windows/message_pump.h"
+#include "platform/windows/multimedia.h"
+#include "platform/windows/native_window_system.h"
+#include "platform/windows/open_windows.h"
+#include "platform/windows/processes.h"
+#include "platform/windows/screen.h"
+
+namespace platform::windows {
+
+class WindowsPlatform {
+ public:
+  explicit WindowsPlatform(HINSTANCE instance) : windows_(instance, open_) {}
+  WindowsPlatform(const WindowsPlatform&) = delete;
+  WindowsPlatform& operator=(const WindowsPlatform&) = delete;
+
+  Platform& Services() { return services_; }
+
+ private:
+  OpenWindows open_;
+  MultimediaLibrary multimedia_;
+  WindowsFileSystem files_;
+  WindowsCodePage code_page_;
+  WindowsEnvironment environment_;
+  WindowsClock clock_;
+  WindowsRandom random_;
+  WindowsMessagePump pump_{open_, multimedia_};
+  WindowsProcesses processes_;
+  MultimediaPlayer waves_{multimedia_};
+  WindowsDirectSound direct_sound_;
+  SystemBeeper beeper_;
+  WindowsScreen screen_;
+  WindowsVersion version_;
+  WindowsMessageBoxes messages_{open_};
+  NativeWindowSystem windows_;
+  Platform services_{files_, code_page_,    environment_, clock_,  random_,  pump_,     processes_,
+                     waves_, direct_sound_, beeper_,      screen_, version_, messages_, windows_};
+};
+
+}  // namespace platform::windows
