@@ -82,10 +82,9 @@ void Application::UnloadAll() {
 
 // An error that no procedure traps: reporting itself has failed, so all that is left is to say so.
 void Application::EndAfter(const base::RuntimeError& error) {
-  platform_.messages.Show("Run-time error '" + base::BareNumber(error.number()) + "':\r\n\r\n" +
-                              error.description(),
-                          "Tonmira", platform::MessageIcon::kCritical,
-                          platform::MessageButtons::kOk);
+  platform_.messages.Show(
+      "Run-time error '" + base::BareNumber(error.number()) + "':\r\n\r\n" + error.description(),
+      "Tonmira", platform::MessageIcon::kCritical, platform::MessageButtons::kOk);
   platform_.processes.EndProcess();
 }
 

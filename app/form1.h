@@ -18,9 +18,7 @@
 namespace app {
 
 // The other windows of the program, as the main window reaches them.
-class OtherWindows : public WindowList,
-                     public settings::ErrorScene,
-                     public lang::CaptionScene {
+class OtherWindows : public WindowList, public settings::ErrorScene, public lang::CaptionScene {
  public:
   virtual ui::Window& StatusWindow() = 0;  // Form8
   virtual ui::Label& StatusLabel() = 0;    // Form8.Label2

@@ -18,6 +18,7 @@ void Form1Controls::EnableToolModes(bool enabled) {
 void Form1Controls::DesignState() {
   EnableCustomPitch(false);
   Command1.SetEnabled(true);
+  Command3.SetEnabled(false);
 }
 
 void Form1Controls::EnableCustomPitch(bool enabled) {

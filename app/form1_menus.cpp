@@ -17,8 +17,7 @@ void Form1::Exit() {
   settings::TrapErrors(*NewProgram(), 13, [this] { Unload(); });
 }
 
-void Form1::ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item,
-                            const std::string& code) {
+void Form1::ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item, const std::string& code) {
   const ProgramPtr program = NewProgram();
   settings::TrapErrors(*program, error_value, [&] {
     item.SetChecked(true);

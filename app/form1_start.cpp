@@ -64,10 +64,9 @@ void Form1::TakeCommandLine() {
 
 void Form1::StartLog() {
   state_.temp_folder = platform_.environment.Get("TEMP");
-  platform_.Texts().Replace(
+  platform_.Texts().Write(
       state_.temp_folder + "\\userdata.txt",
-      base::Line(platform_.clock.ShortDate()) + base::Line(platform_.clock.ShortTime()),
-      platform::Durability::kVisible);
+      base::Line(platform_.clock.ShortDate()) + base::Line(platform_.clock.ShortTime()));
 }
 
 void Form1::CheckSystem() {
@@ -132,9 +131,9 @@ void Form1::ShowStep(const std::string& text) {
 void Form1::Form_Unload() {
   settings::TrapErrors(*NewProgram(), 15, [this] {
     if (close_attempts_ >= 1) {
-      last_close_answer_ = platform_.messages.Show(
-          "Do you want to forcibly close tonmira?", "Error", platform::MessageIcon::kCritical,
-          platform::MessageButtons::kYesNo);
+      last_close_answer_ = platform_.messages.Show("Do you want to forcibly close tonmira?",
+                                                   "Error", platform::MessageIcon::kCritical,
+                                                   platform::MessageButtons::kYesNo);
       if (last_close_answer_ == platform::kAnswerYes) platform_.processes.EndProcess();
     }
     close_attempts_ = 1;

@@ -8,7 +8,7 @@ namespace app {
 class Form8 : public ui::Window {
  public:
   explicit Form8(ui::WindowSystem& system)
-      : ui::Window(system, {"Form8", "Starting Tonmira", 340, 112}) {}
+      : ui::Window(system, {"Form8", "Starting Tonmira", 340, 112, false}) {}
 
   ui::PictureBox Picture1{
       *this, "Picture1", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};

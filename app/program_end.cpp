@@ -29,9 +29,8 @@ void ProgramEnd::Terminate() {
 bool ProgramEnd::CanWriteIn(const std::string& folder) {
   const std::string probe = folder + "\\test.txt";
   // Not being able to write is what the test is there to find out, no run-time error.
-  const auto failure = settings::Caught([&] {
-    platform_.Texts().Write(probe, base::Line("Tonmira write test"));
-  });
+  const auto failure =
+      settings::Caught([&] { platform_.Texts().Write(probe, base::Line("Tonmira write test")); });
   const bool there = platform_.files.Exists(probe);
   if (there) platform_.files.Delete(probe);
   return there && !failure;

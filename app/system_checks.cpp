@@ -49,9 +49,9 @@ std::string SystemChecks::CheckOnce() {
     platform_.processes.EndProcess();
   }
   if (IsWindows2000(record)) {
-    platform_.messages.Show(
-        "Warning: Windows 2000 detected! Classic sound mode will NOT work!", "Windows version",
-        platform::MessageIcon::kExclamation, platform::MessageButtons::kOk);
+    platform_.messages.Show("Warning: Windows 2000 detected! Classic sound mode will NOT work!",
+                            "Windows version", platform::MessageIcon::kExclamation,
+                            platform::MessageButtons::kOk);
   }
   return text;
 }

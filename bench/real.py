@@ -65,6 +65,11 @@ def processor_share(process: int) -> float:
     return 100 * used_s / (time.monotonic() - begin)
 
 
+def share_of_core(process: int) -> str:
+    shares = sorted(processor_share(process) for _ in range(3))
+    return f"{shares[1]:.2f} % (of {shares[0]:.2f} to {shares[2]:.2f})"
+
+
 def processor_time(bench: Bench, driver: Driver, folders: Folders) -> None:
     user, recorder = User(bench), Recorder(bench)
     program = Tonmira(bench, driver, folders)
@@ -73,12 +78,12 @@ def processor_time(bench: Bench, driver: Driver, folders: Folders) -> None:
         program.window()
         time.sleep(1)
         process = program.linux_process()
-        print(f"Processor time over {WATCHED_S} s, share of one core:")
-        print(f"  idle:    {processor_share(process):.2f} %")
+        print(f"Processor time over {WATCHED_S} s, three times, share of one core:")
+        print(f"  idle:    {share_of_core(process)}")
         window = play_once(program, user, "High pitch")
         recorder.wait_for_tone()
         time.sleep(1)
-        print(f"  playing: {processor_share(process):.2f} %")
+        print(f"  playing: {share_of_core(process)}")
         window.press("Stop Sound")
         program.wait_for_buttons(window, playing=False)
     finally:

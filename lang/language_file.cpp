@@ -24,7 +24,8 @@ std::optional<LanguageFile> LanguageFile::Parse(std::string_view content,
                                                 const std::string& language) {
   LanguageFile file;
   base::FieldReader reader(content);
-  for (std::size_t n = 1; n <= kMostEntries && !reader.AtEnd(); ++n) file.slots_[n] = *reader.Next();
+  for (std::size_t n = 1; n <= kMostEntries && !reader.AtEnd(); ++n)
+    file.slots_[n] = *reader.Next();
   if (!file.Valid(language)) return std::nullopt;
   return file;
 }

@@ -5,8 +5,7 @@ namespace lang {
 Texts::Texts() {
   messages[10] = "A low tone of 1000 Hz. Everybody hears it: use it to check your speakers.";
   messages[11] = "A clear tone of 4500 Hz, in the range where the ear is most sensitive.";
-  messages[12] =
-      "A high tone of 10000 Hz. It sounds sharp: set the volume low before you play it.";
+  messages[12] = "A high tone of 10000 Hz. It sounds sharp: set the volume low before you play it.";
   messages[13] =
       "A very high tone of 16600 Hz. Many adults do not hear it at all, but it is still there: "
       "keep the volume low and do not play it for long.";

@@ -36,8 +36,8 @@ Form4::Form4(platform::Platform& platform, base::MainState& state, tone::PlaySce
 }
 
 std::vector<lang::CaptionSlot> Form4::Captions() {
-  return {{42, &Label1},   {43, &Label2}, {44, &Check1}, {45, &Label3},
-          {46, &Command1}, {47, &Command2}, {48, this},   {79, &Text1, true}};
+  return {{42, &Label1},   {43, &Label2},   {44, &Check1}, {45, &Label3},
+          {46, &Command1}, {47, &Command2}, {48, this},    {79, &Text1, true}};
 }
 
 void Form4::Form_Load() {

@@ -16,9 +16,9 @@ std::string SymbolsOf(char character);
 
 // Lengths in ms at a speed of 0 to 500 (ms added, 0 = fastest). Throw base::RuntimeError kOverflow
 // when a sum leaves 16 bits.
-std::int16_t DotLength(std::int16_t speed);   // speed + 100 - speed / 2, ties to even
-std::int16_t DashLength(std::int16_t speed);  // speed + 200
-std::int16_t WordPause(std::int16_t speed);   // speed + 500
+std::int16_t DotLength(std::int16_t speed);       // speed + 100 - speed / 2, ties to even
+std::int16_t DashLength(std::int16_t speed);      // speed + 200
+std::int16_t WordPause(std::int16_t speed);       // speed + 500
 std::int16_t CharacterPause(std::int16_t speed);  // speed + 75
 
 }  // namespace morse

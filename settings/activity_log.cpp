@@ -13,7 +13,7 @@ void ActivityLog::PrintFile(std::string_view newdata) {
     if (slots_[n + 1].empty() || n + 1 == kMaxLines) break;
   }
   log += base::Line(newdata);
-  platform_.Texts().Replace(Path(), log, platform::Durability::kVisible);
+  platform_.Texts().Write(Path(), log);
 }
 
 void ActivityLog::LoadFile() {

@@ -13,9 +13,9 @@ constexpr int kTickMs = 50;
 
 void ErrorNotes::ErrorNote(std::int16_t value, const base::RuntimeError& error) {
   const std::string path = platform_.environment.Get("TEMP") + "\\error.log";
-  const ErrorCircumstances circumstances{
-      platform_.screen.Pixels(), platform_.screen.LogicalPixelsPerInch().horizontal,
-      platform_.clock.ShortTime(), platform_.clock.ShortDate()};
+  const ErrorCircumstances circumstances{platform_.screen.Pixels(),
+                                         platform_.screen.LogicalPixelsPerInch().horizontal,
+                                         platform_.clock.ShortTime(), platform_.clock.ShortDate()};
 
   // Drawn whether or not the log is sent: a number that does not fit is an error in either case.
   UploadNumber(platform_.random.Next(), platform_.clock.Now());

@@ -18,10 +18,11 @@ class Form6 : public ui::Window {
 
   std::int16_t done_flag = 0;  // 1 once the user has left the dialog
 
-  ui::Label Label1{*this,
-                   "Label1",
-                   {16, 14, 468, 40},
-                   "Something went wrong and Tonmira must restart.... Sorry for the inconvenience!"};
+  ui::Label Label1{
+      *this,
+      "Label1",
+      {16, 14, 468, 40},
+      "Something went wrong and Tonmira must restart.... Sorry for the inconvenience!"};
   ui::ListBox List1{*this, "List1", {16, 60, 468, 96}};
   ui::Button Command1{*this, "Command1", {374, 170, 110, 30}, "Exit"};
   ui::Button Command2{*this, "Command2", {16, 170, 140, 30}, "Visit our site"};

@@ -31,8 +31,7 @@ void DirectSoundRoutes::ToneDXRNDTMP(std::int16_t pitch, std::int16_t Duration) 
   });
 }
 
-void DirectSoundRoutes::ToneDX(std::int32_t pitch, const std::string& modeval,
-                               std::int32_t delay) {
+void DirectSoundRoutes::ToneDX(std::int32_t pitch, const std::string& modeval, std::int32_t delay) {
   Quietly([&] {
     CreateDevice();
     PlayBuffer("tonedx" + modeval + ".dll");
@@ -56,8 +55,7 @@ void DirectSoundRoutes::PlayBuffer(const std::string& path) {
   const auto wave = ParseWaveFile(*image);
   if (!wave) throw base::RuntimeError(base::ErrorCode::kInvalidCall);
   buffer_ = device_->CreateBuffer(
-      wave->format, wave->data,
-      platform::kBufferControlFrequency | platform::kBufferControlVolume);
+      wave->format, wave->data, platform::kBufferControlFrequency | platform::kBufferControlVolume);
   buffer_->Play(platform::kBufferLooping);
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kRadiansPerSample = 0.00014247585204429924;
 constexpr double kAmplitude = 30000.0;
-constexpr std::size_t kBlock = 210;   // samples; 210 blocks make a second
+constexpr std::size_t kBlock = 210;  // samples; 210 blocks make a second
 constexpr double kTieMargin = 4e-6;
 
 using Block = std::array<double, kBlock>;

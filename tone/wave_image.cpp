@@ -11,8 +11,8 @@ constexpr std::int32_t kFormatBytes = 16;
 struct Sizes {
   std::int32_t byte_rate;
   std::int32_t block_align;
-  std::int32_t data_bytes;   // what the image holds
-  std::int32_t data_field;   // what its header says
+  std::int32_t data_bytes;  // what the image holds
+  std::int32_t data_field;  // what its header says
 };
 
 Sizes Compute(std::int32_t channels, std::int32_t samples, std::int32_t rate, std::int32_t bits) {

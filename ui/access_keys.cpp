@@ -53,7 +53,8 @@ std::vector<std::string> WithAccessKeys(const std::vector<std::string>& captions
     }
   }
   std::vector<std::string> marked;
-  for (std::size_t i = 0; i < captions.size(); ++i) marked.push_back(Marked(captions[i], chosen[i]));
+  for (std::size_t i = 0; i < captions.size(); ++i)
+    marked.push_back(Marked(captions[i], chosen[i]));
   return marked;
 }
 

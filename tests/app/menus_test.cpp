@@ -16,9 +16,8 @@ TEST_F(MenusTest, AChosenSoundModeIsCheckedAloneKeptAndWrittenToTheFile) {
   EXPECT_EQ(sim.journal.Texts({Kind::kControl}),
             (Lines{"Form1.sndwinmm checked: yes", "Form1.sndautomatic checked: no"}));
   EXPECT_EQ(main().State().SoundBit, "256");
-  EXPECT_EQ(sim.Lines(kSettings),
-            (Lines{"AutoUpdate=n", "SoundBit=256", "Language=EN", "SendData=n", "Microphone=1",
-                   "MicrophoneON=n"}));
+  EXPECT_EQ(sim.Lines(kSettings), (Lines{"AutoUpdate=n", "SoundBit=256", "Language=EN",
+                                         "SendData=n", "Microphone=1", "MicrophoneON=n"}));
   EXPECT_EQ(LogEntries().back(), "> Write action, Line:  2, Value: SoundBit=256");
 }
 

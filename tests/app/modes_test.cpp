@@ -9,8 +9,9 @@ class ModesTest : public ProgramTest {};
 
 TEST_F(ModesTest, TheDesignCaptionsNameTheModes) {
   Run();
-  const Lines captions{"Low pitch",    "Average pitch", "High pitch", "Extreme pitch", "Spooky pitch",
-                       "Low to high", "Custom pitch",  "Morse tool", "Hearing age"};
+  const Lines captions{"Low pitch",     "Average pitch", "High pitch",
+                       "Extreme pitch", "Spooky pitch",  "Low to high",
+                       "Custom pitch",  "Morse tool",    "Hearing age"};
   for (std::size_t i = 0; i < captions.size(); ++i) {
     EXPECT_EQ(main().Options()[i]->Caption(), captions[i]);
   }
@@ -158,7 +159,7 @@ TEST_F(ModesTest, AFailingModeChoiceIsReportedUnderItsErrorValue) {
 
 TEST_F(ModesTest, ALogThatCannotBeWrittenOnceOpensTheErrorDialog) {
   sim.At(1s, [this] {
-    sim.files.Fail(platform::simulated::Operation::kOpenForWriting, std::string(kLog) + ".1a2b.tmp",
+    sim.files.Fail(platform::simulated::Operation::kOpenForWriting, kLog,
                    base::ErrorCode::kDiskFull);
     program->form1.Option2.Click();
   });

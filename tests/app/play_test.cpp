@@ -143,8 +143,7 @@ TEST_F(PlayTest, TheEndsOfTheSliderArePassedAsTheyAre) {
 TEST_F(PlayTest, PlayWithNoModeChosenShowsItsMessageAndEndsTheProgram) {
   At(1s, [](Form1& form1) { form1.Command2.Click(); });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(Messages(),
-            (Lines{"critical [Error] Insoluble error, contact Zevrin Software!"}));
+  EXPECT_EQ(Messages(), (Lines{"critical [Error] Insoluble error, contact Zevrin Software!"}));
   EXPECT_EQ(sim.journal.Texts({Kind::kProcess}), (Lines{"end"}));
   EXPECT_EQ(LogEntries().back(), " 0");
 }
@@ -308,8 +307,8 @@ TEST_F(PlayTest, LowToHighWithClassicAsksItsHelperForASweep) {
 }
 
 TEST_F(PlayTest, StopSilencesEveryRoute) {
-  sim.processes.running = {{1, "System"},      {2, "tone16.dll"}, {3, "mytone32.dll"},
-                           {4, "TONE32.DLL"}, {5, "tone32.exe"}};
+  sim.processes.running = {
+      {1, "System"}, {2, "tone16.dll"}, {3, "mytone32.dll"}, {4, "TONE32.DLL"}, {5, "tone32.exe"}};
   sim.files.Put("C:\\Temp\\sound.ini", " 440 \r\n");
   At(1s, [this](Form1& form1) {
     form1.Option1.Click();

@@ -36,16 +36,17 @@ TEST_F(StartTest, TheLogTellsEveryStepOfAStart) {
 
 TEST_F(StartTest, TheStatusWindowShowsEachStepAndTheMainWindowComesWhenItIsGone) {
   Run();
-  EXPECT_EQ(sim.journal.Texts({Kind::kWindow}),
-            (Lines{"Form1 loaded", "Form8 loaded", "Form8 shown", "Form8 unloaded", "Form1 shown"}));
+  EXPECT_EQ(
+      sim.journal.Texts({Kind::kWindow}),
+      (Lines{"Form1 loaded", "Form8 loaded", "Form8 shown", "Form8 unloaded", "Form1 shown"}));
   Lines steps;
   for (const std::string& text : sim.journal.Texts({Kind::kControl})) {
     if (text.starts_with("Form8.Label2")) steps.push_back(text);
   }
-  EXPECT_EQ(steps, (Lines{"Form8.Label2 caption: Windows check...",
-                          "Form8.Label2 caption: Write test...",
-                          "Form8.Label2 caption: Reading settings...",
-                          "Form8.Label2 caption: Checking for updates..."}));
+  EXPECT_EQ(steps,
+            (Lines{"Form8.Label2 caption: Windows check...", "Form8.Label2 caption: Write test...",
+                   "Form8.Label2 caption: Reading settings...",
+                   "Form8.Label2 caption: Checking for updates..."}));
 }
 
 TEST_F(StartTest, AfterTheStartNothingPlaysAndNoModeIsSelected) {
@@ -152,9 +153,11 @@ TEST_F(StartTest, DirectSoundDisablesTheModesItCannotPlay) {
 }
 
 TEST_F(StartTest, TheSoundModeIsCheckedInTheMenu) {
-  const std::vector<std::pair<std::string, std::string>> cases{
-      {"16", "Classic"},     {"32", "Sound32"}, {"64", "DirectSound"},
-      {"128", "Automatic"}, {"256", "Winmm"}};
+  const std::vector<std::pair<std::string, std::string>> cases{{"16", "Classic"},
+                                                               {"32", "Sound32"},
+                                                               {"64", "DirectSound"},
+                                                               {"128", "Automatic"},
+                                                               {"256", "Winmm"}};
   for (const auto& [code, caption] : cases) {
     sim.files.Put(kSettings, GoodSettings(code));
     Run();
@@ -199,8 +202,7 @@ TEST_F(StartTest, AnotherErrorWithTheOldLogIsReportedAndTheStartGoesOnFromTheCom
 }
 
 TEST_F(StartTest, AFailureThatTheSecondPassMeetsAgainEndsTheProgramWithAMessage) {
-  sim.files.Fail(Operation::kOpenForWriting, std::string(kLog) + ".1a2b.tmp",
-                 ErrorCode::kDiskFull);
+  sim.files.Fail(Operation::kOpenForWriting, kLog, ErrorCode::kDiskFull);
   sim.At(120ms, [this] { program->form6.done_flag = 1; });
   EXPECT_TRUE(Run());
   EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '61':\r\n\r\nDisk full"}));
@@ -210,8 +212,8 @@ TEST_F(StartTest, AnApplicationDataFolderThatCannotBeWrittenEndsTheProgramAtOnce
   sim.files.FailWritesIn(platform::simulated::kAppData, ErrorCode::kPermissionDenied);
   EXPECT_TRUE(Run());
   EXPECT_EQ(Messages(), (Lines{"exclamation [Write error] Write error"}));
-  EXPECT_EQ(LogEntries(), (Lines{">> Program started", "> Windows version check", "1 . 6 . 1",
-                                 "> Write test"}));
+  EXPECT_EQ(LogEntries(),
+            (Lines{">> Program started", "> Windows version check", "1 . 6 . 1", "> Write test"}));
   EXPECT_FALSE(sim.files.Exists("C:\\Temp\\test.txt"));
 }
 
@@ -221,9 +223,9 @@ TEST_F(StartTest, TheWriteTestLeavesNoProbeFiles) {
   EXPECT_FALSE(sim.files.Exists("C:\\Users\\Tom\\AppData\\Roaming\\test.txt"));
   const Lines files = sim.journal.Texts({Kind::kFile});
   EXPECT_NE(std::find(files.begin(), files.end(), "create C:\\Temp\\test.txt"), files.end());
-  EXPECT_NE(std::find(files.begin(), files.end(),
-                      "create C:\\Users\\Tom\\AppData\\Roaming\\test.txt"),
-            files.end());
+  EXPECT_NE(
+      std::find(files.begin(), files.end(), "create C:\\Users\\Tom\\AppData\\Roaming\\test.txt"),
+      files.end());
 }
 
 TEST_F(StartTest, AProbeFileThatCannotBeDeletedIsReported) {

@@ -93,11 +93,10 @@ TEST_F(LanguagesTest, TheHelpWindowIsTranslatedOnlyInDutch) {
     program->form2.Close();
     form1.dutch.Click();
     form1.HelpRequested();
-    const ui::Label* labels[] = {&program->form2.Label1, &program->form2.Label2,
-                                 &program->form2.Label3, &program->form2.Label4,
-                                 &program->form2.Label5, &program->form2.Label6,
-                                 &program->form2.Label7, &program->form2.Label8,
-                                 &program->form2.Label9};
+    const ui::Label* labels[] = {
+        &program->form2.Label1, &program->form2.Label2, &program->form2.Label3,
+        &program->form2.Label4, &program->form2.Label5, &program->form2.Label6,
+        &program->form2.Label7, &program->form2.Label8, &program->form2.Label9};
     const char* texts[] = {"text 31", "text 32", "text 33", "text 34", "text 35",
                            "text 37", "text 38", "text 39", "text 40"};
     for (int i = 0; i < 9; ++i) EXPECT_EQ(labels[i]->Caption(), texts[i]);

@@ -39,8 +39,8 @@ TEST(MorseCode, TheDeparturesFromTheTextbook) {
 }
 
 TEST(MorseCode, LengthsAtEverySpeed) {
-  const std::vector<std::pair<int, int>> dots{{0, 100}, {1, 100}, {2, 101}, {3, 102}, {5, 102},
-                                              {7, 104}, {499, 350}, {500, 350}};
+  const std::vector<std::pair<int, int>> dots{{0, 100}, {1, 100}, {2, 101},   {3, 102},
+                                              {5, 102}, {7, 104}, {499, 350}, {500, 350}};
   for (const auto& [speed, length] : dots) {
     EXPECT_EQ(DotLength(static_cast<std::int16_t>(speed)), length) << speed;
   }
@@ -108,9 +108,9 @@ TEST_F(MorseTest, AMessageIsATimelineOfTonesAndPauses) {
   const Lines timeline = Timeline();
   ASSERT_GE(timeline.size(), 13u);
   EXPECT_EQ(Lines(timeline.begin(), timeline.begin() + 13),
-            (Lines{"sleep 20", "beep 700 100", "sleep 75",               // E
-                   "sleep 20", "beep 700 200", "sleep 75",               // t
-                   "sleep 20", "sleep 500", "sleep 75",                  // the blank
+            (Lines{"sleep 20", "beep 700 100", "sleep 75",                     // E
+                   "sleep 20", "beep 700 200", "sleep 75",                     // t
+                   "sleep 20", "sleep 500", "sleep 75",                        // the blank
                    "sleep 20", "beep 700 100", "beep 700 200", "sleep 75"}));  // a
 }
 

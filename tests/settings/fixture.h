@@ -29,10 +29,18 @@ class NotingDisplay : public SettingsDisplay {
  public:
   Lines calls;
 
-  void ShowAutoUpdate(bool on) override { calls.push_back(on ? "auto update on" : "auto update off"); }
-  void ShowLanguage(const std::string& language) override { calls.push_back("language " + language); }
-  void LoadCaptions(const std::string& language) override { calls.push_back("captions " + language); }
-  void ShowMicrophone(bool on) override { calls.push_back(on ? "microphone on" : "microphone off"); }
+  void ShowAutoUpdate(bool on) override {
+    calls.push_back(on ? "auto update on" : "auto update off");
+  }
+  void ShowLanguage(const std::string& language) override {
+    calls.push_back("language " + language);
+  }
+  void LoadCaptions(const std::string& language) override {
+    calls.push_back("captions " + language);
+  }
+  void ShowMicrophone(bool on) override {
+    calls.push_back(on ? "microphone on" : "microphone off");
+  }
   void ShowMicrophoneLevel(std::int16_t level) override {
     calls.push_back("level " + std::to_string(level));
   }

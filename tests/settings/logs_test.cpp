@@ -40,8 +40,7 @@ TEST_F(ActivityLogTest, AnEntryWithTwoCommasComesBackAsThreeTrimmedEntries) {
   log.PrintFile("> Write action, Line:  3, Value: Language=EN");
   EXPECT_EQ(LogEntries(), (Lines{"> Write action, Line:  3, Value: Language=EN"}));
   log.PrintFile("#next");
-  EXPECT_EQ(LogEntries(),
-            (Lines{"> Write action", "Line:  3", "Value: Language=EN", "#next"}));
+  EXPECT_EQ(LogEntries(), (Lines{"> Write action", "Line:  3", "Value: Language=EN", "#next"}));
 }
 
 TEST_F(ActivityLogTest, AMissingLogBeginsAnew) {

@@ -21,7 +21,8 @@ TEST_F(SettingsTest, AGoodFileIsAppliedAndEchoedToTheLog) {
   EXPECT_EQ(state.SendData, 0);
   EXPECT_EQ(state.Microphone, 1);
   EXPECT_EQ(state.MicrophoneON, 1);
-  EXPECT_EQ(display.calls, (Lines{"auto update on", "language en", "captions en", "microphone on", "level 1"}));
+  EXPECT_EQ(display.calls,
+            (Lines{"auto update on", "language en", "captions en", "microphone on", "level 1"}));
   EXPECT_EQ(LogEntries(), (Lines{"AutoUpdate=y", "Soundbit=128", "Language=EN", "SendData=n",
                                  "Microphone=1", "MicrophoneON=y"}));
 }
@@ -30,7 +31,8 @@ TEST_F(SettingsTest, KeysAndValuesAreMatchedIgnoringCase) {
   Put("AUTOUPDATE=Y\r\nsoundbit=64\r\nLANGUAGE=nl\r\nsenddata=Y\r\nMICROPHONE=20\r\n"
       "microphoneon=N\r\n");
   file.CheckSettings();
-  EXPECT_EQ(display.calls, (Lines{"auto update on", "language nl", "captions nl", "microphone off", "level 20"}));
+  EXPECT_EQ(display.calls,
+            (Lines{"auto update on", "language nl", "captions nl", "microphone off", "level 20"}));
   EXPECT_EQ(state.SoundBit, "64");
   EXPECT_EQ(state.SendData, 1);
   EXPECT_EQ(state.MicrophoneON, 0);
@@ -71,10 +73,13 @@ INSTANTIATE_TEST_SUITE_P(
         BadFile{"ALineOf10MiB", std::string(10 << 20, 'A') + "\r\n" + kGood, {}},
         BadFile{"TenEntries", Entries(10), {}}, BadFile{"AThousandEntries", Entries(1000), {}},
         BadFile{"BlanksAroundTheEqualsSign",
-                "AutoUpdate = y\r\nSoundbit=128\r\nLanguage=EN\r\n" + kTail, {}},
-        BadFile{"AWrongSoundBit", "AutoUpdate=y\r\nSoundBit=65\r\nLanguage=EN\r\n" + kTail,
+                "AutoUpdate = y\r\nSoundbit=128\r\nLanguage=EN\r\n" + kTail,
+                {}},
+        BadFile{"AWrongSoundBit",
+                "AutoUpdate=y\r\nSoundBit=65\r\nLanguage=EN\r\n" + kTail,
                 {"auto update on"}},
-        BadFile{"AWrongLanguage", "AutoUpdate=y\r\nSoundBit=64\r\nLanguage=DE\r\n" + kTail,
+        BadFile{"AWrongLanguage",
+                "AutoUpdate=y\r\nSoundBit=64\r\nLanguage=DE\r\n" + kTail,
                 {"auto update on"}},
         BadFile{"ACommaThatShiftsTheLines",
                 "AutoUpdate=n\r\nSoundBit=64\r\nLanguage=EN,extra\r\n" + kTail,
@@ -118,9 +123,8 @@ TEST_F(SettingsTest, AFileOfNineEntriesIsAcceptedButTheNextWriteEndsTheProgram) 
 TEST_F(SettingsTest, TheSeventhAndEighthLineSurviveARewrite) {
   Put(Entries(8));
   file.WriteLine(2, "SoundBit=64");
-  EXPECT_EQ(sim.Lines(kPath),
-            (Lines{"AutoUpdate=y", "SoundBit=64", "Language=EN", "SendData=n", "Microphone=1",
-                   "MicrophoneON=y", "x7", "x8"}));
+  EXPECT_EQ(sim.Lines(kPath), (Lines{"AutoUpdate=y", "SoundBit=64", "Language=EN", "SendData=n",
+                                     "Microphone=1", "MicrophoneON=y", "x7", "x8"}));
 }
 
 TEST_F(SettingsTest, ALineBeyondTheLastIsNotWritten) {
@@ -231,7 +235,7 @@ TEST_F(SettingsTest, TheNewContentIsOnTheDiskBeforeItReplacesTheOld) {
 
 TEST(SettingsEntries, TheMicrophoneLevelIsTheWholePartOfANumberFrom1To20) {
   const std::vector<std::pair<std::string, std::int16_t>> good{
-      {"Microphone=1", 1},    {"Microphone=20", 20},    {"Microphone= 7", 7},
+      {"Microphone=1", 1},     {"Microphone=20", 20}, {"Microphone= 7", 7},
       {"microphone=20.9", 20}, {"MICROPHONE=1.5", 1}, {"Microphone=1e1", 10}};
   for (const auto& [entry, level] : good) EXPECT_EQ(MicrophoneLevel(entry), level) << entry;
   for (const char* entry : {"Microphone=0", "Microphone=21", "Microphone=-1", "Microphone=0.9",

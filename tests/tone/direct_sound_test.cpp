@@ -48,8 +48,8 @@ TEST_F(DirectSoundTest, NothingIsLeftWhenTheSoundObjectIsGone) {
   EXPECT_EQ(sim.direct_sound.live_objects, 0);
 }
 
-class FailingCallTest : public RoutesFixture, public testing::WithParamInterface<DirectSoundCall> {
-};
+class FailingCallTest : public RoutesFixture,
+                        public testing::WithParamInterface<DirectSoundCall> {};
 
 TEST_P(FailingCallTest, EndsTheProcedureThereAndKillAllSilencesTheRest) {
   sim.direct_sound.Fail(GetParam());
@@ -98,9 +98,10 @@ TEST_F(DirectSoundTest, AMissingPreparedFileEndsTheProcedureQuietly) {
   EXPECT_EQ(sim.pump.now_ms(), 0);
 }
 
-const std::string kHeader("RIFF\x2C\0\0\0WAVEfmt \x10\0\0\0\x01\0\x02\0\x44\xAC\0\0\x10\xB1\x02\0"
-                          "\x04\0\x10\0data\x08\0\0\0",
-                          44);
+const std::string kHeader(
+    "RIFF\x2C\0\0\0WAVEfmt \x10\0\0\0\x01\0\x02\0\x44\xAC\0\0\x10\xB1\x02\0"
+    "\x04\0\x10\0data\x08\0\0\0",
+    44);
 
 TEST(WaveFileTest, AFormatAndItsWholeFramesAreRead) {
   const auto wave = ParseWaveFile(kHeader + "abcdefgh");

@@ -24,10 +24,10 @@ TEST_F(HelpersTest, Sound16HandsOverThePitchAndStartsItsHelperHidden) {
 TEST_F(HelpersTest, Sound32DiffersOnlyInItsCommand) {
   StopAt(300ms);
   helpers.Sound32(10000);
-  EXPECT_EQ(Journal({Kind::kFile, Kind::kProcess, Kind::kSound, Kind::kControl}),
-            (Lines{"create " + kHandOver, "write " + kHandOver + ", 9 bytes",
-                   "start hidden tone32.dll", "terminate tone32.dll", "stop 0x2",
-                   "Actual pitch (Hertz): ", "delete " + kHandOver}));
+  EXPECT_EQ(
+      Journal({Kind::kFile, Kind::kProcess, Kind::kSound, Kind::kControl}),
+      (Lines{"create " + kHandOver, "write " + kHandOver + ", 9 bytes", "start hidden tone32.dll",
+             "terminate tone32.dll", "stop 0x2", "Actual pitch (Hertz): ", "delete " + kHandOver}));
 }
 
 TEST_F(HelpersTest, StopDuringATickIsNoticedAtItsEndThenEverythingIsSilenced) {
@@ -74,8 +74,8 @@ TEST_F(HelpersTest, TheSweepOf32ShowsItsPitchAndRestartsTheHelperAtTheTop) {
   helpers.LowToHigh("32");
   const Lines all = Journal({Kind::kControl, Kind::kProcess});
   EXPECT_EQ(Lines(all.begin(), all.begin() + 4),
-            (Lines{"Actual pitch (Hertz): ", "start hidden tone32.dll",
-                   "Actual pitch (Hertz): 200", "Actual pitch (Hertz): 400"}));
+            (Lines{"Actual pitch (Hertz): ", "start hidden tone32.dll", "Actual pitch (Hertz): 200",
+                   "Actual pitch (Hertz): 400"}));
   const auto reset = std::find(all.begin(), all.end(), "Resetting...");
   ASSERT_NE(reset, all.end());
   EXPECT_EQ(Lines(reset - 1, reset + 6),
@@ -105,11 +105,11 @@ TEST_F(HelpersTest, AMissingHelperLeavesTheSweepsDisplayRunningUntilStop) {
   StopAt(900ms);
   helpers.LowToHigh("32");
   EXPECT_EQ(sim.pump.now_ms(), 1200);
-  EXPECT_EQ(Journal({Kind::kControl}),
-            (Lines{"Actual pitch (Hertz): ", "Actual pitch (Hertz): 200",
-                   "Actual pitch (Hertz): 400", "Actual pitch (Hertz): 600",
-                   "Actual pitch (Hertz): 800", "Actual pitch (Hertz): 1000",
-                   "Actual pitch (Hertz): 1200", "Actual pitch (Hertz): "}));
+  EXPECT_EQ(
+      Journal({Kind::kControl}),
+      (Lines{"Actual pitch (Hertz): ", "Actual pitch (Hertz): 200", "Actual pitch (Hertz): 400",
+             "Actual pitch (Hertz): 600", "Actual pitch (Hertz): 800", "Actual pitch (Hertz): 1000",
+             "Actual pitch (Hertz): 1200", "Actual pitch (Hertz): "}));
 }
 
 TEST_F(HelpersTest, AHelperThatIsNotFoundAtTheResetIsRestartedAllTheSame) {
@@ -117,8 +117,8 @@ TEST_F(HelpersTest, AHelperThatIsNotFoundAtTheResetIsRestartedAllTheSame) {
   StopAt(std::chrono::milliseconds(200 * 161));
   helpers.LowToHigh("32");
   const Lines processes = Journal({Kind::kProcess});
-  EXPECT_EQ(processes, (Lines{"start hidden tone32.dll", "start hidden tone32.dll",
-                              "terminate tone32.dll"}));
+  EXPECT_EQ(processes,
+            (Lines{"start hidden tone32.dll", "start hidden tone32.dll", "terminate tone32.dll"}));
 }
 
 TEST_F(HelpersTest, TheSweepOf32InDutchShowsTheLoadedCaptionAndThePitch) {

@@ -124,9 +124,8 @@ TEST_F(WaveOutputTest, AFileThatCannotBeWrittenLeavesNothingBehindAndNoMessage) 
 TEST_F(WaveOutputTest, PlaysOnceOrLoopedWithoutWaiting) {
   output.WavPlay(kWave, false, false);
   output.WavPlay(kWave, true, false);
-  EXPECT_EQ(sim.journal.Texts({Kind::kSound}),
-            (Lines{std::string("play ") + kWave + " 0x20001",
-                   std::string("play ") + kWave + " 0x20009"}));
+  EXPECT_EQ(sim.journal.Texts({Kind::kSound}), (Lines{std::string("play ") + kWave + " 0x20001",
+                                                      std::string("play ") + kWave + " 0x20009"}));
 }
 
 TEST_F(WaveOutputTest, KillAllStopsPlaybackWhateverThePath) {
@@ -157,8 +156,8 @@ TEST_F(KillProcessTest, AnEmptyNameEndsNothing) {
 }
 
 TEST_F(KillProcessTest, NamesAreComparedAtTheirEndIgnoringCase) {
-  sim.processes.running = {{1, "mytone32.dll"}, {2, "Tone32.DLL"}, {3, "tone32.dll.exe"},
-                           {4, "tone16.dll"}};
+  sim.processes.running = {
+      {1, "mytone32.dll"}, {2, "Tone32.DLL"}, {3, "tone32.dll.exe"}, {4, "tone16.dll"}};
   EXPECT_EQ(killer.KillProcess("TONE32.dll"), 2);
   ASSERT_EQ(sim.processes.running.size(), 2u);
   EXPECT_EQ(sim.processes.running[0].id, 3u);

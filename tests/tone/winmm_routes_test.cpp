@@ -58,15 +58,15 @@ TEST_F(WinmmTest, TheSweepStepsBy200HzEvery75MsAndBeginsAnewAfter32000) {
 TEST_F(WinmmTest, StopDuringAStepEndsTheSweepAfterItsDelayAndLeavesNoFile) {
   StopAt(100ms);
   winmm.SoundWinmmLTH();
-  EXPECT_EQ(Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
-            (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
-                   "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 200", "stop 0x2",
-                   "delete " + kWavePath, "create " + kWavePath,
-                   "write " + kWavePath + ", 176444 bytes", "play " + kWavePath + " 0x20009",
-                   "Actual pitch (Hertz): 400", "stop 0x2", "delete " + kWavePath,
-                   "create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
-                   "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 600", "stop 0x2",
-                   "stop 0x2", "delete " + kWavePath}));
+  EXPECT_EQ(
+      Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
+      (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+             "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 200", "stop 0x2",
+             "delete " + kWavePath, "create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+             "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 400", "stop 0x2",
+             "delete " + kWavePath, "create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+             "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 600", "stop 0x2", "stop 0x2",
+             "delete " + kWavePath}));
 }
 
 TEST_F(WinmmTest, InDutchTheLoadedCaptionStandsBeforeThePitch) {
