@@ -138,12 +138,15 @@ void Form1::Form_Unload() {
     }
     close_attempts_ = 1;
     state_.stop_flag = 1;
+    const bool playing = Command3.Enabled();
     sound local_sound(platform_, state_, *this);
     NewProgram();
     NewExFunctions();
     Hide();
     platform_.files.Delete(state_.temp_folder + "\\tnftmp.wav");
     ex_functions_->WavPlay("0", false, true);
+    // The play that this ends never comes to release what it started.
+    if (playing) local_sound.KillAll();
     local_sound.online = 1;
     others_.UnloadOtherWindows();
     platform_.processes.EndProcess();

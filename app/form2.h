@@ -59,6 +59,7 @@ class Form2 : public ui::Window {
                    {16, 382, 528, 36},
                    "Loud high tones can damage your hearing, even tones that you do not hear. Set "
                    "the volume low before you play them."};
+  ui::Button Command1{*this, "Command1", {448, 424, 96, 28}, "OK"};
 
  protected:
   void Form_Load() override { load_captions_(); }

@@ -3,7 +3,8 @@
 - the time from start to visible main window, as a ratio to a bare program with one empty window,
   the two started alternately;
 - the size of the program's file;
-- its processor time, idle and while it plays, as a share of one core.
+- its processor time, idle and while it plays, as a share of one core;
+- the length of the steps of the mode "Low to high", against the nominal 75 ms.
 
 Run it with /usr/bin/python3 after ./test or "cmake --build --preset windows".
 """
@@ -18,6 +19,8 @@ PROJECT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(PROJECT / "tests" / "real"))
 
 from bench import PROGRAM, Bench, wait_for  # noqa: E402
+from measuring import RATE, loud_stretches  # noqa: E402
+from playing import press_play, start, stop  # noqa: E402
 from program import GOOD_SETTINGS, Folders, Tonmira, play_once  # noqa: E402
 from sound import Recorder  # noqa: E402
 from window import Driver, User, wait_for_window  # noqa: E402
@@ -25,6 +28,7 @@ from window import Driver, User, wait_for_window  # noqa: E402
 BARE = PROJECT / "build" / "windows" / "bench" / "bare_window.exe"
 PAIRS = 20
 WATCHED_S = 10
+NOMINAL_STEP_MS = 75
 
 
 def start_up_ms(bench: Bench, driver: Driver, folders: Folders, exe: Path, title: str) -> float:
@@ -91,6 +95,27 @@ def processor_time(bench: Bench, driver: Driver, folders: Folders) -> None:
         recorder.stop()
 
 
+def sweep_steps(bench: Bench, driver: Driver) -> None:
+    user, recorder = User(bench), Recorder(bench)
+    program = start(bench, driver, "256")
+    try:
+        window = program.window()
+        first = recorder.frames()
+        press_play(user, window, "Low to high")
+        recorder.wait_for_tone()
+        recorder.record(8)
+        stretches = loud_stretches(recorder.samples(first))
+        stop(program, user, window, recorder)
+    finally:
+        program.finish()
+        recorder.stop()
+    begins = [begin / RATE for begin, _ in stretches]
+    steps = sorted(1000 * (b - a) for a, b in zip(begins, begins[1:]))
+    print(f"Low to high, {len(steps)} steps from one beginning to the next: median "
+          f"{statistics.median(steps) / NOMINAL_STEP_MS:.2f}, worst "
+          f"{steps[-1] / NOMINAL_STEP_MS:.2f} of the nominal {NOMINAL_STEP_MS} ms")
+
+
 def main() -> None:
     print(f"Size of tonmira.exe: {PROGRAM.stat().st_size} bytes")
     with Bench() as bench:
@@ -98,6 +123,7 @@ def main() -> None:
         folders.write_settings(GOOD_SETTINGS)
         start_up(bench, driver, folders)
         processor_time(bench, driver, folders)
+        sweep_steps(bench, driver)
 
 
 if __name__ == "__main__":

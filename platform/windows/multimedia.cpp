@@ -6,6 +6,29 @@
 #include "platform/windows/wide_text.h"
 
 namespace platform::windows {
+namespace {
+
+bool FitsCodePage(const std::wstring& text) {
+  BOOL lost = FALSE;
+  WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(), static_cast<int>(text.size()),
+                      nullptr, 0, nullptr, &lost);
+  return lost == FALSE;
+}
+
+// Not every multimedia library opens files by the full set of characters; the short path has none
+// that the code page lacks.
+std::wstring InCodePage(const std::wstring& path) {
+  if (FitsCodePage(path)) return path;
+  const DWORD needed = GetShortPathNameW(path.c_str(), nullptr, 0);
+  std::wstring short_path(needed, L'\0');
+  const DWORD length = GetShortPathNameW(path.c_str(), short_path.data(), needed);
+  if (length == 0 || length >= needed) return path;
+  short_path.resize(length);
+  return short_path;
+}
+
+}  // namespace
+
 void MultimediaLibrary::Load() {
   if (tried_) return;
   tried_ = true;
@@ -31,7 +54,7 @@ void MultimediaLibrary::EndFineTimer() {
 }
 
 void MultimediaPlayer::Play(const std::string& path, std::uint32_t flags) {
-  library_.PlaySound(Widen(path).c_str(), flags);
+  library_.PlaySound(InCodePage(Widen(path)).c_str(), flags);
 }
 
 void MultimediaPlayer::Stop(std::uint32_t flags) {

@@ -163,7 +163,7 @@ TEST_F(MenusTest, HelpOpensItsWindowOnceAndF1DoesTheSame) {
   At(1s, [this](Form1& form1) {
     form1.Command1.Click();
     EXPECT_TRUE(program->form2.Visible());
-    program->form2.Close();
+    program->form2.Command1.Click();
     EXPECT_FALSE(program->form2.Loaded());
     form1.HelpRequested();
     EXPECT_TRUE(program->form2.Visible());

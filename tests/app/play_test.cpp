@@ -208,6 +208,27 @@ TEST_F(PlayTest, ClosingWhilePlayingEndsTheProcess) {
   At(2s, [](Form1& form1) { form1.Close(); });
   EXPECT_TRUE(Run());
   EXPECT_TRUE(sim.waves.playing.empty());
+  EXPECT_FALSE(sim.files.Exists(kWave));
+}
+
+TEST_F(PlayTest, ClosingWhileAHelperPlaysEndsTheHelper) {
+  sim.files.Put(kSettings, GoodSettings("32"));
+  sim.processes.become = {{"tone32.dll", "tone32.dll"}};
+  At(1s, [](Form1& form1) {
+    form1.Option1.Click();
+    form1.Command2.Click();
+  });
+  At(2s, [](Form1& form1) { form1.Close(); });
+  EXPECT_TRUE(Run());
+  EXPECT_TRUE(sim.processes.running.empty());
+  EXPECT_FALSE(sim.files.Exists("C:\\Temp\\sound.ini"));
+}
+
+TEST_F(PlayTest, ClosingAnIdleProgramLeavesAnotherCopysHelperAlone) {
+  sim.processes.running = {{1, "tone32.dll"}};
+  At(2s, [](Form1& form1) { form1.Close(); });
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.processes.running.size(), 1u);
 }
 
 TEST_F(PlayTest, AModeThatWasDisabledBeforeAPlayStaysSo) {

@@ -109,10 +109,11 @@ class Bench:
     def windows_path(self, path: Path) -> str:
         return "Z:" + str(path).replace("/", "\\")
 
-    def run(self, *command: str, timeout: float = 60) -> str:
+    def run(self, *command: str, timeout: float = 60, stderr: int | None = None) -> str:
         """Runs a tool on the bench and returns what it prints."""
         return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL, check=True,
-                              timeout=timeout, stdout=subprocess.PIPE, text=True).stdout
+                              timeout=timeout, stdout=subprocess.PIPE, stderr=stderr,
+                              text=True).stdout
 
     def start(self, *command: str, **options: object) -> subprocess.Popen:
         """Starts a process that ends with the bench."""

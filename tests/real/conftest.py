@@ -1,18 +1,21 @@
 """What the tests of the real program stand on. One bench serves the whole run."""
 
+import re
 import signal
+import subprocess
 import sys
 from collections.abc import Callable, Iterator
 from pathlib import Path
 
 import pytest
 
-from bench import PROGRAM, PROJECT, Bench, all_processes
+from bench import PROGRAM, PROJECT, Bench, command_of
 from program import Folders, Tonmira
 from sound import Recorder
 from window import Driver, User
 
 SCREENS = PROJECT / "out" / "screens"
+FAILURES = PROJECT / "out" / "failures"
 
 
 def what_is_left_of(bench: Bench) -> list[str]:
@@ -66,3 +69,24 @@ def launch(bench: Bench, driver: Driver) -> Iterator[Callable[..., Tonmira]]:
     yield start
     for program in started:
         program.finish()
+
+
+@pytest.hookimpl(hookwrapper=True)
+def pytest_runtest_makereport(item: pytest.Item) -> Iterator[None]:
+    """Keeps what the screen showed when a test failed, and names the windows in the report."""
+    outcome = yield
+    report = outcome.get_result()
+    bench = getattr(item, "funcargs", {}).get("bench")
+    driver = getattr(item, "funcargs", {}).get("driver")
+    if not (report.when == "call" and report.failed and bench):
+        return
+    picture = FAILURES / f"{re.sub('[^A-Za-z0-9]+', '-', item.name)[:80]}.png"
+    try:
+        picture.parent.mkdir(parents=True, exist_ok=True)
+        bench.run("import", "-window", "root", str(picture))
+        shown = [w.title for w in driver.windows() if w.visible and w.title] if driver else []
+        processes = [command_of(pid) for pid in bench.processes()]
+        report.sections.append(("bench", "\n".join([
+            f"screen: {picture}", f"windows: {shown}", "processes:", *processes])))
+    except (OSError, RuntimeError, subprocess.SubprocessError) as failure:
+        report.sections.append(("bench", f"gives no picture: {failure}"))

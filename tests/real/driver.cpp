@@ -4,14 +4,15 @@
 // any number of lines and then "ok", or with "error" and a reason. Handles and ids are decimal.
 //
 //   start EXE FOLDER TEMP APPDATA     starts EXE in FOLDER with these two variables: process id
-//   launch EXE CLASS TITLE            starts EXE and waits for its visible window: ms, process id
+//   launch EXE TITLE TEMP APPDATA     starts EXE and waits for its visible window: ms, process id
 //   running PID                       1 or 0
 //   handles PID                       number of open handles
 //   end PID                           ends a process that this program started
 //   windows                           handle, process, class, visible, x, y, width, height, title
-//   controls WINDOW                   handle, id, class, enabled, visible, checked, x, y, width,
-//                                     height, text
-//   text WINDOW                       its text
+//   controls WINDOW                   handle, id, class, enabled, visible, x, y, width, height,
+//                                     caption; asks nothing of the program, however busy it is
+//   checked BUTTON                    1 or 0
+//   text WINDOW                       its text, as the window itself tells it
 //   press BUTTON                      posts a click
 //   clicks COUNT BUTTON...            clicks the buttons in turn, each when the last was handled
 //   command WINDOW ID                 posts a menu choice
@@ -116,8 +117,7 @@ class Programs {
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION started = {};
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE,
-                        CREATE_UNICODE_ENVIRONMENT,
-                        environment.empty() ? nullptr : environment.data(),
+                        CREATE_UNICODE_ENVIRONMENT, environment.data(),
                         folder.empty() ? nullptr : wide_folder.c_str(), &startup, &started)) {
       throw std::runtime_error("cannot start " + exe + ": " + std::to_string(GetLastError()));
     }
@@ -147,24 +147,26 @@ std::wstring EnvironmentWith(const std::map<std::wstring, std::wstring>& replace
   return block + L'\0';
 }
 
+std::wstring EnvironmentOfUser(const std::string& temp, const std::string& appdata) {
+  return EnvironmentWith(
+      {{L"TEMP", Wide(temp)}, {L"TMP", Wide(temp)}, {L"APPDATA", Wide(appdata)}});
+}
+
 void Start(Programs& programs, const Fields& fields) {
-  const std::wstring temp = Wide(fields.at(3));
-  std::cout << programs.Start(
-                   fields.at(1), fields.at(2),
-                   EnvironmentWith(
-                       {{L"TEMP", temp}, {L"TMP", temp}, {L"APPDATA", Wide(fields.at(4))}}))
+  std::cout << programs.Start(fields.at(1), fields.at(2),
+                              EnvironmentOfUser(fields.at(3), fields.at(4)))
             << '\n';
 }
 
 void Launch(Programs& programs, const Fields& fields) {
-  const std::wstring window_class = Wide(fields.at(2));
-  const std::wstring title = Wide(fields.at(3));
+  const std::wstring title = Wide(fields.at(2));
+  const std::wstring environment = EnvironmentOfUser(fields.at(3), fields.at(4));
   LARGE_INTEGER begin = {}, end = {}, frequency = {};
   QueryPerformanceFrequency(&frequency);
   QueryPerformanceCounter(&begin);
-  const DWORD pid = programs.Start(fields.at(1), "", {});
+  const DWORD pid = programs.Start(fields.at(1), "", environment);
   for (;;) {
-    const HWND window = FindWindowW(window_class.c_str(), title.c_str());
+    const HWND window = FindWindowW(nullptr, title.c_str());
     QueryPerformanceCounter(&end);
     if (window != nullptr && IsWindowVisible(window)) break;
     if ((end.QuadPart - begin.QuadPart) / frequency.QuadPart > 30) {
@@ -188,11 +190,11 @@ BOOL CALLBACK PrintWindow(HWND window, LPARAM) {
 }
 
 BOOL CALLBACK PrintControl(HWND window, LPARAM) {
-  const std::string name = ClassOf(window);
-  const bool checked = name == "Button" && Ask(window, BM_GETCHECK) == BST_CHECKED;
-  std::cout << Number(window) << '\t' << GetDlgCtrlID(window) << '\t' << name << '\t'
-            << IsWindowEnabled(window) << '\t' << IsWindowVisible(window) << '\t' << checked << '\t'
-            << PlaceOf(window) << '\t' << TextOf(window) << '\n';
+  wchar_t caption[1024] = {};
+  InternalGetWindowText(window, caption, 1024);
+  std::cout << Number(window) << '\t' << GetDlgCtrlID(window) << '\t' << ClassOf(window) << '\t'
+            << IsWindowEnabled(window) << '\t' << IsWindowVisible(window) << '\t' << PlaceOf(window)
+            << '\t' << Utf8(caption) << '\n';
   return TRUE;
 }
 
@@ -216,10 +218,42 @@ void Slide(const Fields& fields) {
   }
 }
 
-void Handles(const Programs& programs, const Fields& fields) {
-  DWORD count = 0;
-  GetProcessHandleCount(programs.Get(fields.at(1)), &count);
-  std::cout << count << '\n';
+// The table of all handles of the session, as NtQuerySystemInformation gives it.
+struct HandleTable {
+  struct Entry {
+    void* object;
+    ULONG_PTR process;
+    ULONG_PTR handle;
+    ULONG access;
+    USHORT trace;
+    USHORT type;
+    ULONG attributes;
+    ULONG reserved;
+  };
+  ULONG_PTR count;
+  ULONG_PTR reserved;
+  Entry entries[1];
+};
+
+// Wine always answers 0 to GetProcessHandleCount.
+void Handles(const Fields& fields) {
+  using Query = LONG(WINAPI*)(ULONG, void*, ULONG, ULONG*);
+  constexpr ULONG kAllHandles = 64;
+  constexpr LONG kTooSmall = static_cast<LONG>(0xC0000004);
+  const auto query = reinterpret_cast<Query>(reinterpret_cast<void*>(
+      GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
+  std::vector<char> buffer(1 << 16);
+  LONG status = kTooSmall;
+  while ((status = query(kAllHandles, buffer.data(), static_cast<ULONG>(buffer.size()), nullptr)) ==
+         kTooSmall) {
+    buffer.resize(buffer.size() * 2);
+  }
+  if (status != 0) throw std::runtime_error("no table of handles");
+  const auto* const table = reinterpret_cast<const HandleTable*>(buffer.data());
+  const ULONG_PTR process = std::stoul(fields.at(1));
+  std::cout << std::count_if(table->entries, table->entries + table->count, [&](const auto& entry) {
+    return entry.process == process;
+  }) << '\n';
 }
 
 std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& programs) {
@@ -230,11 +264,15 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
        [&](const Fields& f) {
          std::cout << (WaitForSingleObject(programs.Get(f.at(1)), 0) == WAIT_TIMEOUT) << '\n';
        }},
-      {"handles", [&](const Fields& f) { Handles(programs, f); }},
+      {"handles", Handles},
       {"end", [&](const Fields& f) { TerminateProcess(programs.Get(f.at(1)), 1); }},
       {"windows", [](const Fields&) { EnumWindows(PrintWindow, 0); }},
       {"controls", [](const Fields& f) { EnumChildWindows(Window(f.at(1)), PrintControl, 0); }},
       {"text", [](const Fields& f) { std::cout << TextOf(Window(f.at(1))) << '\n'; }},
+      {"checked",
+       [](const Fields& f) {
+         std::cout << (Ask(Window(f.at(1)), BM_GETCHECK) == BST_CHECKED) << '\n';
+       }},
       {"press", [](const Fields& f) { Post(Window(f.at(1)), BM_CLICK); }},
       {"clicks", Clicks},
       {"command",

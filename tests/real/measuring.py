@@ -105,3 +105,25 @@ def _measure_stretch(samples: np.ndarray, first: int, end: int) -> Tone | None:
         start_s=(first + begin) / RATE,
         length_s=(past - begin) / RATE,
     )
+
+
+def steady_pitches(samples: np.ndarray, grid_hz: int) -> list[int]:
+    """The pitches of a stepped tone in the order in which they sound, to the nearest of a grid.
+
+    A piece counts when it lies close to the grid and the next piece agrees with it.
+    """
+    piece, hop = RATE // 40, RATE // 100
+    pitches: list[int] = []
+    before = 0
+    for start in range(0, len(samples) - piece + 1, hop):
+        part = samples[start : start + piece].astype(float)
+        if np.abs(part).max() <= LOUD:
+            before = 0
+            continue
+        frequency = rough_frequency(part)
+        nearest = int(round(frequency / grid_hz)) * grid_hz
+        agrees = nearest > 0 and abs(frequency - nearest) < grid_hz / 4
+        if agrees and nearest == before and (not pitches or pitches[-1] != nearest):
+            pitches.append(nearest)
+        before = nearest if agrees else 0
+    return pitches

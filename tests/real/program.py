@@ -14,6 +14,26 @@ GOOD_SETTINGS = ["AutoUpdate=y", "Soundbit=128", "Language=EN", "SendData=n", "M
                  "MicrophoneON=y"]
 TEMPORARY_WAVE = "tnfwinmmtmp.wav"
 
+# The lines of the activity log after a start with good settings, as patterns.
+LOG_OF_START = [
+    r"\d{1,2}/\d{1,2}/\d{4}",
+    r"\d{1,2}:\d{2}(:\d{2})?( [AP]M)?",
+    r"",
+    r">> Program started",
+    r"> Windows version check",
+    r"1 \. 6 \. [12]",
+    r"> Write test",
+    r"> Reading settings",
+    r"AutoUpdate=y",
+    r"Soundbit=128",
+    r"Language=EN",
+    r"SendData=n",
+    r"Microphone=1",
+    r"MicrophoneON=y",
+    r"> Bit: 128",
+    r">> Program starting finished",
+]
+
 
 class Folders:
     """The user's two folders, TEMP and APPDATA, and the files that the program keeps there."""
@@ -119,7 +139,7 @@ def play_once(program: Tonmira, user: User, mode: str) -> Window:
     program.wait_for_log(">> Program starting finished")
     user.activate(window)
     user.click_button(window, mode)
-    wait_for(lambda: window.button(mode).checked, f"the mode {mode!r}")
+    wait_for(lambda: window.is_checked(mode), f"the mode {mode!r}")
     user.click_button(window, "Play Sound")
     return window
 

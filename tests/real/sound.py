@@ -17,8 +17,9 @@ FRAME_BYTES = 4
 class Recorder:
     """Records everything that reaches the sound card, and when each sample arrived.
 
-    A sample arrives after it was heard, never before: a moment told by this class is late by the
-    recorder's own delay of some ten milliseconds, so that silence is never found too early.
+    A moment told by this class is within some 40 ms of what a listener would hear: the sound card
+    takes its samples up to 20 ms before they are due, and the recorder hands them over in pieces
+    of 20 ms.
     """
 
     def __init__(self, bench: Bench):

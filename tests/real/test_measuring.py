@@ -3,7 +3,7 @@
 import numpy as np
 import pytest
 
-from measuring import RATE, last_loud_sample, measure
+from measuring import RATE, last_loud_sample, measure, steady_pitches
 
 
 def tone(frequency: float, seconds: float, amplitude: float = 30000) -> np.ndarray:
@@ -83,3 +83,12 @@ def test_the_last_sound_is_found_to_the_sample() -> None:
     heard = np.concatenate((silence(0.5), tone(1000, 1), silence(0.5)))
     last = last_loud_sample(heard)
     assert last is not None and last == pytest.approx(1.5 * RATE, abs=45)
+
+
+def test_the_pitches_of_a_stepped_tone_are_told_in_their_order() -> None:
+    steps = [np.concatenate([tone(pitch, 0.09), silence(0.01)]) for pitch in (200, 400, 600, 9000)]
+    assert steady_pitches(np.concatenate(steps), 200) == [200, 400, 600, 9000]
+
+
+def test_a_pitch_beside_the_grid_is_no_step() -> None:
+    assert steady_pitches(tone(300, 0.5), 200) == []

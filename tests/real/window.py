@@ -28,7 +28,6 @@ class Control:
     kind: str
     enabled: bool
     visible: bool
-    checked: bool
     place: Place
     caption: str  # with "&" before the letter of its access key
 
@@ -81,8 +80,8 @@ class Driver:
                 for w in self.ask("windows")]
 
     def controls(self, window: str) -> list[Control]:
-        return [Control(c[0], int(c[1]), c[2], c[3] == "1", c[4] == "1", c[5] == "1",
-                        Place(*map(int, c[6:10])), c[10])
+        return [Control(c[0], int(c[1]), c[2], c[3] == "1", c[4] == "1",
+                        Place(*map(int, c[5:9])), c[9])
                 for c in self.ask("controls", window)]
 
     def running(self, process: int) -> bool:
@@ -118,7 +117,11 @@ class Window:
         return [c.text for c in self.controls() if c.visible]
 
     def status(self) -> str:
-        return self.control("msctls_statusbar32").text
+        bar = self.control("msctls_statusbar32")
+        return self.driver.ask("text", bar.handle)[0][0]
+
+    def is_checked(self, text: str) -> bool:
+        return self.driver.ask("checked", self.button(text).handle) == [["1"]]
 
     def press(self, text: str) -> None:
         """A click without the mouse."""
@@ -156,8 +159,9 @@ class User:
     def _find(self, window: Window) -> str:
         place = window.place()
         try:
-            ids = self.xdotool("search", "--onlyvisible", "--name",
-                               f"^{re.escape(window.title)}$").split()
+            ids = self.bench.run("xdotool", "search", "--onlyvisible", "--name",
+                                 f"^{re.escape(window.title)}$",
+                                 stderr=subprocess.DEVNULL).split()
             for candidate in ids:
                 position = self.xdotool("getwindowgeometry", candidate)
                 found = re.search(r"Position: (-?\d+),(-?\d+)", position)
@@ -192,10 +196,26 @@ class User:
     def type_keys(self, *keys: str) -> None:
         self.xdotool("key", "--delay", "60", *keys)
 
+    def move(self, window: Window, x: int, y: int) -> None:
+        self.xdotool("windowmove", "--sync", self.x_window(window), str(x), str(y))
+
     def screenshot(self, window: Window, path: Path) -> None:
-        """The window as it stands on the screen, with its frame."""
+        """The window as it stands on the screen, with its frame, once it is drawn to the end."""
         path.parent.mkdir(parents=True, exist_ok=True)
-        self.bench.run("import", "-window", self.x_window(window), "-frame", str(path))
+        x_window = self.x_window(window)
+
+        def is_settled() -> bool:
+            pictures = []
+            for _ in range(2):
+                self.bench.run("import", "-window", x_window, "-frame", "rgb:" + str(path))
+                pictures.append(path.read_bytes())
+                time.sleep(0.2)
+            return pictures[0] == pictures[1]
+
+        try:
+            wait_for(is_settled, f"a finished picture of {window.title!r}", 10)
+        finally:
+            self.bench.run("import", "-window", x_window, "-frame", "png:" + str(path))
 
 
 def wait_for_window(driver: Driver, title: str, process: int | None = None,

@@ -1,0 +1,19 @@
+// What a tone helper is asked to play: the one line of the hand-over file.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace helpers {
+
+inline constexpr std::uint32_t kHighestPitch = 32000;  // Hz
+inline constexpr std::uint32_t kSweep = 1;             // asks for a sweep instead of a tone
+inline constexpr std::size_t kLongestLine = 64;        // characters, the line's end not counted
+
+// Reads the first line of `text`: a whole decimal number between blanks or tabs, 1 (kSweep) or a
+// pitch in Hz up to kHighestPitch. Nothing if it is anything else.
+std::optional<std::uint32_t> ParseRequest(std::string_view text);
+
+}  // namespace helpers

@@ -1,0 +1,38 @@
+#include "helpers/request_file.h"
+
+#include <array>
+#include <string_view>
+
+#include "helpers/request.h"
+#include "platform/windows/handles.h"
+#include "platform/windows/windows_api.h"
+
+namespace helpers {
+
+using platform::windows::KernelHandle;
+
+RequestFile::RequestFile()
+    : path_(WideText::FilledBy([](wchar_t* space, std::size_t size) {
+        return GetEnvironmentVariableW(L"TEMP", space, static_cast<DWORD>(size));
+      })) {
+  path_.Append(L"\\sound.ini");
+}
+
+std::optional<std::uint32_t> RequestFile::Read() const {
+  const KernelHandle file = platform::windows::Own(CreateFileW(
+      path_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  // One character more than a line may have, so that a longer one is seen to be longer.
+  std::array<char, kLongestLine + 1> text;
+  DWORD size = 0;
+  if (!file || !ReadFile(file.get(), text.data(), text.size(), &size, nullptr)) return std::nullopt;
+  return ParseRequest({text.data(), size});
+}
+
+bool RequestFile::Missing() const {
+  if (GetFileAttributesW(path_.c_str()) != INVALID_FILE_ATTRIBUTES) return false;
+  const DWORD error = GetLastError();
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+}  // namespace helpers

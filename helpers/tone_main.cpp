@@ -1,0 +1,33 @@
+// tone16.dll and tone32.dll: plays what the hand-over file asks for until it is terminated. Ends at
+// once with kNoRequest if that file is missing or holds anything else.
+#include <cstdint>
+#include <optional>
+
+#include "helpers/request_file.h"
+#include "helpers/tone_player.h"
+#include "platform/windows/windows_api.h"
+
+namespace {
+
+constexpr int kNoRequest = 1;
+constexpr helpers::AtTop kAtTop =
+    TONMIRA_ENDS_AT_TOP ? helpers::AtTop::kEnd : helpers::AtTop::kStaySilent;
+
+// The system shows a busy pointer until a program first asks for its messages.
+void EndBusyPointer() {
+  MSG message;
+  PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+}
+
+}  // namespace
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+  SetErrorMode(SEM_FAILCRITICALERRORS);
+  const helpers::RequestFile file;
+  const std::optional<std::uint32_t> request = file.Read();
+  if (!request) return kNoRequest;
+  EndBusyPointer();
+  SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_TIME_CRITICAL);
+  helpers::TonePlayer(file, *request, kAtTop).Run();
+  return 0;
+}

@@ -1,0 +1,68 @@
+# Shared by ./run and ./test: headings, the packages that a job needs, and the builds.
+# Sourced from the project's folder; expects "set -euo pipefail".
+
+readonly python=/usr/bin/python3
+
+# What only looks at portable code.
+readonly portable_packages=(cmake g++ libgtest-dev make python3)
+
+# What builds the program for Windows.
+readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32 make)
+
+# What runs it, listens to it and looks at it.
+readonly bench_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
+  python3-numpy python3-pytest wine wine64 xdotool xvfb)
+
+heading() {
+  printf '\n== %s\n' "$*"
+}
+
+fail() {
+  printf 'error: %s\n' "$*" >&2
+  exit 1
+}
+
+# Prints those of the named packages that are not installed.
+missing_packages() {
+  local package
+  for package in "$@"; do
+    if [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) != installed ]]; then
+      printf '%s\n' "$package"
+    fi
+  done
+}
+
+install_packages() {
+  command -v dpkg-query >/dev/null || fail "this needs Debian's packages: $*"
+  local missing
+  mapfile -t missing < <(missing_packages "$@")
+  if ((${#missing[@]} == 0)); then
+    return
+  fi
+  heading "Installing ${missing[*]}"
+  if ((EUID != 0)); then
+    fail "not root; please install: apt-get install --no-install-recommends ${missing[*]}"
+  fi
+  export DEBIAN_FRONTEND=noninteractive
+  apt-get update -qq
+  apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null
+}
+
+# Configures and builds one of the presets.
+build() {
+  cmake --preset "$1" && cmake --build --preset "$1"
+}
+
+# Prints what the portable build lacks, on any system, in one line; nothing when all is there.
+missing_portable_tools() {
+  local missing=() compiler=${CXX:-c++}
+  command -v cmake >/dev/null || missing+=(cmake)
+  command -v make >/dev/null || missing+=(make)
+  [[ -x $python ]] || missing+=(python3)
+  if ! command -v "$compiler" >/dev/null; then
+    missing+=(g++)
+  elif ! echo '#include <gtest/gtest.h>' | "$compiler" -std=c++20 -fsyntax-only -x c++ - 2>/dev/null; then
+    missing+=(libgtest-dev)
+  fi
+  echo "${missing[*]}"
+}

@@ -1,0 +1,95 @@
+"""Fails when a room includes what it may not: the borders of docs/architecture.md as a table."""
+
+import re
+import sys
+from pathlib import Path
+
+PROJECT = Path(__file__).resolve().parents[1]
+
+# Room -> the rooms below it. Every room may include itself.
+SERVICES = {"base", "ui", "platform"}
+SUBSYSTEMS = {
+    "settings": set(),
+    "lang": {"settings"},
+    "tone": set(),
+    "morse": {"lang", "tone"},
+    "program_files": {"lang", "tone"},
+    "display": {"lang"},
+    "online": {"lang", "settings"},
+    "about": {"lang"},
+}
+APP = SERVICES | set(SUBSYSTEMS)
+SIMULATION = {"platform/simulated"}
+ALLOWED = {
+    "base": set(),
+    "ui": {"base"},
+    "platform": {"base", "ui"},
+    "platform/windows": SERVICES,
+    "platform/simulated": SERVICES,
+    **{room: SERVICES | below for room, below in SUBSYSTEMS.items()},
+    "app": APP,
+    "main.cpp": APP | {"app", "platform/windows"},
+    "helpers": {"base", "tone", "platform/windows"},
+    "tests": APP | {"app", "helpers"} | SIMULATION,
+    "tests/real": set(),
+    "bench": APP | {"app", "tests"} | SIMULATION,
+}
+
+# Where the Windows API may be used.
+WINDOWS = {"platform/windows", "main.cpp", "helpers", "tests/real"}
+WINDOWS_FILES = {"bench/bare_window.cpp"}
+
+# Beside the C++ standard library's headers.
+FURTHER_HEADERS = {
+    "tests": {"gtest/gtest.h", "gmock/gmock.h", "quadmath.h"},
+    "bench": {"benchmark/benchmark.h"},
+}
+STANDARD_HEADER = re.compile("[a-z_0-9]+")
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+
+
+def room_of(path: str) -> str:
+    """The innermost room of the table that holds `path`, or nothing."""
+    parts = path.split("/")
+    for length in range(len(parts), 0, -1):
+        if "/".join(parts[:length]) in ALLOWED:
+            return "/".join(parts[:length])
+    return ""
+
+
+def violations(path: str, text: str) -> list[str]:
+    room = room_of(path)
+    if not room:
+        return [f"{path}: lies in no room of the table"]
+    native = room in WINDOWS or path in WINDOWS_FILES
+    found = []
+    for bracket, header in INCLUDE.findall(text):
+        if bracket == '"':
+            target = room_of(header)
+            if target != room and target not in ALLOWED[room]:
+                found.append(f'{path}: "{header}" is beyond the border of {room}')
+        elif not (native or STANDARD_HEADER.fullmatch(header)
+                  or header in FURTHER_HEADERS.get(room, set())):
+            found.append(f"{path}: <{header}> is no header of the C++ standard library")
+    return found
+
+
+def sources() -> list[Path]:
+    unwatched = {"build", "out", ".git"}
+    return [path for pattern in ("*.h", "*.cpp") for path in sorted(PROJECT.rglob(pattern))
+            if path.relative_to(PROJECT).parts[0] not in unwatched]
+
+
+def main() -> int:
+    files = sources()
+    found = []
+    for path in files:
+        found += violations(path.relative_to(PROJECT).as_posix(), path.read_text())
+    for violation in found:
+        print(violation)
+    print(f"{len(files)} files, {len(found)} violations")
+    return 1 if found or not files else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,48 @@
+"""Playing in any sound mode, and what is left of it afterwards."""
+
+from bench import Bench, command_of, wait_for
+from program import GOOD_SETTINGS, TEMPORARY_WAVE, Folders, Tonmira
+from sound import Recorder
+from window import Driver, User, Window
+
+HELPERS = ("tone16.dll", "tone32.dll", "play16.exe")
+
+
+def start(bench: Bench, driver: Driver, sound_bit: str) -> Tonmira:
+    folders = Folders(bench)
+    settings = list(GOOD_SETTINGS)
+    settings[1] = f"SoundBit={sound_bit}"
+    folders.write_settings(settings)
+    program = Tonmira(bench, driver, folders)
+    program.wait_for_log(">> Program starting finished")
+    return program
+
+
+def helpers_running(bench: Bench) -> list[str]:
+    return [name for pid in bench.processes() for name in HELPERS
+            if name in command_of(pid).lower()]
+
+
+def press_play(user: User, window: Window, mode: str) -> None:
+    user.activate(window)
+    user.click_button(window, mode)
+    wait_for(lambda: window.is_checked(mode), f"the mode {mode!r}")
+    user.click_button(window, "Play Sound")
+
+
+def stop(program: Tonmira, user: User, window: Window, recorder: Recorder) -> float:
+    """Presses Stop; returns how long a sound was heard after it."""
+    first = recorder.frames()
+    stopped = user.click_button(window, "Stop Sound")
+    recorder.wait_for_silence()
+    program.wait_for_buttons(window, playing=False)
+    last_sound = recorder.moment_of_last_sound(first)
+    return 0.0 if last_sound is None else last_sound - stopped
+
+
+def expect_nothing_left(bench: Bench, program: Tonmira) -> None:
+    """No helper process, and none of the files that a tone needs."""
+    wait_for(lambda: not helpers_running(bench), "the end of the helpers", 3)
+    names = program.folders.names()
+    assert "sound.ini" not in names
+    assert TEMPORARY_WAVE not in names

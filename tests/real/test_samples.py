@@ -1,0 +1,29 @@
+"""The samples of every pitch from 1 to 32000 Hz: the plain formula's, and the same on every build."""
+
+import subprocess
+from pathlib import Path
+
+from bench import PROJECT, Bench
+
+SOURCES = ["tests/tone/digest.cpp", "tone/sine.cpp", "base/numbers.cpp", "base/errors.cpp"]
+FLAGS = ["-std=c++20", "-O3", "-I."]
+BUILDS = {
+    "native": ["g++"],
+    "native, 32 bits": ["g++", "-m32", "-msse2", "-mfpmath=sse"],
+    "Windows": ["x86_64-w64-mingw32-g++-win32", "-static"],
+}
+
+
+def test_every_build_makes_the_samples_of_the_plain_formula(bench: Bench, tmp_path: Path) -> None:
+    digests = {}
+    for name, compiler in BUILDS.items():
+        program = tmp_path / f"{name.replace(' ', '')}.exe"
+        subprocess.run([*compiler, *FLAGS, *SOURCES, "-o", str(program)], cwd=PROJECT, check=True)
+        if name == "Windows":
+            digests[name] = bench.run("wine", str(program), timeout=300).strip()
+        else:
+            compare = ["compare"] if name == "native" else []
+            digests[name] = subprocess.run([str(program), *compare], check=True, text=True,
+                                           capture_output=True).stdout.strip()
+    assert len(digests["native"]) == 16
+    assert set(digests.values()) == {digests["native"]}, digests

@@ -1,0 +1,85 @@
+"""The checks find what they are for."""
+
+import pytest
+
+from check_borders import ALLOWED, violations
+from check_imports import allowed_imports, imports, subsystem_version
+
+DUMP = """
+MajorSubsystemVersion   5
+MinorSubsystemVersion   1
+
+The Import Tables (interpreted .idata section contents)
+ vma:            Hint    Time      Forward  DLL       First
+                 Table   Stamp     Chain    Name      Thunk
+ 00069000\t00069078 00000000 00000000 0006a064 00069330
+
+\tDLL Name: KERNEL32.dll
+\tvma:  Hint/Ord Member-Name Bound-To
+\t4d5a4\t   30  Beep
+\t4d5ac\t  892  GetTickCount64
+
+ 00069014\t00069080 00000000 00000000 0006a094 00069338
+
+\tDLL Name: USER32.dll
+\tvma:  Hint/Ord Member-Name Bound-To
+\t4d5b4\t    3  MessageBoxW
+"""
+
+
+@pytest.mark.parametrize(("path", "line"), [
+    ("base/text.cpp", '#include "ui/control.h"'),
+    ("ui/control.h", '#include "platform/files.h"'),
+    ("platform/files.h", '#include "platform/windows/handles.h"'),
+    ("settings/settings_file.cpp", '#include "app/form1.h"'),
+    ("tone/sine.cpp", '#include "settings/settings_file.h"'),
+    ("app/form1.cpp", '#include "platform/windows/handles.h"'),
+    ("app/form1.cpp", '#include "platform/simulated/pump.h"'),
+    ("app/form1.cpp", "#include <windows.h>"),
+    ("platform/simulated/pump.cpp", "  #  include <windows.h>"),
+    ("platform/windows/pump.cpp", '#include "app/form1.h"'),
+    ("bench/synthesis_bench.cpp", "#include <windows.h>"),
+    ("tests/real/driver.cpp", '#include "base/text.h"'),
+    ("base/text.cpp", "#include <gtest/gtest.h>"),
+    ("base/text.cpp", "#include <string.h>"),
+    ("elsewhere/text.cpp", ""),
+])
+def test_a_border_crossed_is_found(path: str, line: str) -> None:
+    assert len(violations(path, f"// text\n{line}\n")) == 1
+
+
+@pytest.mark.parametrize(("path", "line"), [
+    ("base/text.cpp", '#include "base/text.h"'),
+    ("base/text.cpp", "#include <string>"),
+    ("ui/control.h", '#include "base/text.h"'),
+    ("app/form1.cpp", '#include "tone/sine.h"'),
+    ("main.cpp", '#include "platform/windows/windows_platform.h"'),
+    ("platform/windows/pump.cpp", "#include <windows.h>"),
+    ("bench/bare_window.cpp", "#include <windows.h>"),
+    ("tests/tone/sine_test.cpp", "#include <gtest/gtest.h>"),
+    ("tests/tone/sine_test.cpp", '#include "platform/simulated/simulation.h"'),
+])
+def test_what_the_table_allows_passes(path: str, line: str) -> None:
+    assert violations(path, line) == []
+
+
+def test_no_two_rooms_of_the_table_stand_above_each_other() -> None:
+    def below(room: str) -> set[str]:
+        return ALLOWED[room].union(*(below(lower) for lower in ALLOWED[room]))
+
+    assert [room for room in ALLOWED if room in below(room)] == []
+
+
+def test_the_imports_are_read_and_a_later_function_is_found() -> None:
+    allowed = allowed_imports("# GetTickCount64 came later\n[kernel32.dll]\nBeep Sleep\n\n"
+                              "[user32.dll]\nMessageBoxW\n")
+    assert imports(DUMP) - allowed == {("kernel32.dll", "GetTickCount64")}
+
+
+def test_a_function_of_another_library_does_not_count() -> None:
+    assert imports(DUMP) - allowed_imports("[user32.dll]\nBeep MessageBoxW GetTickCount64") == {
+        ("kernel32.dll", "Beep"), ("kernel32.dll", "GetTickCount64")}
+
+
+def test_the_system_version_is_read() -> None:
+    assert subsystem_version(DUMP) == (5, 1)
