@@ -31,8 +31,8 @@ class Form1Controls : public ui::Window {
   ui::Label Label8{*this, "Label8", {216, 118, 396, 18}, "No information avaible"};
   ui::Label Label9{
       *this, "Label9", {216, 146, 396, 22}, "Custom pitch", ui::Label::Style::kHeading};
-  ui::Label Label3{*this, "Label3", {216, 174, 124, 18}, "Selected pitch (Hz):"};
-  ui::Label Label10{*this, "Label10", {342, 174, 80, 18}, "1000"};
+  ui::Label Label3{*this, "Label3", {216, 174, 180, 18}, "Selected pitch (Hz):"};
+  ui::Label Label10{*this, "Label10", {400, 174, 80, 18}, "1000"};
   ui::Label Label5{*this, "Label5", {216, 202, 50, 18}, "4 Hz ->"};
   ui::ScrollBar HScroll1{*this, "HScroll1", {268, 200, 256, 20}, {4, 32000, 100, 1000, 1000}};
   ui::Label Label6{*this, "Label6", {532, 202, 88, 18}, "<- 32000 Hz"};

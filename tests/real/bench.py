@@ -67,7 +67,7 @@ def build_driver() -> Path:
         if not exe.exists() or exe.stat().st_mtime < DRIVER_SOURCE.stat().st_mtime:
             subprocess.run(
                 ["x86_64-w64-mingw32-g++-win32", "-std=c++20", "-O2", "-static", "-Wall",
-                 "-Wextra", "-Wconversion", "-Wshadow", "-Werror", DRIVER_SOURCE, "-o", exe],
+                 "-Wextra", "-Wconversion", "-Wshadow", "-Werror", DRIVER_SOURCE, "-o", exe, "-lgdi32"],
                 check=True)
     return exe
 

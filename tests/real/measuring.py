@@ -24,15 +24,26 @@ class Tone:
     length_s: float
 
 
-def loud_stretches(samples: np.ndarray) -> list[tuple[int, int]]:
-    """First and past-the-last sample of every stretch that is loud throughout."""
-    chunks = len(samples) // CHUNK
+def loud_stretches(samples: np.ndarray, chunk: int = CHUNK) -> list[tuple[int, int]]:
+    """First and past-the-last sample of every stretch that is loud throughout, to a chunk's length;
+    a chunk must hold a peak of the tone."""
+    chunks = len(samples) // chunk
     if chunks == 0:
         return []
-    peaks = np.abs(samples[: chunks * CHUNK].reshape(chunks, CHUNK)).max(axis=1)
+    peaks = np.abs(samples[: chunks * chunk].reshape(chunks, chunk)).max(axis=1)
     loud = np.concatenate(([False], peaks > LOUD, [False]))
     edges = np.flatnonzero(loud[1:] != loud[:-1])
-    return [(int(a) * CHUNK, int(b) * CHUNK) for a, b in zip(edges[::2], edges[1::2])]
+    return [(int(a) * chunk, int(b) * chunk) for a, b in zip(edges[::2], edges[1::2])]
+
+
+def short_pitch(samples: np.ndarray) -> float:
+    """The pitch of a short steady tone, by a line through its upward zero crossings."""
+    part = samples[RATE // 200 : -RATE // 200].astype(float)  # without its ends
+    before = np.flatnonzero((part[:-1] < 0) & (part[1:] >= 0))
+    if len(before) < 3:
+        return 0.0
+    moments = before - part[before] / (part[before + 1] - part[before])
+    return RATE / np.polyfit(np.arange(len(moments)), moments, 1)[0]
 
 
 def last_loud_sample(samples: np.ndarray) -> int | None:

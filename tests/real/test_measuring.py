@@ -3,7 +3,7 @@
 import numpy as np
 import pytest
 
-from measuring import RATE, last_loud_sample, measure, steady_pitches
+from measuring import RATE, last_loud_sample, loud_stretches, measure, short_pitch, steady_pitches
 
 
 def tone(frequency: float, seconds: float, amplitude: float = 30000) -> np.ndarray:
@@ -92,3 +92,14 @@ def test_the_pitches_of_a_stepped_tone_are_told_in_their_order() -> None:
 
 def test_a_pitch_beside_the_grid_is_no_step() -> None:
     assert steady_pitches(tone(300, 0.5), 200) == []
+
+
+@pytest.mark.parametrize("frequency", [699.0, 700.0, 701.3])
+def test_the_pitch_of_a_short_tone_is_measured_to_a_hundredth_of_a_percent(frequency: float) -> None:
+    assert short_pitch(tone(frequency, 0.08)) == pytest.approx(frequency, rel=1e-4)
+
+
+def test_short_pauses_part_tones_when_the_chunk_is_short() -> None:
+    signal = np.concatenate([tone(700, 0.1), silence(0.008), tone(700, 0.2)])
+    assert len(loud_stretches(signal, RATE // 500)) == 2
+    assert len(loud_stretches(signal)) == 1

@@ -1,0 +1,70 @@
+"""No caption is cut off in its control, in either language, at 96 and 144 DPI."""
+
+from collections.abc import Iterator
+
+import pytest
+
+from bench import PROJECT, Bench, wait_for
+from program import GOOD_SETTINGS, MODES, Folders, Tonmira
+from window import Driver, User, Window
+
+SCREENS = PROJECT / "out" / "screens"
+DUTCH_MODES = ["Lage toon", "Gemiddelde toon", "Hoge toon", "Extreme toon", "Spooktoon",
+               "Laag naar hoog", "Eigen toonhoogte", "Morsetool", "Gehoorleeftijd"]
+
+
+def set_dpi(bench: Bench, dpi: int) -> None:
+    bench.run("wine", "reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t",
+              "REG_DWORD", "/d", str(dpi), "/f", timeout=60)
+
+
+@pytest.fixture(params=[96, 144])
+def driver_at_dpi(request: pytest.FixtureRequest, bench: Bench) -> Iterator[tuple[Driver, int]]:
+    set_dpi(bench, request.param)
+    yield Driver(bench), request.param
+    set_dpi(bench, 96)
+
+
+def cut_off(driver: Driver, window: Window) -> list[str]:
+    return [line[0] for line in driver.ask("cut", window.handle)]
+
+
+@pytest.mark.parametrize(("language", "modes", "custom", "help_button", "start", "tool"), [
+    ("EN", MODES, "Custom pitch", "Help", "Start", "Morse tool"),
+    ("NL", DUTCH_MODES, "Eigen toonhoogte", "Help", "Starten", "Morsetool"),
+])
+def test_no_caption_is_cut_off(bench: Bench, user: User, driver_at_dpi: tuple[Driver, int],
+                               language: str, modes: list[str], custom: str, help_button: str,
+                               start: str, tool: str) -> None:
+    driver, dpi = driver_at_dpi
+    folders = Folders(bench)
+    settings = list(GOOD_SETTINGS)
+    settings[2] = f"Language={language}"
+    folders.write_settings(settings)
+    program = Tonmira(bench, driver, folders)
+
+    def look_at(window: Window, name: str) -> None:
+        user.screenshot(window, SCREENS / f"{name}-{language.lower()}-{dpi}.png")
+        assert cut_off(driver, window) == [], name
+
+    try:
+        if dpi != 96:
+            program.window("Warning").press("OK")
+        main = program.window()
+        program.wait_for_log(">> Program starting finished")
+        assert cut_off(driver, main) == []
+        for mode in modes:
+            main.press(mode)
+            wait_for(lambda mode=mode: main.is_checked(mode), mode)
+            assert cut_off(driver, main) == [], mode
+        look_at(main, "main")
+        main.press(custom)
+        wait_for(lambda: main.button(help_button).enabled, "the help button")
+        main.press(help_button)
+        look_at(program.window("Help"), "help")
+        main.press(tool)
+        wait_for(lambda: main.is_checked(tool), tool)
+        main.press(start)
+        look_at(program.window(tool), "morse")
+    finally:
+        program.finish()
