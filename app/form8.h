@@ -15,7 +15,7 @@ class Form8 : public ui::Window {
   ui::Label Label1{*this, "Label1", {96, 16, 228, 24}, "Tonmira", ui::Label::Style::kHeading};
   ui::Label Label2{*this, "Label2", {96, 46, 228, 18}, "Starting..."};
   ui::Label Label3{*this, "Label3", {96, 66, 228, 18}, "Tones from 4 Hz to 32000 Hz"};
-  ui::Label Label4{*this, "Label4", {16, 88, 308, 18}, "Version 2.3.6"};
+  ui::Label Label4{*this, "Label4", {96, 86, 228, 18}, "Version 2.3.6"};
 };
 
 }  // namespace app
