@@ -55,7 +55,7 @@ def test_a_border_crossed_is_found(path: str, line: str) -> None:
     ("app/form1.cpp", '#include "tone/sine.h"'),
     ("main.cpp", '#include "platform/windows/windows_platform.h"'),
     ("platform/windows/pump.cpp", "#include <windows.h>"),
-    ("bench/bare_window.cpp", "#include <windows.h>"),
+    ("tests/real/bare_window.cpp", "#include <windows.h>"),
     ("tests/tone/sine_test.cpp", "#include <gtest/gtest.h>"),
     ("tests/tone/sine_test.cpp", '#include "platform/simulated/simulation.h"'),
 ])
