@@ -57,11 +57,15 @@ class Folders:
         return self.temp / "userdata.txt"
 
     def log(self) -> list[str]:
-        text = self.log_file.read_bytes().decode("cp1252")
-        assert text.endswith("\r\n"), "the log ends within a line"
+        # The program may be writing its next entry at this very moment.
+        text = str(wait_for(self._whole_log, "a log that does not end within a line", 3))
         lines = text.split("\r\n")[:-1]
         assert not any("\r" in line or "\n" in line for line in lines)
         return lines
+
+    def _whole_log(self) -> str:
+        text = self.log_file.read_bytes().decode("cp1252")
+        return text if text.endswith("\r\n") else ""
 
     def names(self) -> list[str]:
         return sorted(path.name for path in (*self.temp.iterdir(), *self.appdata.iterdir()))
