@@ -210,12 +210,12 @@ TEST_P(BadLanguageFileTest, ChangesNothingAndShowsNothing) {
   EXPECT_FALSE(sim.files.Exists(kErrorLog));
 }
 
-std::string WithoutLineEnds(const std::string& content) {
-  std::string all_in_one;
+std::string Without(const std::string& content, char removed) {
+  std::string rest;
   for (const char c : content) {
-    if (c != '\r' && c != '\n') all_in_one += c;
+    if (c != removed) rest += c;
   }
-  return all_in_one;
+  return rest;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -228,7 +228,9 @@ INSTANTIATE_TEST_SUITE_P(
                     BadFile{"EmptyText", FileOf("nl", 79, {{20, ""}})},
                     BadFile{"TextOfOneBlank", FileOf("nl", 79, {{31, "\" \""}})},
                     BadFile{"TooFewEntries", FileOf("nl", 67)},
-                    BadFile{"NoLineEnds", WithoutLineEnds(FileOf("nl", 79))},
+                    BadFile{"NoLineEnds", Without(Without(FileOf("nl", 79), '\r'), '\n')},
+                    BadFile{"LoneLineFeeds", Without(FileOf("nl", 79), '\r')},
+                    BadFile{"LoneCarriageReturns", Without(FileOf("nl", 79), '\n')},
                     BadFile{"Binary", std::string(5000, '\x80') + std::string(100, '\0')},
                     BadFile{"AVeryLongLine", std::string(10 << 20, 'x')},
                     BadFile{"AQuoteThatIsNeverClosed", FileOf("nl", 79, {{4, "\"never closed"}})},

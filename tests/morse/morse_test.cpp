@@ -263,6 +263,30 @@ TEST_F(MorseTest, ClosingTheMainWindowWhileAMessagePlaysEndsTheProgram) {
   EXPECT_TRUE(Run());
 }
 
+TEST_F(MorseTest, EitherWindowMayBeClosedAtAnyStageOfPlaying) {
+  // In the first turn, in tones and pauses, between characters, in the silent tail, at its end.
+  for (const int after_ms : {0, 1, 25, 120, 200, 400, 700, 1000, 5000, 30000, 47000}) {
+    for (const bool main_window : {false, true}) {
+      sim.files.Put(app::kSettings, app::GoodSettings("32"));
+      const auto start = std::chrono::milliseconds(sim.pump.now_ms() + 1000);
+      At(start, [this](app::Form1&) {
+        tool().Show();
+        tool().Text1.Edit("et a");
+        tool().Command1.Click();
+      });
+      sim.At(start + std::chrono::milliseconds(after_ms), [this, main_window] {
+        if (main_window) {
+          main().Close();
+        } else {
+          tool().Close();
+        }
+      });
+      EXPECT_EQ(Run(), main_window) << after_ms;
+      EXPECT_FALSE(tool().Loaded()) << after_ms;
+    }
+  }
+}
+
 TEST_F(MorseTest, HideInputHidesTheMessageAndPlayingGoesOn) {
   Play("eee");
   sim.At(1100ms, [this] {
