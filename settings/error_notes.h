@@ -9,7 +9,8 @@
 //                32 webpage, 33 to 38 private procedures, 39 microinputonoff
 //   Form2        201 Form_Load, 202 Form_Unload
 //   Program      102 WriteLine, 103 CheckSettings, 104 NewFile, 105 Terminate, 108 LoadFile,
-//                1010 SelectRadio, 1012 WriteTest
+//                1010 SelectRadio, 1012 WriteTest,
+//                1015 LanguageAPI
 //   ExFunctions  1026 DPIGet, 1027 CheckVersion
 #pragma once
 
