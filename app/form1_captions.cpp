@@ -19,12 +19,18 @@ std::vector<lang::CaptionSlot> Form1::Captions() {
                                             {23, &language},
                                             {24, &microinputonoff},
                                             {25, &autoupdate},
+                                            {26, &about},
+                                            {27, &contact},
+                                            {28, &donate},
                                             {29, &StatusBar1},
                                             {74, &Label8, true},
                                             {75, &Frame2, true},
                                             {76, &Command1, true},
                                             {77, &sndclassic, true},
-                                            {78, &sndautomatic, true}};
+                                            {78, &sndautomatic, true},
+                                            {80, &openfile, true},
+                                            {81, &webpage, true},
+                                            {82, &help, true}};
   captions.insert(captions.end(), rest.begin(), rest.end());
   // Once a mode is selected, its description stands there.
   if (SelectedMode() == 0) captions.push_back({73, &Label1, true});

@@ -52,6 +52,8 @@ class Form1Controls : public ui::Window {
   ui::StatusBar StatusBar1{*this, "StatusBar1", "Actual pitch (Hertz):"};
 
   ui::MenuItem file{*this, "file", "File"};
+  ui::MenuItem openfile{file, "openfile", "Open tone program..."};
+  ui::MenuItem file_separator{file, "-", ""};
   ui::MenuItem exit{file, "exit", "Exit"};
 
   ui::MenuItem settings{*this, "settings", "Settings"};
@@ -67,6 +69,12 @@ class Form1Controls : public ui::Window {
   ui::MenuItem separator{settings, "-", ""};
   ui::MenuItem microinputonoff{settings, "microinputonoff", "Display Microphone Input"};
   ui::MenuItem autoupdate{settings, "autoupdate", "Check for updates at start"};
+  ui::MenuItem help{*this, "help", "Help"};
+  ui::MenuItem webpage{help, "webpage", "Website"};
+  ui::MenuItem contact{help, "contact", "Contact"};
+  ui::MenuItem donate{help, "donate", "Donate"};
+  ui::MenuItem help_separator{help, "-", ""};
+  ui::MenuItem about{help, "about", "About Tonmira"};
 
   // Option1 to Option9 at indexes 0 to 8.
   const std::array<ui::OptionButton*, 9>& Options() const { return options_; }

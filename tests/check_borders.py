@@ -13,10 +13,10 @@ SUBSYSTEMS = {
     "lang": {"settings"},
     "tone": set(),
     "morse": {"lang", "tone"},
-    "program_files": {"lang", "tone"},
-    "display": {"lang"},
+    "program_files": {"lang", "settings", "tone"},
+    "display": {"lang", "settings"},
     "online": {"lang", "settings"},
-    "about": {"lang"},
+    "about": {"lang", "settings"},
 }
 APP = SERVICES | set(SUBSYSTEMS)
 SIMULATION = {"platform/simulated"}

@@ -9,7 +9,7 @@ from sound import Recorder
 from window import User
 
 # The number of the entry "Winmm" in the menu, as its position gives it.
-MENU_WINMM = 1008
+MENU_WINMM = 1010
 
 def assert_lines(lines: list[str], patterns: list[str]) -> None:
     for number, (line, pattern) in enumerate(zip(lines, patterns), start=1):

@@ -132,7 +132,7 @@ def test_closing_the_window_while_it_plays_silences_and_ends(
 
 
 def test_exit_in_the_menu_ends_the_program(started: Tonmira) -> None:
-    started.window().choose(1001)
+    started.window().choose(1003)
     started.wait_for_end()
 
 
