@@ -33,7 +33,9 @@ class Application : public OtherWindows, public morse::MorseScene {
 
   // lang::CaptionScene
   std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval) override;
-  void UseTexts(const lang::Texts& texts) override { form1.UseTexts(texts); }
+  void UseTexts(const lang::Texts& texts, std::int16_t formval) override {
+    form1.UseTexts(texts, formval);
+  }
 
   // morse::MorseScene
   void LoadMorseCaptions(const std::string& language) override;

@@ -41,7 +41,7 @@ class Form1 : public Form1Controls,
 
   // The captions of this window, by slot of a language file.
   std::vector<lang::CaptionSlot> Captions();
-  void UseTexts(const lang::Texts& texts);
+  void UseTexts(const lang::Texts& texts, std::int16_t formval);
 
   // Applies the language file of `language` to a window.
   void LoadCaptions(const std::string& language, std::int16_t formval);

@@ -37,9 +37,9 @@ std::vector<lang::CaptionSlot> Form1::Captions() {
   return captions;
 }
 
-void Form1::UseTexts(const lang::Texts& texts) {
+void Form1::UseTexts(const lang::Texts& texts, std::int16_t formval) {
   texts_ = texts;
-  ShowMicrophoneLevel(state_.Microphone);
+  if (formval == lang::kMainWindow) ShowMicrophoneLevel(state_.Microphone);
 }
 
 void Form1::LoadCaptions(const std::string& code, std::int16_t formval) {

@@ -1,6 +1,6 @@
 // The main window's plain state, read and written by several subsystems.
 //
-// Flags are 16-bit integers, 1 = yes. All are cleared when the program starts.
+// Flags are 16-bit integers, 1 = yes. What is not said here is cleared when the program starts.
 #pragma once
 
 #include <cstdint>

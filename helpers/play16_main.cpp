@@ -1,6 +1,7 @@
 // play16.exe: starts tone16.dll, which is a program, from its own folder and ends. The exit code is
-// not 0 if it could not be started.
+// not 0 if the hand-over file asks for nothing or tone16.dll could not be started.
 #include "helpers/program_paths.h"
+#include "helpers/request_file.h"
 #include "platform/windows/windows_api.h"
 
 namespace {
@@ -33,5 +34,6 @@ bool Start(const WideText& program) {
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
   SetErrorMode(SEM_FAILCRITICALERRORS);
+  if (!helpers::RequestFile().Read()) return 1;
   return Start(helpers::Beside(OwnPath().view(), L"tone16.dll")) ? 0 : 1;
 }

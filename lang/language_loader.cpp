@@ -26,7 +26,7 @@ void LanguageLoader::LanguageAPI(const std::string& language, std::int16_t formv
       if (caption.optional && text.empty()) continue;
       std::visit([&text](auto* target) { target->SetCaption(text); }, caption.target);
     }
-    scene_.UseTexts(TextsOf(*file));
+    scene_.UseTexts(TextsOf(*file), formval);
   });
 }
 

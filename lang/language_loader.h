@@ -31,11 +31,12 @@ class CaptionScene {
  public:
   virtual ~CaptionScene() = default;
 
-  // The captions of window `formval`, in slot order; none for a number without a window.
+  // The captions of window `formval`, in the order in which they are set; none for a number without
+  // a window.
   virtual std::vector<CaptionSlot> CaptionsOf(std::int16_t formval) = 0;
 
-  // Takes over the message texts.
-  virtual void UseTexts(const Texts& texts) = 0;
+  // Takes over the message texts, which came with the captions of window `formval`.
+  virtual void UseTexts(const Texts& texts, std::int16_t formval) = 0;
 };
 
 class LanguageLoader {

@@ -41,9 +41,9 @@ std::vector<lang::CaptionSlot> Form4::Captions() {
 }
 
 void Form4::Form_Load() {
+  if (loading_ == 1) return;
+  loading_ = 1;
   tone::Quietly([this] {
-    if (loading_ == 1) return;
-    loading_ = 1;
     stop_flag = 1;
     Check1.SetValue(false);
     Text1.SetText("Type your message here...");
@@ -78,9 +78,11 @@ void Form4::Command2_Click() {
 }
 
 void Form4::Check1_Click() {
-  const bool shown = !Check1.Value();
-  Text1.SetVisible(shown);
-  Label3.SetVisible(shown);
+  tone::Quietly([this] {
+    const bool shown = !Check1.Value();
+    Text1.SetVisible(shown);
+    Label3.SetVisible(shown);
+  });
 }
 
 void Form4::ReadFields() {
@@ -110,7 +112,7 @@ void Form4::TakeMessage() {
 
 void Form4::PlayLoop() {
   for (;;) {
-    platform_.pump.ProcessPending();
+    platform_.pump.ProcessPending([this] { return stop_flag == 1; });
     Wait(kTurnMs);
     const std::string character = CharacterAt(position_);
     if (character == " ") Wait(WordPause(speed_));
@@ -137,7 +139,10 @@ void Form4::SoundCharacter(const std::string& character) {
 }
 
 void Form4::UnloadIfHidden() {
-  if (!play_scene_.MainWindowVisible() || !Visible()) Unload();
+  if (play_scene_.MainWindowVisible() && Visible()) return;
+  Unload();
+  // Also for a play that this one began in the tail of.
+  stop_flag = 1;
 }
 
 const std::string& Form4::CharacterAt(std::int16_t position) const {

@@ -63,7 +63,7 @@ class MessagePump {
   // before the input that follows is handled.
   virtual void ProcessPending(const std::function<bool()>& enough = {}) = 0;
 
-  // Blocks the thread; messages wait.
+  // Blocks the thread; messages wait. Returns at once for 0 and less.
   virtual void Sleep(int milliseconds) = 0;
 
   // Handles messages until no window is left that could be used.
@@ -114,7 +114,7 @@ class Beeper {
  public:
   virtual ~Beeper() = default;
 
-  // Sounds and returns when it is over.
+  // Sounds and returns when it is over. A duration of 0 and less is no sound.
   virtual void Beep(int pitch_hz, int duration_ms) = 0;
 };
 

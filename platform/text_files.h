@@ -9,7 +9,7 @@
 
 namespace platform {
 
-// How far a replaced file must have got when ReplaceText returns.
+// How far a replaced file must have got when Replace returns.
 enum class Durability {
   kVisible,  // other programs see the new content
   kOnDisk,   // a power failure leaves it, too

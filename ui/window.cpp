@@ -27,7 +27,6 @@ void Window::Load() {
 
 void Window::Show() {
   Load();
-  if (visible_) return;
   visible_ = true;
   view_->ShowWindow(true);
 }

@@ -49,7 +49,8 @@ class Window {
   bool Visible() const { return visible_; }
 
   void Load();
-  void Show();  // loads it first where needed
+  // Loads it first where needed; a visible window comes to the front.
+  void Show();
   virtual void Hide();
   void Unload();
 

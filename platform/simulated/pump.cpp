@@ -21,6 +21,7 @@ void VirtualPump::ProcessPending(const std::function<bool()>& enough) {
 }
 
 void VirtualPump::Sleep(int milliseconds) {
+  if (milliseconds < 0) milliseconds = 0;
   if (journal_waits) journal_.Add(Kind::kWait, "sleep " + std::to_string(milliseconds));
   AdvanceTo(now_ms_ + milliseconds);
   if (actions_.empty() && now_ms_ - last_action_ms_ > kLongestWaitMs) {

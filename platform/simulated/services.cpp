@@ -45,6 +45,10 @@ bool FakeProcesses::Terminate(std::uint32_t id) {
   const auto process = std::find_if(running.begin(), running.end(),
                                     [id](const ProcessEntry& entry) { return entry.id == id; });
   if (process == running.end() || protected_ids.count(id) != 0) return false;
+  if (fleeting_ids.count(id) != 0) {
+    running.erase(process);
+    return false;
+  }
   journal_.Add(Kind::kProcess, "terminate " + process->name);
   running.erase(process);
   return true;

@@ -50,6 +50,7 @@ class FakeProcesses : public Processes {
 
   std::vector<ProcessEntry> running;
   std::set<std::uint32_t> protected_ids;      // may not be ended
+  std::set<std::uint32_t> fleeting_ids;       // are gone when they are to be ended
   std::set<std::string> missing_commands;     // cannot be started
   std::map<std::string, std::string> become;  // command: name of the process that it starts
 

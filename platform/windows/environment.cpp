@@ -57,7 +57,9 @@ std::string WindowsEnvironment::FullPath(const std::string& path) {
 }
 
 void WindowsEnvironment::SetCurrentFolder(const std::string& path) {
-  const std::wstring folder = Widen(path);
+  std::wstring folder = Widen(path);
+  // A drive's name alone would mean the folder that is current on it, not its root.
+  if (folder.ends_with(L':')) folder += L'\\';
   if (!SetCurrentDirectoryW(folder.c_str())) ThrowFileError(GetLastError(), folder);
 }
 

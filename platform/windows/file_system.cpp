@@ -10,7 +10,9 @@
 namespace platform::windows {
 namespace {
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD kShareWithWriters = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+// Two that write one file at a time would leave a mixture of both.
+constexpr DWORD kShareWithReaders = FILE_SHARE_READ | FILE_SHARE_DELETE;
 constexpr DWORD kLongestPause = 64;  // ms; the pauses double, so all of them last twice as long
 
 // Calls `attempt` until it succeeds or trying again is no use; returns the system's last error.
@@ -90,7 +92,7 @@ std::unique_ptr<InputFile> WindowsFileSystem::OpenForReading(const std::string& 
   std::wstring name = Widen(path);
   KernelHandle file;
   const DWORD error = Insist(name, [&] {
-    file = Own(CreateFileW(name.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+    file = Own(CreateFileW(name.c_str(), GENERIC_READ, kShareWithWriters, nullptr, OPEN_EXISTING,
                            FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     return file != nullptr;
   });
@@ -105,7 +107,7 @@ std::unique_ptr<OutputFile> WindowsFileSystem::OpenForWriting(const std::string&
   std::wstring name = Widen(path);
   KernelHandle file;
   const DWORD error = Insist(name, [&] {
-    file = Own(CreateFileW(name.c_str(), GENERIC_WRITE, kShareAll, nullptr, OPEN_ALWAYS,
+    file = Own(CreateFileW(name.c_str(), GENERIC_WRITE, kShareWithReaders, nullptr, OPEN_ALWAYS,
                            FILE_ATTRIBUTE_NORMAL, nullptr));
     return file != nullptr;
   });

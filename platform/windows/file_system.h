@@ -1,5 +1,5 @@
 // Files through the system's wide functions. Every file is opened so that other programs may read,
-// write, rename and delete it meanwhile. A file that is held for an instant is tried again for
+// rename and delete it meanwhile, and write it if it is not being written. A file that is held for an instant is tried again for
 // about an eighth of a second before the error counts.
 #pragma once
 

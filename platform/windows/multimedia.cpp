@@ -62,6 +62,7 @@ void MultimediaPlayer::Stop(std::uint32_t flags) {
 }
 
 void SystemBeeper::Beep(int pitch_hz, int duration_ms) {
+  if (duration_ms <= 0) return;
   ::Beep(static_cast<DWORD>(pitch_hz), static_cast<DWORD>(duration_ms));
 }
 

@@ -108,7 +108,9 @@ void NativeWindow::CreateFrame(const Appearance& appearance) {
 
 void NativeWindow::ShowWindow(bool visible) {
   const int show = TakesFocus() ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE;
+  const bool again = visible && IsWindowVisible(handle_);
   ::ShowWindow(handle_, visible ? show : SW_HIDE);
+  if (again && TakesFocus()) SetForegroundWindow(handle_);
   if (visible) open_.ForgetLeft();
 }
 

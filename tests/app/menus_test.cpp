@@ -171,6 +171,16 @@ TEST_F(MenusTest, HelpOpensItsWindowOnceAndF1DoesTheSame) {
   EXPECT_FALSE(Run());
 }
 
+TEST_F(MenusTest, AskingForHelpAgainBringsItsWindowToTheFront) {
+  At(1s, [this](Form1& form1) {
+    form1.Command1.Click();
+    sim.journal.Clear();
+    form1.Command1.Click();
+    EXPECT_EQ(sim.journal.Texts({Kind::kWindow}), (Lines{"Form2 shown"}));
+  });
+  EXPECT_FALSE(Run());
+}
+
 TEST_F(MenusTest, ASettingsFileThatCannotBeWrittenIsReportedAndKeepsItsContent) {
   sim.At(1s, [this] {
     sim.files.FailWritesIn(platform::simulated::kAppData, base::ErrorCode::kPermissionDenied);

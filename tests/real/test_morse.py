@@ -11,10 +11,11 @@ from program import TEMPORARY_WAVE, Tonmira
 from sound import Recorder
 from window import Control, Driver, User, Window
 
-CODES = {"S": "...", "O": "----", "7": "--...", "3": "...--"}
+CODES = {"S": "...", "O": "----", "P": ".--.", "A": ".-", "R": ".-.", "I": "..", "7": "--...",
+         "3": "...--"}
 # The pauses within a character are the player's own, some 15 ms.
 CHUNK = RATE // 500
-MESSAGE = "SOS 73"
+MESSAGE = "SOS PARIS 73"
 PITCH_HZ = 700
 PLAYS = 4
 

@@ -151,9 +151,10 @@ TEST_F(KillAllTest, AFileThatCannotBeDeletedDoesNotKeepTheOtherFromGoing) {
 
 TEST_F(KillAllTest, AHelperThatEndsWhileItIsBeingEndedIsNoFailure) {
   sim.processes.running = {{1, "tone32.dll"}};
-  sim.processes.protected_ids = {1};
+  sim.processes.fleeting_ids = {1};
   sim.files.Put(kHandOver, " 440 \r\n");
   support.KillAll();
+  EXPECT_TRUE(sim.processes.running.empty());
   EXPECT_FALSE(sim.files.Exists(kHandOver));
 }
 
