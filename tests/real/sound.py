@@ -74,8 +74,12 @@ class Recorder:
         last = last_loud_sample(self.samples(first_frame))
         if last is None:
             return None
+        return self.moment_of(first_frame + last)
+
+    def moment_of(self, frame: int) -> float:
+        """When this frame arrived (time.monotonic)."""
         with self._lock:
-            return next(when for when, count in self._arrivals if count > first_frame + last)
+            return next(when for when, count in self._arrivals if count > frame)
 
     def _wait(self, condition, seconds: float, what: str) -> None:
         first = self.frames()

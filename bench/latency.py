@@ -1,0 +1,124 @@
+"""How soon a tone sounds and ends, measured on the private test bench: the time from the press of
+Play to the first loud sample and from the press of Stop to the last one, for every sound mode, as
+a ratio to a minimal program that only calls PlaySound on a ready file.
+
+With --endurance also a thousand plays and stops: handles, threads and memory before and after.
+
+Run it with /usr/bin/python3 after ./test or "cmake --build --preset windows".
+"""
+
+import statistics
+import sys
+import time
+from collections.abc import Callable
+from pathlib import Path
+
+import numpy as np
+
+PROJECT = Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(PROJECT / "tests" / "real"))
+
+from bench import Bench, wait_for  # noqa: E402
+from measuring import LOUD, RATE  # noqa: E402
+from playing import start  # noqa: E402
+from program import Folders, Tonmira  # noqa: E402
+from sound import Recorder, save_wav  # noqa: E402
+from test_surroundings import play_and_stop_often, usage  # noqa: E402
+from window import Driver, Window, wait_for_window  # noqa: E402
+
+BARE = PROJECT / "build" / "windows" / "bench" / "bare_player.exe"
+SOUND_MODES = ("256", "128", "64", "32", "16")
+ROUNDS = 9
+ENDURANCE_ROUNDS = 1000
+
+
+def moment_of_first_sound(recorder: Recorder, first_frame: int) -> float:
+    """When the first loud sample since `first_frame` arrived (time.monotonic)."""
+    def found() -> list[int]:
+        return np.flatnonzero(np.abs(recorder.samples(first_frame)) > LOUD)[:1].tolist()
+
+    return recorder.moment_of(first_frame + wait_for(found, "a tone")[0])
+
+
+def one_round(recorder: Recorder, play: Callable[[], None],
+              stop: Callable[[], None]) -> tuple[float, float]:
+    """Milliseconds from Play to the first sound, and from Stop to the last one."""
+    recorder.wait_for_silence()
+    first = recorder.frames()
+    pressed = time.monotonic()
+    play()
+    begun = moment_of_first_sound(recorder, first) - pressed
+    recorder.record(0.5)
+    pressed = time.monotonic()
+    stop()
+    recorder.wait_for_silence()
+    ended = recorder.moment_of_last_sound(first)
+    return 1000 * begun, 1000 * max(0.0, (ended or pressed) - pressed)
+
+
+def medians(recorder: Recorder, play: Callable[[], None],
+            stop: Callable[[], None]) -> tuple[float, float]:
+    one_round(recorder, play, stop)
+    rounds = [one_round(recorder, play, stop) for _ in range(ROUNDS)]
+    begun, ended = zip(*rounds)
+    return statistics.median(begun), statistics.median(ended)
+
+
+def of_the_bare_player(bench: Bench, driver: Driver, recorder: Recorder) -> tuple[float, float]:
+    folders = Folders(bench)
+    wave = (30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(RATE))).astype(np.int16)
+    save_wav(folders.temp / "tone.wav", np.column_stack((wave, wave)))
+    program = Tonmira(bench, driver, folders, exe=BARE)
+    try:
+        window = wait_for_window(driver, "Bare player", program.process)
+        return medians(recorder, lambda: window.press("Play"), lambda: window.press("Stop"))
+    finally:
+        program.finish()
+
+
+def of_tonmira(bench: Bench, driver: Driver, recorder: Recorder,
+               sound_mode: str) -> tuple[float, float]:
+    program = start(bench, driver, sound_mode)
+    try:
+        window = program.window()
+        window.press("Low pitch")
+        wait_for(lambda: window.is_checked("Low pitch"), "the mode")
+
+        def stop() -> None:
+            window.press("Stop Sound")
+            program.wait_for_buttons(window, playing=False)
+
+        return medians(recorder, lambda: window.press("Play Sound"), stop)
+    finally:
+        program.finish()
+
+
+def endurance(bench: Bench, driver: Driver) -> None:
+    program = start(bench, driver, "128")
+    try:
+        window: Window = program.window()
+        window.press("Low pitch")
+        play_and_stop_often(program, window, 5)
+        before = usage(driver, program)
+        play_and_stop_often(program, window, ENDURANCE_ROUNDS)
+        print(f"{ENDURANCE_ROUNDS} plays and stops: {before} before, {usage(driver, program)} after")
+    finally:
+        program.finish()
+
+
+def main() -> None:
+    with Bench() as bench:
+        driver, recorder = Driver(bench), Recorder(bench)
+        bare = of_the_bare_player(bench, driver, recorder)
+        print(f"Bare player, medians of {ROUNDS}: Play to first sound {bare[0]:.0f} ms, "
+              f"Stop to last sound {bare[1]:.0f} ms")
+        for sound_mode in SOUND_MODES:
+            own = of_tonmira(bench, driver, recorder, sound_mode)
+            print(f"Sound mode {sound_mode}: Play {own[0]:.0f} ms, ratio {own[0] / bare[0]:.2f}; "
+                  f"Stop {own[1]:.0f} ms, ratio {own[1] / max(bare[1], 1):.2f}")
+        if "--endurance" in sys.argv[1:]:
+            endurance(bench, driver)
+
+
+if __name__ == "__main__":
+    main()
