@@ -11,7 +11,7 @@ Form1::Form1(platform::Platform& platform, OtherWindows& others, std::string com
     : Form1Controls(platform.windows),
       platform_(platform),
       others_(others),
-      scene_{*this, others, *this, others, others},
+      scene_{*this, others, *this, others, others, sine_animation_},
       command_line_(std::move(command_line)) {
   ConnectControls();
   ConnectMenu();
@@ -55,6 +55,7 @@ std::shared_ptr<ExFunctions> Form1::NewExFunctions() {
 
 void Form1::Hide() {
   stays_hidden_ = true;
+  sine_animation_.Stop();
   Form1Controls::Hide();
 }
 

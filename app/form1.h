@@ -12,6 +12,8 @@
 #include "app/form1_controls.h"
 #include "app/services.h"
 #include "base/main_state.h"
+#include "display/dx_record.h"
+#include "display/waveform.h"
 #include "lang/texts.h"
 #include "platform/platform.h"
 
@@ -61,6 +63,7 @@ class Form1 : public Form1Controls,
   bool MainWindowVisible() const override { return Visible(); }
   ui::WindowView& MainWindowView() override { return *View(); }
   void ShowStatus(const std::string& text) override { StatusBar1.SetCaption(text); }
+  void DrawSine(std::int16_t pitch, std::int16_t mode) override;
   std::string StatusCaption() const override { return texts_.status; }
 
   // ModeDisplay
@@ -96,7 +99,9 @@ class Form1 : public Form1Controls,
 
   // Tone modes (form1_modes.cpp).
   void OptionClick(int mode);
+  void ShowSine(Program& program, int mode);
   void HScroll1_Change();
+  std::int16_t SelectedPitch() const;  // of the slider, as it is shown
 
   // Play and Stop (form1_play.cpp).
   void Command2_Click();
@@ -112,6 +117,18 @@ class Form1 : public Form1Controls,
   bool PlayingEnds() const { return !Visible() || state_.stop_flag == 1; }
   void WaitTick();
 
+  // The microphone display (form1_microphone.cpp).
+  void StartCapture();
+  void StopCapture();
+  void EndCapture();
+  void DirectSoundRecord_GotWaveData(std::span<const std::uint8_t> block,
+                                     std::int16_t bits_per_sample, std::int16_t channels);
+  void Draw16(std::span<const std::uint8_t> block, bool stereo);
+  void DrawWave(std::span<const std::int16_t> samples, bool stereo);
+  void Draw8(std::span<const std::uint8_t> block, bool stereo);
+  display::WaveView MicrophoneView(bool stereo) const;
+  void ShowWave(const display::WaveDrawing& drawing);
+
   // Menus and the other buttons (form1_menus.cpp).
   void Command1_Click();
   void ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item, const std::string& code);
@@ -126,9 +143,12 @@ class Form1 : public Form1Controls,
   OtherWindows& others_;
   base::MainState state_;
   lang::Texts texts_;
+  display::SineAnimation sine_animation_{platform_, state_, Picture1, others_};
   Scene scene_;
   ProgramPtr program_;
   std::shared_ptr<ExFunctions> ex_functions_;
+
+  std::unique_ptr<display::frmDX_Record> DirectSoundRecord;
 
   std::string command_line_;
   std::string command_line_file_;

@@ -61,6 +61,13 @@ void Form1::ToggleMicrophone() {
     const bool on = !microinputonoff.Checked();
     microinputonoff.SetChecked(on);
     program->WriteLine(6, on ? "MicrophoneON=y" : "MicrophoneON=n");
+    state_.MicrophoneON = on ? 1 : 0;
+    if (on) {
+      StartCapture();
+    } else {
+      EndCapture();
+      picWave.Clear();
+    }
     Command5.SetEnabled(on);
     Command4.SetEnabled(on);
   });

@@ -11,7 +11,22 @@ void Form1::OptionClick(int mode) {
   settings::TrapErrors(*program, static_cast<std::int16_t>(16 + mode), [&] {
     program->SelectRadio(static_cast<std::int16_t>(mode));
     if (mode != kHearingMode) mode_chosen_flag = 1;
+    ShowSine(*program, mode);
   });
+}
+
+// The other modes show nothing until they draw themselves: the slider, the steps of a sweep.
+void Form1::ShowSine(Program& program, int mode) {
+  if (HasOwnPitch(mode)) {
+    program.DrawSine(ModePitch(mode), display::kAnimated);
+  } else {
+    sine_animation_.Stop();
+  }
+}
+
+void Form1::DrawSine(std::int16_t pitch, std::int16_t mode) {
+  const ProgramPtr program = program_;
+  program->DrawSine(pitch, mode);
 }
 
 void Form1::ShowMode(int mode) {
@@ -30,8 +45,15 @@ void Form1::ShowMode(int mode) {
 }
 
 void Form1::HScroll1_Change() {
-  settings::TrapErrors(*NewProgram(), 26,
-                       [this] { Label10.SetCaption(base::SignedNumber(HScroll1.Value())); });
+  const ProgramPtr program = NewProgram();
+  settings::TrapErrors(*program, 26, [&] {
+    Label10.SetCaption(base::SignedNumber(HScroll1.Value()));
+    program->DrawSine(SelectedPitch(), display::kStillPicture);
+  });
+}
+
+std::int16_t Form1::SelectedPitch() const {
+  return base::ToInt16(base::WholePart(base::NumberFromText(Label10.Caption())));
 }
 
 }  // namespace app

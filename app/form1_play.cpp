@@ -60,10 +60,10 @@ void Form1::Play(const ProgramPtr& program) {
 
 std::int16_t Form1::TakePitch() {
   const int mode = SelectedMode();
-  if (mode >= 1 && mode <= 5) mode_number_ = base::BareNumber(mode);
+  if (HasOwnPitch(mode)) mode_number_ = base::BareNumber(mode);
   if (!UsesSlider(mode)) return ModePitch(mode);
   HScroll1.SetEnabled(false);
-  return base::ToInt16(base::WholePart(base::NumberFromText(Label10.Caption())));
+  return SelectedPitch();
 }
 
 void Form1::StartHearingTest() {
@@ -122,8 +122,9 @@ void Form1::PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch)
 }
 
 void Form1::WaitTick() {
-  platform_.pump.ProcessPending([this] { return PlayingEnds(); });
-  ex_functions_->delay(kPlayTickMs);
+  const auto ends = [this] { return PlayingEnds(); };
+  platform_.pump.ProcessPending(ends);
+  ex_functions_->Pause(kPlayTickMs, ends);
 }
 
 void Form1::Stop(const ProgramPtr& program) {

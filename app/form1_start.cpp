@@ -119,6 +119,7 @@ void Form1::FinishStart() {
     program_->PrintFile("> Starting tnf file");
     Hide();
   }
+  if (state_.MicrophoneON == 1) StartCapture();
   program_->PrintFile(">> Program starting finished");
   Command3.SetEnabled(false);
 }
@@ -143,6 +144,8 @@ void Form1::Form_Unload() {
     NewProgram();
     NewExFunctions();
     Hide();
+    if (state_.MicrophoneON == 1) EndCapture();
+    DirectSoundRecord.reset();
     platform_.files.Delete(state_.temp_folder + "\\tnftmp.wav");
     ex_functions_->WavPlay("0", false, true);
     // The play that this ends never comes to release what it started.

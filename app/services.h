@@ -6,6 +6,7 @@
 #include "app/program_end.h"
 #include "app/system_checks.h"
 #include "base/main_state.h"
+#include "display/sine_animation.h"
 #include "lang/language_loader.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
@@ -28,6 +29,7 @@ struct Scene {
   ModeDisplay& modes;
   lang::CaptionScene& captions;
   WindowList& windows;
+  display::SineAnimation& sine;
 };
 
 class Program : public settings::ErrorNotes,
@@ -35,7 +37,8 @@ class Program : public settings::ErrorNotes,
                 public settings::SettingsFile,
                 public lang::LanguageLoader,
                 public ModeSelection,
-                public ProgramEnd {
+                public ProgramEnd,
+                public display::SineDrawing {
  public:
   Program(platform::Platform& platform, base::MainState& state, const Scene& scene)
       : ErrorNotes(platform, scene.errors),
@@ -43,7 +46,8 @@ class Program : public settings::ErrorNotes,
         SettingsFile(platform, state, scene.settings, *this, *this),
         LanguageLoader(platform, scene.captions, *this),
         ModeSelection(state, scene.modes, *this, *this, *this),
-        ProgramEnd(platform, state, scene.windows, *this) {}
+        ProgramEnd(platform, state, scene.windows, *this),
+        SineDrawing(state, scene.sine, *this) {}
 };
 
 class ExFunctions : public tone::WaveOutput,

@@ -23,6 +23,10 @@ std::int16_t ModePitch(int mode) {
   }
 }
 
+bool HasOwnPitch(int mode) {
+  return mode >= 1 && mode < kSweepMode;
+}
+
 bool UsesSlider(int mode) {
   return mode == kCustomMode;
 }

@@ -22,6 +22,9 @@ inline constexpr std::int16_t kMorseMarker = 3;
 // others.
 std::int16_t ModePitch(int mode);
 
+// Whether the mode is one of the fixed-pitch modes.
+bool HasOwnPitch(int mode);
+
 // Whether the slider belongs to the mode, and whether it has a sine preview.
 bool UsesSlider(int mode);
 bool ShowsSine(int mode);

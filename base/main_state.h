@@ -15,8 +15,9 @@ struct MainState {
   std::int16_t AutoUpdate = 0;
   std::int16_t SendData = 0;
   std::int16_t MicrophoneON = 0;
-  std::int16_t Microphone = 1;  // sensitivity, 1 to 20
-  std::string temp_folder;      // value of TEMP
+  std::int16_t Microphone = 1;      // sensitivity, 1 to 20
+  std::string temp_folder;          // value of TEMP
+  std::int16_t sine_stop_flag = 0;  // 1 asks the moving sine preview to end
 };
 
 }  // namespace base

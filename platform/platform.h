@@ -3,8 +3,10 @@
 
 #include "platform/direct_sound.h"
 #include "platform/files.h"
+#include "platform/sound_capture.h"
 #include "platform/system.h"
 #include "platform/text_files.h"
+#include "platform/timers.h"
 #include "ui/window_system.h"
 
 namespace platform {
@@ -24,6 +26,8 @@ struct Platform {
   SystemVersion& version;
   MessageBoxes& messages;
   ui::WindowSystem& windows;
+  Timers& timers;
+  SoundCapture& sound_capture;
 
   TextFiles Texts() const { return TextFiles(files, code_page); }
 };

@@ -6,11 +6,14 @@
 //                7 Command5, 9 contact, 10 donate, 11 dutch, 12 english, 13 exit, 14 Form_Load,
 //                15 Form_Unload, 16 openfile, 17 to 25 Option1 to Option9, 26 HScroll1,
 //                27 sndautomatic, 28 sndclassic, 29 snddirectsound, 30 sndsound32, 31 sndwinmm,
-//                32 webpage, 33 to 38 private procedures, 39 microinputonoff
+//                32 webpage, 33 StartCapture, 34 StopCapture,
+//                35 DirectSoundRecord_GotWaveData, 36 Draw16, 37 DrawWave, 38 Draw8,
+//                39 microinputonoff
 //   Form2        201 Form_Load, 202 Form_Unload
+//   frmDX_Record 9901 DirectXEvent8_DXCallback
 //   Program      102 WriteLine, 103 CheckSettings, 104 NewFile, 105 Terminate, 108 LoadFile,
 //                1010 SelectRadio, 1012 WriteTest,
-//                1015 LanguageAPI
+//                1014 DrawSine, 1015 LanguageAPI
 //   ExFunctions  1026 DPIGet, 1027 CheckVersion
 #pragma once
 

@@ -46,7 +46,7 @@ void HelperRoutes::LowToHigh(const std::string& bit) {
       sweep_pitch_ = base::ToInt16(sweep_pitch_ + kSweepStep);
       if (sweep_pitch_ >= kSweepTop) Restart(bit);
       ShowSweep(bit);
-      support_.waves.delay(kSweepTickMs);
+      support_.Pause(kSweepTickMs);
     } while (!support_.Stopped());
     support_.KillAll();
   });
@@ -75,7 +75,10 @@ void HelperRoutes::Restart(const std::string& bit) {
 }
 
 void HelperRoutes::ShowSweep(const std::string& bit) {
-  if (bit == "32") support_.ShowPitch(sweep_pitch_);
+  if (bit == "32") {
+    support_.ShowPitch(sweep_pitch_);
+    support_.DrawStep(sweep_pitch_);
+  }
   if (bit == "16") support_.scene.ShowStatus(support_.scene.StatusCaption());
 }
 

@@ -8,6 +8,7 @@ namespace {
 
 constexpr char kPitchCaption[] = "Actual pitch (Hertz): ";
 constexpr std::int16_t kBitsPerSample = 16;
+constexpr std::int16_t kStillSine = 930;
 
 }  // namespace
 
@@ -45,6 +46,10 @@ void RouteSupport::ShowPitch(std::int32_t pitch) {
   scene.ShowStatus(PitchCaption() + base::BareNumber(pitch));
 }
 
+void RouteSupport::DrawStep(std::int16_t pitch) {
+  scene.DrawSine(pitch, kStillSine);
+}
+
 bool RouteSupport::Stopped() const {
   return state.stop_flag == 1 || !scene.MainWindowVisible();
 }
@@ -53,10 +58,14 @@ void RouteSupport::HandleMessages() {
   services.pump.ProcessPending([this] { return Stopped(); });
 }
 
+void RouteSupport::Pause(std::int16_t time_ms) {
+  waves.Pause(time_ms, [this] { return Stopped(); });
+}
+
 void RouteSupport::WaitUntilStopped(std::int16_t tick_ms) {
   do {
     HandleMessages();
-    waves.delay(tick_ms);
+    Pause(tick_ms);
   } while (!Stopped());
 }
 

@@ -27,6 +27,9 @@ class PlayScene {
   virtual ui::WindowView& MainWindowView() = 0;
   virtual void ShowStatus(const std::string& text) = 0;
 
+  // The preview of a sine wave of `pitch` Hz; mode 930 draws it still.
+  virtual void DrawSine(std::int16_t pitch, std::int16_t mode) = 0;
+
   // The caption of the status panel in the loaded language.
   virtual std::string StatusCaption() const = 0;
 };
@@ -70,8 +73,14 @@ class RouteSupport {
   void ShowPitchCaption();
   void ShowPitch(std::int32_t pitch);
 
+  // The preview of one step of a sweep.
+  void DrawStep(std::int16_t pitch);
+
   bool Stopped() const;
   void HandleMessages();
+
+  // Waits, handling messages now and then, for at most `time_ms`; ends early once stopped.
+  void Pause(std::int16_t time_ms);
 
   // Handles messages and waits, in turn, until the tone is stopped.
   void WaitUntilStopped(std::int16_t tick_ms);

@@ -4,6 +4,11 @@
 #include "tone/quietly.h"
 
 namespace tone {
+namespace {
+
+constexpr int kLongestPieceMs = 55;
+
+}  // namespace
 
 std::string WaveOutput::CreateWaveArray(const SampleBuffer& samples, std::int32_t sample_rate,
                                         std::int16_t bits_per_sample) {
@@ -40,6 +45,16 @@ void WaveOutput::WavPlay(const std::string& path, bool loop_sound, bool kill_all
 
 void WaveOutput::delay(std::int16_t timems) {
   Quietly([&] { platform_.pump.Sleep(timems); });
+}
+
+void WaveOutput::Pause(std::int16_t timems, const std::function<bool()>& enough) {
+  const int pieces = (timems + kLongestPieceMs - 1) / kLongestPieceMs;
+  for (int piece = 1; piece <= pieces; ++piece) {
+    delay(static_cast<std::int16_t>(timems * piece / pieces - timems * (piece - 1) / pieces));
+    if (piece == pieces || enough()) return;
+    platform_.pump.ProcessPending(enough);
+    if (enough()) return;
+  }
 }
 
 }  // namespace tone

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "platform/platform.h"
@@ -28,6 +29,11 @@ class WaveOutput {
 
   // Blocks the thread without handling messages.
   void delay(std::int16_t timems);
+
+  // As delay, but in pieces so short that the user notices none; messages are handled in between.
+  // After the first piece it ends as soon as `enough` holds, so that the input that follows is
+  // left to an outer loop.
+  void Pause(std::int16_t timems, const std::function<bool()>& enough);
 
  private:
   platform::Platform& platform_;

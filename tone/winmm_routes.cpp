@@ -52,7 +52,8 @@ void WinmmRoutes::SoundWinmmLTH() {
       pitch = base::ToInt16(pitch + kSweepStep);
       StartTone(pitch);
       support_.ShowPitch(pitch);
-      support_.waves.delay(kSweepTickMs);
+      support_.DrawStep(pitch);
+      support_.Pause(kSweepTickMs);
       StopTone();
     } while (!support_.Stopped());
     StopTone();

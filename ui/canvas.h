@@ -1,9 +1,11 @@
 // A small raster that picture boxes draw into.
 //
 // Pixels are 0x00RRGGBB, row by row from the top; kBackground stands for the colour of the
-// system's window background and kForeground for that of its text, whatever those are.
+// system's window background and kForeground for that of its text, whatever those are. Drawing
+// takes any coordinates, in pixels from the upper left corner; what lies outside is left out.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -14,6 +16,11 @@ class Canvas {
   static constexpr std::uint32_t kBackground = 0x01000000;
   static constexpr std::uint32_t kForeground = 0x02000000;
 
+  struct Point {
+    double x = 0;
+    double y = 0;
+  };
+
   Canvas(int width, int height)
       : width_(width),
         height_(height),
@@ -22,8 +29,25 @@ class Canvas {
   int width() const { return width_; }
   int height() const { return height_; }
   const std::vector<std::uint32_t>& pixels() const { return pixels_; }
+  std::uint32_t At(int x, int y) const { return pixels_[Index(x, y)]; }
+
+  void Clear();
+
+  // The pixel that holds the point, in kForeground.
+  void DrawPoint(Point point);
+
+  // A line one pixel wide, both ends included, in kForeground.
+  void DrawLine(Point from, Point to);
 
  private:
+  std::size_t Index(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+           static_cast<std::size_t>(x);
+  }
+
+  // Cuts a line down to what lies on the canvas; false when nothing does.
+  bool Clip(Point& from, Point& to) const;
+
   int width_;
   int height_;
   std::vector<std::uint32_t> pixels_;

@@ -46,9 +46,23 @@ std::int32_t ScrollBar::Clamp(std::int32_t value) const {
   return std::clamp(value, range_.minimum, range_.maximum);
 }
 
-void PictureBox::SetPicture(const Canvas& canvas) {
-  canvas_ = canvas;
+void PictureBox::Draw(const std::function<void(Canvas&)>& draw) {
+  canvas_.Clear();
+  draw(canvas_);
   Tell(Property::kPicture);
+}
+
+void PictureBox::Clear() {
+  Draw([](Canvas&) {});
+}
+
+void PictureBox::SetResolution(int width, int height) {
+  canvas_ = Canvas(width, height);
+}
+
+void PictureBox::Reset() {
+  Control::Reset();
+  canvas_.Clear();
 }
 
 void ListBox::SetItems(const std::vector<std::string>& items) {

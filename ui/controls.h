@@ -104,7 +104,16 @@ class PictureBox : public Control {
 
   Content content() const { return content_; }
   const Canvas& Picture() const { return canvas_; }
-  void SetPicture(const Canvas& canvas);
+
+  // Draws a new picture, beginning with an empty canvas. It is shown when it is finished.
+  void Draw(const std::function<void(Canvas&)>& draw);
+  void Clear();
+
+  // The view says how many pixels of the screen the box has; its picture has as many. The picture
+  // is empty afterwards.
+  void SetResolution(int width, int height);
+
+  void Reset() override;
 
  private:
   Content content_;

@@ -10,7 +10,7 @@
 
 namespace platform::simulated {
 
-enum class Kind { kFile, kWindow, kControl, kSound, kProcess, kMessage, kWait };
+enum class Kind { kFile, kWindow, kControl, kPicture, kSound, kProcess, kMessage, kWait };
 
 struct Entry {
   std::int64_t at_ms = 0;

@@ -3,8 +3,19 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace platform::simulated {
+
+class VirtualTimer : public Timer {
+ public:
+  VirtualTimer(VirtualPump& pump, int number) : pump_(pump), number_(number) {}
+  ~VirtualTimer() override { pump_.timers_.erase(number_); }
+
+ private:
+  VirtualPump& pump_;
+  int number_;
+};
 
 void VirtualPump::At(std::int64_t at_ms, std::function<void()> action) {
   actions_.emplace(at_ms, std::move(action));
@@ -18,6 +29,7 @@ void VirtualPump::ProcessPending(const std::function<bool()>& enough) {
     action();
     if (enough && enough()) return;
   }
+  RunTimers(enough);
 }
 
 void VirtualPump::Sleep(int milliseconds) {
@@ -32,8 +44,35 @@ void VirtualPump::Sleep(int milliseconds) {
 void VirtualPump::Run() {
   while (any_visible_()) {
     if (actions_.empty()) throw ScriptOver{};
-    AdvanceTo(std::max(now_ms_, actions_.begin()->first));
+    AdvanceTo(std::max(now_ms_, NextMoment()));
     ProcessPending();
+  }
+}
+
+std::unique_ptr<Timer> VirtualPump::Start(int period_ms, std::function<void()> tick) {
+  timers_[++last_timer_] = {now_ms_ + period_ms, period_ms, std::move(tick)};
+  return std::make_unique<VirtualTimer>(*this, last_timer_);
+}
+
+std::int64_t VirtualPump::NextMoment() const {
+  std::int64_t next_ms = actions_.begin()->first;
+  for (const auto& [number, timer] : timers_) next_ms = std::min(next_ms, timer.due_ms);
+  return next_ms;
+}
+
+// As the system's timers do: after everything else, and once however often one was missed.
+void VirtualPump::RunTimers(const std::function<bool()>& enough) {
+  std::vector<int> due;
+  for (const auto& [number, timer] : timers_) {
+    if (timer.due_ms <= now_ms_) due.push_back(number);
+  }
+  for (const int number : due) {
+    const auto timer = timers_.find(number);
+    if (timer == timers_.end()) continue;
+    timer->second.due_ms = now_ms_ + timer->second.period_ms;
+    const auto tick = timer->second.tick;
+    tick();
+    if (enough && enough()) return;
   }
 }
 

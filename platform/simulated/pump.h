@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <stdexcept>
 
 #include "platform/simulated/journal.h"
 #include "platform/system.h"
+#include "platform/timers.h"
 
 namespace platform::simulated {
 
@@ -20,7 +22,7 @@ struct Stalled : std::logic_error {
 // Nothing is scheduled any more, and the program waits for its user.
 struct ScriptOver {};
 
-class VirtualPump : public MessagePump {
+class VirtualPump : public MessagePump, public Timers {
  public:
   // `any_visible` tells whether a window is on the screen.
   VirtualPump(Journal& journal, std::function<bool()> any_visible)
@@ -38,8 +40,21 @@ class VirtualPump : public MessagePump {
   // Throws ScriptOver when nothing is scheduled any more while a window is visible.
   void Run() override;
 
+  std::unique_ptr<Timer> Start(int period_ms, std::function<void()> tick) override;
+  std::size_t running_timers() const { return timers_.size(); }
+
  private:
+  friend class VirtualTimer;
+
+  struct Ticking {
+    std::int64_t due_ms = 0;
+    int period_ms = 0;
+    std::function<void()> tick;
+  };
+
   void AdvanceTo(std::int64_t now_ms);
+  std::int64_t NextMoment() const;
+  void RunTimers(const std::function<bool()>& enough);
 
   static constexpr std::int64_t kLongestWaitMs = 24 * 60 * 60 * 1000;
 
@@ -48,6 +63,8 @@ class VirtualPump : public MessagePump {
   std::int64_t now_ms_ = 0;
   std::int64_t last_action_ms_ = 0;
   std::multimap<std::int64_t, std::function<void()>> actions_;
+  std::map<int, Ticking> timers_;  // by number, in the order in which they were started
+  int last_timer_ = 0;
 };
 
 }  // namespace platform::simulated

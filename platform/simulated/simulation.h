@@ -15,6 +15,7 @@
 #include "platform/simulated/journal.h"
 #include "platform/simulated/pump.h"
 #include "platform/simulated/services.h"
+#include "platform/simulated/sound_capture.h"
 #include "platform/simulated/windows.h"
 
 namespace platform::simulated {
@@ -37,14 +38,15 @@ class Simulation {
   FakeProcesses processes{journal};
   FakeWavePlayer waves{journal};
   FakeDirectSound direct_sound{journal};
+  FakeSoundCapture sound_capture{journal, pump};
   FakeBeeper beeper{journal, pump};
   FakeScreen screen;
   FakeVersion version;
   ScriptedMessages messages{journal};
 
-  platform::Platform services{files,  code_page, environment, clock,        random,
-                              pump,   processes, waves,       direct_sound, beeper,
-                              screen, version,   messages,    windows};
+  platform::Platform services{files,     code_page, environment,  clock,        random, pump,
+                              processes, waves,     direct_sound, beeper,       screen, version,
+                              messages,  windows,   pump,         sound_capture};
 
   // Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);

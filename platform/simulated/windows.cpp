@@ -77,7 +77,7 @@ class JournalView : public ui::WindowView {
   void CaptionChanged() override { Note(" caption: " + window_.Caption()); }
 
   void Changed(const ui::Control& control, ui::Property property) override {
-    windows_.journal_.Add(Kind::kControl,
+    windows_.journal_.Add(property == ui::Property::kPicture ? Kind::kPicture : Kind::kControl,
                           window_.Name() + "." + control.Name() + Describe(control, property));
   }
 

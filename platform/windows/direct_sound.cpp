@@ -1,13 +1,13 @@
 #include "platform/windows/direct_sound.h"
 
-#include "platform/windows/windows_api.h"
+#include "platform/windows/wave_format.h"
 
-#include <mmsystem.h>
 #include <dsound.h>
 
 #include <cstring>
 
 #include "base/errors.h"
+#include "platform/windows/com_owner.h"
 #include "platform/windows/native_window.h"
 #include "platform/windows/system_library.h"
 
@@ -16,46 +16,24 @@ namespace {
 
 using CreateFunction = HRESULT(WINAPI*)(LPCGUID, LPDIRECTSOUND8*, LPUNKNOWN);
 
-struct ComReleaser {
-  template <typename Interface>
-  void operator()(Interface* object) const {
-    object->Release();
-  }
-};
-template <typename Interface>
-using ComOwner = std::unique_ptr<Interface, ComReleaser>;
-
-void Check(HRESULT result) {
-  if (FAILED(result)) throw base::RuntimeError(base::ErrorCode::kDeviceError);
-}
-
-WAVEFORMATEX NativeFormat(const WaveFormat& format) {
-  WAVEFORMATEX native{};
-  native.wFormatTag = WAVE_FORMAT_PCM;
-  native.nChannels = static_cast<WORD>(format.channels);
-  native.nSamplesPerSec = static_cast<DWORD>(format.sample_rate);
-  native.wBitsPerSample = static_cast<WORD>(format.bits_per_sample);
-  native.nBlockAlign = static_cast<WORD>(format.channels * format.bits_per_sample / 8);
-  native.nAvgBytesPerSec = native.nSamplesPerSec * native.nBlockAlign;
-  return native;
-}
-
 class Buffer final : public DirectSoundBuffer {
  public:
   explicit Buffer(ComOwner<IDirectSoundBuffer> buffer) : buffer_(std::move(buffer)) {}
 
-  void Play(std::uint32_t flags) override { Check(buffer_->Play(0, 0, flags)); }
-  void Stop() override { Check(buffer_->Stop()); }
-  void SetFrequency(std::uint32_t frequency) override { Check(buffer_->SetFrequency(frequency)); }
+  void Play(std::uint32_t flags) override { CheckDevice(buffer_->Play(0, 0, flags)); }
+  void Stop() override { CheckDevice(buffer_->Stop()); }
+  void SetFrequency(std::uint32_t frequency) override {
+    CheckDevice(buffer_->SetFrequency(frequency));
+  }
 
   void Fill(const std::string& data) {
     void* parts[2] = {};
     DWORD sizes[2] = {};
     const auto size = static_cast<DWORD>(data.size());
-    Check(buffer_->Lock(0, size, &parts[0], &sizes[0], &parts[1], &sizes[1], 0));
+    CheckDevice(buffer_->Lock(0, size, &parts[0], &sizes[0], &parts[1], &sizes[1], 0));
     std::memcpy(parts[0], data.data(), sizes[0]);
     if (parts[1] != nullptr) std::memcpy(parts[1], data.data() + sizes[0], sizes[1]);
-    Check(buffer_->Unlock(parts[0], sizes[0], parts[1], sizes[1]));
+    CheckDevice(buffer_->Unlock(parts[0], sizes[0], parts[1], sizes[1]));
   }
 
  private:
@@ -67,7 +45,7 @@ class Device final : public DirectSoundDevice {
   explicit Device(ComOwner<IDirectSound8> device) : device_(std::move(device)) {}
 
   void SetCooperativeLevel(ui::WindowView& window, std::uint32_t level) override {
-    Check(device_->SetCooperativeLevel(static_cast<NativeWindow&>(window).handle(), level));
+    CheckDevice(device_->SetCooperativeLevel(static_cast<NativeWindow&>(window).handle(), level));
   }
 
   std::unique_ptr<DirectSoundBuffer> CreateBuffer(const WaveFormat& format, const std::string& data,
@@ -79,7 +57,7 @@ class Device final : public DirectSoundDevice {
     description.dwBufferBytes = static_cast<DWORD>(data.size());
     description.lpwfxFormat = &native;
     IDirectSoundBuffer* created = nullptr;
-    Check(device_->CreateSoundBuffer(&description, &created, nullptr));
+    CheckDevice(device_->CreateSoundBuffer(&description, &created, nullptr));
     auto buffer = std::make_unique<Buffer>(ComOwner<IDirectSoundBuffer>(created));
     buffer->Fill(data);
     return buffer;
@@ -95,7 +73,7 @@ class Root final : public DirectSoundRoot {
 
   std::unique_ptr<DirectSoundDevice> CreateDevice() override {
     IDirectSound8* created = nullptr;
-    Check(create_(nullptr, &created, nullptr));
+    CheckDevice(create_(nullptr, &created, nullptr));
     return std::make_unique<Device>(ComOwner<IDirectSound8>(created));
   }
 

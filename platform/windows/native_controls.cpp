@@ -104,7 +104,7 @@ void NativeControls::Create(HWND parent) {
 }
 
 HWND NativeControls::CreateOne(HWND parent, std::size_t index) {
-  const ui::Control& made = control(index);
+  ui::Control& made = control(index);
   const Shape shape = ShapeOf(made);
   DWORD style = shape.style | WS_CHILD;
   if (StartsGroup(window_.Controls(), index)) style |= WS_GROUP;
@@ -114,6 +114,8 @@ HWND NativeControls::CreateOne(HWND parent, std::size_t index) {
   if (made.kind() == ControlKind::kPictureBox) {
     // The picture fills the bounds; its border lies around them.
     const int border = PictureBorder(static_cast<const ui::PictureBox&>(made));
+    static_cast<ui::PictureBox&>(made).SetResolution(area.right - area.left,
+                                                     area.bottom - area.top);
     InflateRect(&area, border, border);
   }
   const HWND handle = CreateWindowExW(

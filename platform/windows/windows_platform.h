@@ -13,6 +13,8 @@
 #include "platform/windows/open_windows.h"
 #include "platform/windows/processes.h"
 #include "platform/windows/screen.h"
+#include "platform/windows/sound_capture.h"
+#include "platform/windows/timers.h"
 
 namespace platform::windows {
 
@@ -41,8 +43,11 @@ class WindowsPlatform {
   WindowsVersion version_;
   WindowsMessageBoxes messages_{open_};
   NativeWindowSystem windows_;
-  Platform services_{files_, code_page_,    environment_, clock_,  random_,  pump_,     processes_,
-                     waves_, direct_sound_, beeper_,      screen_, version_, messages_, windows_};
+  WindowsTimers timers_;
+  WindowsSoundCapture sound_capture_;
+  Platform services_{files_,     code_page_, environment_,  clock_,        random_, pump_,
+                     processes_, waves_,     direct_sound_, beeper_,       screen_, version_,
+                     messages_,  windows_,   timers_,       sound_capture_};
 };
 
 }  // namespace platform::windows

@@ -7,7 +7,7 @@ namespace {
 using base::ErrorCode;
 using platform::simulated::Operation;
 
-TEST_F(PlayTest, ClassicWaitsInTicksOf208Ms) {
+TEST_F(PlayTest, ClassicWaitsInTicksOf208MsAndAnswersEvery52Ms) {
   sim.files.Put(kSettings, GoodSettings("16"));
   At(1s, [this](Form1& form1) {
     form1.Option1.Click();
@@ -16,7 +16,7 @@ TEST_F(PlayTest, ClassicWaitsInTicksOf208Ms) {
   });
   At(1300ms, [](Form1& form1) { form1.Command3.Click(); });
   Run();
-  EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines{"sleep 208", "sleep 208", "sleep 208"}));
+  EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines(6, "sleep 52")));
   EXPECT_EQ(EntriesAfterStart().back(), "#Sound stopped");
 }
 

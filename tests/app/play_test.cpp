@@ -60,20 +60,19 @@ TEST_F(PlayTest, ThePitchIsLoggedWithABlankForTheSign) {
   Run();
 }
 
-TEST_F(PlayTest, TheWaitLoopTicksEvery100MsAndStopEndsItWithinOneTick) {
+TEST_F(PlayTest, TheWaitLoopTicksInPiecesOf50MsAndStopIsAnsweredAtTheNext) {
   At(1s, [this](Form1& form1) {
     form1.Option1.Click();
     sim.pump.journal_waits = true;
     form1.Command2.Click();
-    EXPECT_EQ(sim.pump.now_ms(), 1400);
+    EXPECT_EQ(sim.pump.now_ms(), 1250);
   });
-  At(1250ms, [this](Form1& form1) {
-    EXPECT_EQ(sim.pump.now_ms(), 1300);
+  At(1210ms, [this](Form1& form1) {
+    EXPECT_EQ(sim.pump.now_ms(), 1250);
     form1.Command3.Click();
   });
   Run();
-  EXPECT_EQ(sim.journal.Texts({Kind::kWait}),
-            (Lines{"sleep 100", "sleep 100", "sleep 100", "sleep 100"}));
+  EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines(5, "sleep 50")));
 }
 
 struct ModeCase {

@@ -47,6 +47,10 @@ class NotingPlayScene : public PlayScene {
     status = text;
     journal_.Add(Kind::kControl, text);
   }
+  void DrawSine(std::int16_t pitch, std::int16_t mode) override {
+    journal_.Add(Kind::kPicture,
+                 "sine of " + std::to_string(pitch) + ", mode " + std::to_string(mode));
+  }
   std::string StatusCaption() const override { return caption; }
 
  private:

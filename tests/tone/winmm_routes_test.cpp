@@ -12,13 +12,13 @@ TEST_F(WinmmTest, AToneIsWrittenLoopedStoppedAndCleanedUp) {
             (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
                    "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 440", "stop 0x2",
                    "delete " + kWavePath}));
-  EXPECT_EQ(sim.pump.now_ms(), 400);
+  EXPECT_EQ(sim.pump.now_ms(), 250);
 }
 
 TEST_F(WinmmTest, HidingTheMainWindowEndsTheTone) {
   sim.At(150ms, [this] { scene.visible = false; });
   winmm.SoundWinmmRND(440);
-  EXPECT_EQ(sim.pump.now_ms(), 300);
+  EXPECT_EQ(sim.pump.now_ms(), 150);
   EXPECT_TRUE(sim.waves.playing.empty());
 }
 
@@ -52,21 +52,18 @@ TEST_F(WinmmTest, TheSweepStepsBy200HzEvery75MsAndBeginsAnewAfter32000) {
   EXPECT_EQ(statuses[159], "Actual pitch (Hertz): 32000");
   EXPECT_EQ(statuses[160], "Actual pitch (Hertz): 200");
   EXPECT_EQ(statuses[161], "Actual pitch (Hertz): 400");
-  EXPECT_EQ(sim.pump.now_ms(), 75 * 162);
+  EXPECT_EQ(sim.pump.now_ms(), 75 * 161 + 37);
 }
 
-TEST_F(WinmmTest, StopDuringAStepEndsTheSweepAfterItsDelayAndLeavesNoFile) {
+TEST_F(WinmmTest, StopDuringAStepEndsTheSweepWithThatStepAndLeavesNoFile) {
   StopAt(100ms);
   winmm.SoundWinmmLTH();
-  EXPECT_EQ(
-      Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
-      (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
-             "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 200", "stop 0x2",
-             "delete " + kWavePath, "create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
-             "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 400", "stop 0x2",
-             "delete " + kWavePath, "create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
-             "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 600", "stop 0x2", "stop 0x2",
-             "delete " + kWavePath}));
+  EXPECT_EQ(Journal({Kind::kFile, Kind::kSound, Kind::kControl}),
+            (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
+                   "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 200", "stop 0x2",
+                   "delete " + kWavePath, "create " + kWavePath,
+                   "write " + kWavePath + ", 176444 bytes", "play " + kWavePath + " 0x20009",
+                   "Actual pitch (Hertz): 400", "stop 0x2", "stop 0x2", "delete " + kWavePath}));
 }
 
 TEST_F(WinmmTest, InDutchTheLoadedCaptionStandsBeforeThePitch) {
@@ -82,7 +79,7 @@ TEST_F(WinmmTest, AFullDiskIsSilentAndTheToneStillStops) {
   sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
   StopAt(300ms);
   winmm.SoundWinmmRND(440);
-  EXPECT_EQ(sim.pump.now_ms(), 400);
+  EXPECT_EQ(sim.pump.now_ms(), 350);
   EXPECT_TRUE(Journal({Kind::kMessage}).empty());
 }
 
@@ -92,7 +89,7 @@ TEST_F(WinmmTest, AReadOnlyWaveFileIsSilentAndTheToneStillStops) {
   sim.files.Fail(Operation::kOpenForWriting, kWavePath, ErrorCode::kPathFileAccess);
   StopAt(100ms);
   EXPECT_NO_THROW(winmm.SoundWinmmRND(440));
-  EXPECT_EQ(sim.pump.now_ms(), 200);
+  EXPECT_EQ(sim.pump.now_ms(), 150);
 }
 
 class ShortTonesTest : public RoutesFixture {};

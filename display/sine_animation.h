@@ -1,0 +1,69 @@
+// The sine preview of the main window, and DrawSine, which draws it still or moving.
+//
+// A moving preview is a timer of the message pump, not a loop: whatever the program waits for, the
+// preview moves on, and no call of DrawSine waits for its end. At most one moves.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "base/main_state.h"
+#include "platform/platform.h"
+#include "settings/error_notes.h"
+#include "ui/controls.h"
+
+namespace display {
+
+// What the drawing modes of DrawSine are called with.
+inline constexpr std::int16_t kAnimated = 1;
+inline constexpr std::int16_t kStillPicture = 930;
+
+// Belongs to the main window, like the picture box that it draws into.
+class SineAnimation {
+ public:
+  SineAnimation(platform::Platform& platform, base::MainState& state, ui::PictureBox& picture,
+                settings::ErrorScene& errors)
+      : timers_(platform.timers), state_(state), picture_(picture), errors_(platform, errors) {}
+
+  // Moves the wave on from `phase` from now on, a step every frame; in place of the one that moves
+  // already. It ends, and the picture is cleared, when the sine-stop flag is 1.
+  void Start(float angular_step, std::shared_ptr<std::int32_t> phase);
+
+  // Sets the sine-stop flag and ends at once.
+  void Stop();
+
+  // One still frame.
+  void DrawFrame(float angular_step, std::int32_t phase);
+
+  bool Running() const { return timer_ != nullptr; }
+
+ private:
+  void Tick();
+
+  platform::Timers& timers_;
+  base::MainState& state_;
+  ui::PictureBox& picture_;
+  settings::ErrorNotes errors_;
+  float angular_step_ = 0;
+  std::shared_ptr<std::int32_t> phase_;
+  std::unique_ptr<platform::Timer> timer_;
+};
+
+class SineDrawing {
+ public:
+  SineDrawing(base::MainState& state, SineAnimation& animation, settings::ErrorNotes& errors)
+      : state_(state), animation_(animation), errors_(errors) {}
+
+  // Shows the sine wave of `pitch` Hz: moving (kAnimated), as one still picture (kStillPicture), or
+  // in any other mode not at all. Sets the sine-stop flag to 0. Error value 1014.
+  void DrawSine(std::int16_t pitch, std::int16_t mode);
+
+ private:
+  base::MainState& state_;
+  SineAnimation& animation_;
+  settings::ErrorNotes& errors_;
+  // The animation that this object began goes on after it.
+  std::shared_ptr<std::int32_t> phase_ = std::make_shared<std::int32_t>(0);
+};
+
+}  // namespace display

@@ -1,0 +1,35 @@
+// The points of the sine preview. Lengths are twips, 15 to a pixel at 96 DPI, from the upper left
+// corner; one point stands at every twip of the width.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "ui/canvas.h"
+
+namespace display {
+
+struct TwipSize {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+};
+
+struct TwipPoint {
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+
+  bool operator==(const TwipPoint&) const = default;
+};
+
+// Radians per twip of a tone of `pitch` Hz.
+float AngularStep(std::int16_t pitch);
+
+// The phase of the frame after one with `phase`, in radians: 100, 200, ... 100000, 100, ...
+std::int32_t NextPhase(std::int32_t phase);
+
+std::vector<TwipPoint> SineFrame(float angular_step, std::int32_t phase, TwipSize size);
+
+// Draws the points of a picture of `size` on the whole of a canvas.
+void Draw(const std::vector<TwipPoint>& points, TwipSize size, ui::Canvas& canvas);
+
+}  // namespace display
