@@ -15,27 +15,38 @@ std::optional<char> KeyOf(char c) {
   return std::nullopt;
 }
 
-// How good a letter is as an access key; better ones are given out first.
-enum class Rank { kFirstLetter, kStartOfWord, kAnyLetter };
+// A caption on its way to its access key.
+struct Candidate {
+  explicit Candidate(const std::string& caption)
+      : own_choice(caption.size() > 1 && caption[0] == '&' && KeyOf(caption[1])),
+        text(own_choice ? caption.substr(1) : caption) {}
 
-Rank RankOf(const std::string& caption, std::size_t at) {
-  if (at == 0) return Rank::kFirstLetter;
-  return caption[at - 1] == ' ' ? Rank::kStartOfWord : Rank::kAnyLetter;
+  bool own_choice;
+  std::string text;
+  std::optional<std::size_t> chosen;  // where its key stands
+};
+
+// How good a letter is as an access key; better ones are given out first.
+enum class Rank { kOwnChoice, kFirstLetter, kStartOfWord, kAnyLetter };
+
+Rank RankOf(const Candidate& caption, std::size_t at) {
+  if (at == 0) return caption.own_choice ? Rank::kOwnChoice : Rank::kFirstLetter;
+  return caption.text[at - 1] == ' ' ? Rank::kStartOfWord : Rank::kAnyLetter;
 }
 
-std::optional<std::size_t> Choose(const std::string& caption, Rank rank, const Keys& taken) {
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    const auto key = KeyOf(caption[i]);
+std::optional<std::size_t> Choose(const Candidate& caption, Rank rank, const Keys& taken) {
+  for (std::size_t i = 0; i < caption.text.size(); ++i) {
+    const auto key = KeyOf(caption.text[i]);
     if (key && taken.count(*key) == 0 && RankOf(caption, i) == rank) return i;
   }
   return std::nullopt;
 }
 
-std::string Marked(const std::string& caption, std::optional<std::size_t> chosen) {
+std::string Marked(const Candidate& caption) {
   std::string text;
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    if (i == chosen || caption[i] == '&') text += '&';
-    text += caption[i];
+  for (std::size_t i = 0; i < caption.text.size(); ++i) {
+    if (i == caption.chosen || caption.text[i] == '&') text += '&';
+    text += caption.text[i];
   }
   return text;
 }
@@ -43,18 +54,18 @@ std::string Marked(const std::string& caption, std::optional<std::size_t> chosen
 }  // namespace
 
 std::vector<std::string> WithAccessKeys(const std::vector<std::string>& captions) {
+  std::vector<Candidate> candidates(captions.begin(), captions.end());
   Keys taken;
-  std::vector<std::optional<std::size_t>> chosen(captions.size());
-  for (const Rank rank : {Rank::kFirstLetter, Rank::kStartOfWord, Rank::kAnyLetter}) {
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-      if (chosen[i]) continue;
-      chosen[i] = Choose(captions[i], rank, taken);
-      if (chosen[i]) taken.insert(*KeyOf(captions[i][*chosen[i]]));
+  for (const Rank rank :
+       {Rank::kOwnChoice, Rank::kFirstLetter, Rank::kStartOfWord, Rank::kAnyLetter}) {
+    for (Candidate& candidate : candidates) {
+      if (candidate.chosen) continue;
+      candidate.chosen = Choose(candidate, rank, taken);
+      if (candidate.chosen) taken.insert(*KeyOf(candidate.text[*candidate.chosen]));
     }
   }
   std::vector<std::string> marked;
-  for (std::size_t i = 0; i < captions.size(); ++i)
-    marked.push_back(Marked(captions[i], chosen[i]));
+  for (const Candidate& candidate : candidates) marked.push_back(Marked(candidate));
   return marked;
 }
 

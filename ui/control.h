@@ -29,6 +29,7 @@ enum class ControlKind {
   kListBox,
   kTextBox,
   kCheckBox,
+  kComboBox,
   kStatusBar,
 };
 

@@ -103,4 +103,34 @@ void CheckBox::Click() {
   });
 }
 
+void ComboBox::SetItems(const std::vector<std::string>& items) {
+  items_ = items;
+  list_index_ = kNone;
+  Tell(Property::kItems);
+}
+
+void ComboBox::SetListIndex(int index) {
+  if (!IsChoice(index) || list_index_ == index) return;
+  list_index_ = index;
+  Tell(Property::kValue);
+}
+
+void ComboBox::Reset() {
+  Control::Reset();
+  items_.clear();
+  list_index_ = kNone;
+}
+
+void ComboBox::Choose(int index) {
+  if (!IsChoice(index) || list_index_ == index) return;
+  Raise([this, index] {
+    SetListIndex(index);
+    if (OnClick) OnClick();
+  });
+}
+
+bool ComboBox::IsChoice(int index) const {
+  return index >= kNone && index < static_cast<int>(items_.size());
+}
+
 }  // namespace ui

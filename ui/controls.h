@@ -182,6 +182,35 @@ class CheckBox : public Control {
   bool value_ = false;
 };
 
+// A drop-down list, of whose items one is chosen or none.
+class ComboBox : public Control {
+ public:
+  static constexpr int kNone = -1;
+
+  ComboBox(Window& window, std::string name, Rect bounds)
+      : Control(window, ControlKind::kComboBox, std::move(name), bounds, "") {}
+
+  const std::vector<std::string>& Items() const { return items_; }
+  void SetItems(const std::vector<std::string>& items);  // none of them is chosen then
+
+  // The index of the chosen item, or kNone.
+  int ListIndex() const { return list_index_; }
+  void SetListIndex(int index);
+  void Reset() override;
+
+  std::function<void()> OnClick;
+
+  // What a user's choice does: the item is chosen, then the handler runs. A choice that changes
+  // nothing is no event.
+  void Choose(int index);
+
+ private:
+  bool IsChoice(int index) const;
+
+  std::vector<std::string> items_;
+  int list_index_ = kNone;
+};
+
 // A status bar; its caption is the text of its first panel.
 class StatusBar : public Control {
  public:

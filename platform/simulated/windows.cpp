@@ -16,6 +16,9 @@ std::string ValueOf(const ui::Control& control) {
   if (const auto* scroll_bar = dynamic_cast<const ui::ScrollBar*>(&control)) {
     return std::to_string(scroll_bar->Value());
   }
+  if (const auto* combo_box = dynamic_cast<const ui::ComboBox*>(&control)) {
+    return std::to_string(combo_box->ListIndex());
+  }
   return "?";
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/windows/combo_box_view.h"
 #include "platform/windows/picture_view.h"
 #include "platform/windows/scroll_bar_view.h"
 #include "platform/windows/wide_text.h"
@@ -50,6 +51,8 @@ Shape ShapeOf(const ui::Control& control) {
               WS_EX_CLIENTEDGE, true};
     case ControlKind::kCheckBox:
       return {L"BUTTON", BS_CHECKBOX | WS_TABSTOP, 0, true};
+    case ControlKind::kComboBox:
+      return {L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 0, true};
     case ControlKind::kStatusBar:
       break;
   }
@@ -118,6 +121,7 @@ HWND NativeControls::CreateOne(HWND parent, std::size_t index) {
                                                      area.bottom - area.top);
     InflateRect(&area, border, border);
   }
+  if (made.kind() == ControlKind::kComboBox) area.bottom += appearance_.Scale(kDropDownRoom);
   const HWND handle = CreateWindowExW(
       shape.extended_style, shape.window_class, Text(index).c_str(), style, area.left, area.top,
       std::max<LONG>(area.right - area.left, 1), std::max<LONG>(area.bottom - area.top, 1), parent,
@@ -155,6 +159,7 @@ bool NativeControls::CanHaveFocus(std::size_t index) const {
     case ControlKind::kListBox:
     case ControlKind::kTextBox:
     case ControlKind::kCheckBox:
+    case ControlKind::kComboBox:
       return control(index).Enabled() && control(index).Visible();
     default:
       return false;
@@ -267,10 +272,15 @@ void NativeControls::ShowValue(std::size_t index) {
     SendMessageW(handles_[index], BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
   } else if (shown.kind() == ControlKind::kScrollBar) {
     ShowScrollValue(handles_[index], static_cast<const ui::ScrollBar&>(shown));
+  } else if (shown.kind() == ControlKind::kComboBox) {
+    ShowComboChoice(handles_[index], static_cast<const ui::ComboBox&>(shown));
   }
 }
 
 void NativeControls::ShowItems(std::size_t index) {
+  if (control(index).kind() == ControlKind::kComboBox) {
+    ShowComboItems(handles_[index], static_cast<const ui::ComboBox&>(control(index)));
+  }
   if (control(index).kind() != ControlKind::kListBox) return;
   const HWND list = handles_[index];
   const DeviceContext context(list);

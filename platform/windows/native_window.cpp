@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/windows/combo_box_view.h"
 #include "platform/windows/scroll_bar_view.h"
 #include "platform/windows/wide_text.h"
 #include "ui/access_keys.h"
@@ -27,6 +28,7 @@ enum Event : UINT {
   kClickEvent = WM_APP,  // wparam: index of the control
   kScrollEvent,          // wparam: index and scroll code, lparam: position
   kMenuEvent,            // wparam: id of the item
+  kChoiceEvent,          // wparam: index of the drop-down list
   kHelpEvent,
   kCloseEvent,
 };
@@ -176,6 +178,9 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
     case kMenuEvent:
       RunMenu(static_cast<UINT>(wparam));
       return 0;
+    case kChoiceEvent:
+      RunChoice(wparam);
+      return 0;
     case kHelpEvent:
       window_.Handle([this] { window_.HelpRequested(); });
       return 0;
@@ -214,6 +219,8 @@ void NativeWindow::OnCommand(UINT id, UINT code) {
     if (cancel) PostClick(*cancel);
   } else if (code == EN_CHANGE) {
     TakeText(id);
+  } else if (TellsComboChoice(code) && IsComboBox(id - static_cast<UINT>(ControlId(0)))) {
+    PostMessageW(handle_, kChoiceEvent, id - static_cast<UINT>(ControlId(0)), 0);
   } else if (code == BN_CLICKED && id >= static_cast<UINT>(ControlId(0))) {
     const std::size_t index = id - static_cast<UINT>(ControlId(0));
     if (index < controls_.Count() && !controls_.TakingFocus(index)) PostClick(index);
@@ -242,6 +249,10 @@ void NativeWindow::TakeText(UINT id) {
   ui::Control& control = controls_.control(index);
   if (control.kind() != ui::ControlKind::kTextBox) return;
   static_cast<ui::TextBox&>(control).Edit(TextOf(controls_.handle(index)));
+}
+
+bool NativeWindow::IsComboBox(std::size_t index) const {
+  return index < controls_.Count() && controls_.control(index).kind() == ui::ControlKind::kComboBox;
 }
 
 bool NativeWindow::AcceptsKey(const MSG& message) {
@@ -273,6 +284,12 @@ void NativeWindow::RunClick(std::size_t index) {
 
 void NativeWindow::RunMenu(UINT id) {
   if (ui::MenuItem* const item = menu_.Find(id)) item->Click();
+}
+
+void NativeWindow::RunChoice(std::size_t index) {
+  if (!IsComboBox(index)) return;
+  auto& combo_box = static_cast<ui::ComboBox&>(controls_.control(index));
+  combo_box.Choose(ComboChoice(controls_.handle(index)));
 }
 
 void NativeWindow::RunScroll(std::size_t index, WORD code, std::int32_t position) {

@@ -50,12 +50,14 @@ class NativeWindow final : public ui::WindowView {
   void OnCommand(UINT id, UINT code);
   void OnScroll(HWND scroll_bar, WORD code, WORD position);
   void TakeText(UINT id);
+  bool IsComboBox(std::size_t index) const;
   bool AcceptsKey(const MSG& message);
   void PostClick(std::size_t index);
   void ChooseFocused();
 
   void RunClick(std::size_t index);
   void RunMenu(UINT id);
+  void RunChoice(std::size_t index);
   void RunScroll(std::size_t index, WORD code, std::int32_t position);
 
   ui::Window& window_;

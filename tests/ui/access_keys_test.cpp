@@ -24,6 +24,19 @@ TEST(AccessKeys, TheFirstLetterOfAnotherWordComesBeforeALetterInside) {
   EXPECT_EQ(WithAccessKeys({"Low pitch", "Low to high"}), (Captions{"&Low pitch", "Low &to high"}));
 }
 
+TEST(AccessKeys, ACaptionThatBeginsWithItsMarkComesBeforeAllOthers) {
+  EXPECT_EQ(WithAccessKeys({"Stop", "OK", "&System Info..."}),
+            (Captions{"S&top", "&OK", "&System Info..."}));
+}
+
+TEST(AccessKeys, TwoCaptionsWithTheSameMarkGetDifferentLetters) {
+  EXPECT_EQ(WithAccessKeys({"&Stop", "&Start"}), (Captions{"&Stop", "S&tart"}));
+}
+
+TEST(AccessKeys, AnAmpersandElsewhereIsPartOfTheText) {
+  EXPECT_EQ(WithAccessKeys({"R&B", "& so on", "&"}), (Captions{"&R&&B", "&& &so on", "&&"}));
+}
+
 TEST(AccessKeys, ACaptionWithoutAFreeLetterGetsNone) {
   EXPECT_EQ(WithAccessKeys({"A", "a", "+"}), (Captions{"&A", "a", "+"}));
 }
