@@ -3,10 +3,12 @@
 
 #include "platform/direct_sound.h"
 #include "platform/files.h"
+#include "platform/registry.h"
 #include "platform/sound_capture.h"
 #include "platform/system.h"
 #include "platform/text_files.h"
 #include "platform/timers.h"
+#include "platform/version_resource.h"
 #include "ui/window_system.h"
 
 namespace platform {
@@ -25,6 +27,8 @@ struct Platform {
   Screen& screen;
   SystemVersion& version;
   MessageBoxes& messages;
+  Registry& registry;
+  VersionResource& version_resource;
   ui::WindowSystem& windows;
   Timers& timers;
   SoundCapture& sound_capture;

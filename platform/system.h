@@ -21,6 +21,9 @@ class Environment {
   // The folder of the program's executable file, without a backslash at its end.
   virtual std::string ProgramFolder() = 0;
 
+  // The name of that file, without a folder and without ".exe".
+  virtual std::string ProgramName() = 0;
+
   virtual std::string FullPath(const std::string& path) = 0;
   virtual void SetCurrentFolder(const std::string& path) = 0;
 };
@@ -149,7 +152,7 @@ class SystemVersion {
   virtual VersionRecord Query() = 0;
 };
 
-enum class MessageIcon { kExclamation, kCritical };
+enum class MessageIcon { kNone, kExclamation, kCritical };
 enum class MessageButtons { kOk, kYesNo };
 
 // Answer codes of the system's message box.

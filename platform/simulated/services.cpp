@@ -21,6 +21,18 @@ std::string Hexadecimal(std::uint32_t number) {
   return "0x" + digits;
 }
 
+std::string IconName(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kNone:
+      return "plain";
+    case MessageIcon::kExclamation:
+      return "exclamation";
+    case MessageIcon::kCritical:
+      break;
+  }
+  return "critical";
+}
+
 }  // namespace
 
 std::string FixedEnvironment::Get(const std::string& name) {
@@ -102,10 +114,9 @@ VersionRecord FakeVersion::Query() {
 
 std::int16_t ScriptedMessages::Show(const std::string& text, const std::string& title,
                                     MessageIcon icon, MessageButtons buttons) {
-  journal_.Add(Kind::kMessage,
-               std::string(icon == MessageIcon::kCritical ? "critical" : "exclamation") +
-                   (buttons == MessageButtons::kYesNo ? " yes/no" : "") + " [" + title + "] " +
-                   text);
+  journal_.Add(Kind::kMessage, IconName(icon) +
+                                   (buttons == MessageButtons::kYesNo ? " yes/no" : "") + " [" +
+                                   title + "] " + text);
   if (answers.empty()) {
     if (buttons == MessageButtons::kOk) return kAnswerOk;
     throw std::logic_error("no answer scripted for: " + text);

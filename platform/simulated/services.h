@@ -18,11 +18,13 @@ class FixedEnvironment : public Environment {
   std::map<std::string, std::string> variables;
   std::string arguments;
   std::string program_folder = "C:\\Tonmira";
+  std::string program_name = "tonmira";
   std::string current_folder = "C:\\Users\\Tom";
 
   std::string Get(const std::string& name) override;
   std::string Arguments() override { return arguments; }
   std::string ProgramFolder() override { return program_folder; }
+  std::string ProgramName() override { return program_name; }
   std::string FullPath(const std::string& path) override;
   void SetCurrentFolder(const std::string& path) override { current_folder = path; }
 };

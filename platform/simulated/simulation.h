@@ -14,8 +14,10 @@
 #include "platform/simulated/files.h"
 #include "platform/simulated/journal.h"
 #include "platform/simulated/pump.h"
+#include "platform/simulated/registry.h"
 #include "platform/simulated/services.h"
 #include "platform/simulated/sound_capture.h"
+#include "platform/simulated/version_resource.h"
 #include "platform/simulated/windows.h"
 
 namespace platform::simulated {
@@ -43,12 +45,30 @@ class Simulation {
   FakeScreen screen;
   FakeVersion version;
   ScriptedMessages messages{journal};
+  FakeRegistry registry;
+  FakeVersionResource version_resource;
 
-  platform::Platform services{files,     code_page, environment,  clock,        random, pump,
-                              processes, waves,     direct_sound, beeper,       screen, version,
-                              messages,  windows,   pump,         sound_capture};
-
-  // Schedules `action` at a moment of the virtual clock.
+  platform::Platform services{
+      .files = files,
+      .code_page = code_page,
+      .environment = environment,
+      .clock = clock,
+      .random = random,
+      .pump = pump,
+      .processes = processes,
+      .waves = waves,
+      .direct_sound = direct_sound,
+      .beeper = beeper,
+      .screen = screen,
+      .version = version,
+      .messages = messages,
+      .registry = registry,
+      .version_resource = version_resource,
+      .windows = windows,
+      .timers = pump,
+      .sound_capture = sound_capture,
+  };
+// Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);
 
   // Runs `program` until it returns, ends its process or waits for a user who does nothing more.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/windows/file_errors.h"
+#include "platform/windows/module_path.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_api.h"
 
@@ -25,6 +26,11 @@ std::wstring Filled(Fill fill) {
 
 }  // namespace
 
+std::wstring ModulePath() {
+  return Filled(
+      [](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); });
+}
+
 std::string WindowsEnvironment::Get(const std::string& name) {
   const std::wstring wide_name = Widen(name);
   return Narrow(Filled([&](wchar_t* buffer, DWORD size) {
@@ -43,10 +49,15 @@ std::string WindowsEnvironment::Arguments() {
 }
 
 std::string WindowsEnvironment::ProgramFolder() {
-  std::wstring path =
-      Filled([](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); });
+  std::wstring path = ModulePath();
   path.resize(path.find_last_of(L'\\'));
   return Narrow(path);
+}
+
+std::string WindowsEnvironment::ProgramName() {
+  const std::wstring path = ModulePath();
+  const std::wstring file = path.substr(path.find_last_of(L'\\') + 1);
+  return Narrow(file.substr(0, file.find_last_of(L'.')));
 }
 
 std::string WindowsEnvironment::FullPath(const std::string& path) {

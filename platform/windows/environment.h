@@ -10,6 +10,7 @@ class WindowsEnvironment final : public Environment {
   std::string Get(const std::string& name) override;
   std::string Arguments() override;
   std::string ProgramFolder() override;
+  std::string ProgramName() override;
   std::string FullPath(const std::string& path) override;
   void SetCurrentFolder(const std::string& path) override;
 };

@@ -12,9 +12,11 @@
 #include "platform/windows/native_window_system.h"
 #include "platform/windows/open_windows.h"
 #include "platform/windows/processes.h"
+#include "platform/windows/registry.h"
 #include "platform/windows/screen.h"
 #include "platform/windows/sound_capture.h"
 #include "platform/windows/timers.h"
+#include "platform/windows/version_resource.h"
 
 namespace platform::windows {
 
@@ -42,12 +44,31 @@ class WindowsPlatform {
   WindowsScreen screen_;
   WindowsVersion version_;
   WindowsMessageBoxes messages_{open_};
+  WindowsRegistry registry_;
+  WindowsVersionResource version_resource_;
   NativeWindowSystem windows_;
   WindowsTimers timers_;
   WindowsSoundCapture sound_capture_;
-  Platform services_{files_,     code_page_, environment_,  clock_,        random_, pump_,
-                     processes_, waves_,     direct_sound_, beeper_,       screen_, version_,
-                     messages_,  windows_,   timers_,       sound_capture_};
+  Platform services_{
+      .files = files_,
+      .code_page = code_page_,
+      .environment = environment_,
+      .clock = clock_,
+      .random = random_,
+      .pump = pump_,
+      .processes = processes_,
+      .waves = waves_,
+      .direct_sound = direct_sound_,
+      .beeper = beeper_,
+      .screen = screen_,
+      .version = version_,
+      .messages = messages_,
+      .registry = registry_,
+      .version_resource = version_resource_,
+      .windows = windows_,
+      .timers = timers_,
+      .sound_capture = sound_capture_,
+  };
 };
 
 }  // namespace platform::windows
