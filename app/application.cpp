@@ -7,12 +7,16 @@ namespace app {
 
 Application::Application(platform::Platform& platform)
     : form1(platform, *this, CommandLine(platform)),
+      errors(platform, *this),
       form2(platform.windows, [this] { LoadHelpCaptions(); }),
       form4(platform, form1.State(), form1, *this),
+      form5(platform, form1.State(), errors, [this] { UnloadAll(); }),
       form6(platform.windows, [this] { UnloadAll(); }),
       form8(platform.windows),
+      frm_about(platform, errors, [this] { LoadAboutCaptions(); }),
       platform_(platform) {
-  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form4, &form6, &form8};
+  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form4,    &form5,
+                                                   &form6, &form8, &frm_about};
   for (ui::Window* window : windows) {
     window->OnUntrappedError = [this](const base::RuntimeError& error) { EndAfter(error); };
   }
@@ -32,14 +36,18 @@ void Application::HideOtherWindows() {
   form1.Hide();
   form2.Hide();
   form4.Hide();
+  form5.Hide();
   form8.Hide();
+  frm_about.Hide();
 }
 
 void Application::UnloadOtherWindows() {
   form2.Unload();
   form4.Unload();
+  form5.Unload();
   form6.Unload();
   form8.Unload();
+  frm_about.Unload();
 }
 
 std::vector<lang::CaptionSlot> Application::CaptionsOf(std::int16_t formval) {
@@ -50,6 +58,8 @@ std::vector<lang::CaptionSlot> Application::CaptionsOf(std::int16_t formval) {
       return form2.Captions();
     case lang::kMorseWindow:
       return form4.Captions();
+    case lang::kAboutBox:
+      return frm_about.Captions();
     default:
       return {};
   }
@@ -63,6 +73,10 @@ void Application::LoadMorseCaptions(const std::string& language) {
 void Application::LoadHelpCaptions() {
   const std::string& language = form1.State().language;
   if (language == "nl") form1.LoadCaptions(language, lang::kHelpWindow);
+}
+
+void Application::LoadAboutCaptions() {
+  form1.LoadCaptions(form1.State().language, lang::kAboutBox);
 }
 
 // A path is resolved before the program's own folder becomes the current one: language files and

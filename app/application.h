@@ -3,11 +3,13 @@
 
 #include <string>
 
+#include "about/frm_about.h"
 #include "app/form1.h"
 #include "app/form2.h"
 #include "app/form8.h"
 #include "morse/form4.h"
 #include "platform/platform.h"
+#include "settings/form5.h"
 #include "settings/form6.h"
 
 namespace app {
@@ -20,16 +22,21 @@ class Application : public OtherWindows, public morse::MorseScene {
   void Run();
 
   Form1 form1;
+  settings::ErrorNotes errors;  // for the windows that make no service objects
   Form2 form2;
   morse::Form4 form4;
+  settings::Form5 form5;
   settings::Form6 form6;
   Form8 form8;
+  about::frmAbout frm_about;
 
   // OtherWindows
   ui::Window& StatusWindow() override { return form8; }
   ui::Label& StatusLabel() override { return form8.Label2; }
   ui::Window& HelpWindow() override { return form2; }
   ui::Window& MorseWindow() override { return form4; }
+  ui::Window& FirstRun() override { return form5; }
+  ui::Window& AboutBox() override { return frm_about; }
 
   // lang::CaptionScene
   std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval) override;
@@ -51,6 +58,7 @@ class Application : public OtherWindows, public morse::MorseScene {
  private:
   static std::string CommandLine(platform::Platform& platform);
   void LoadHelpCaptions();
+  void LoadAboutCaptions();
   void UnloadAll();
   void EndAfter(const base::RuntimeError& error);
 

@@ -32,6 +32,7 @@ void Form1::ConnectControls() {
 
 void Form1::ConnectMenu() {
   exit.OnClick = [this] { Exit(); };
+  about.OnClick = [this] { ShowAboutBox(); };
   sndautomatic.OnClick = [this] { ChooseSoundMode(27, sndautomatic, "128"); };
   sndclassic.OnClick = [this] { ChooseSoundMode(28, sndclassic, "16"); };
   snddirectsound.OnClick = [this] { ChooseSoundMode(29, snddirectsound, "64"); };

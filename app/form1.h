@@ -26,6 +26,8 @@ class OtherWindows : public WindowList, public settings::ErrorScene, public lang
   virtual ui::Label& StatusLabel() = 0;    // Form8.Label2
   virtual ui::Window& HelpWindow() = 0;    // Form2
   virtual ui::Window& MorseWindow() = 0;   // Form4
+  virtual ui::Window& FirstRun() = 0;      // Form5
+  virtual ui::Window& AboutBox() = 0;      // frmAbout
 };
 
 class Form1 : public Form1Controls,
@@ -57,6 +59,7 @@ class Form1 : public Form1Controls,
   void LoadCaptions(const std::string& code) override { LoadCaptions(code, lang::kMainWindow); }
   void ShowMicrophone(bool on) override;
   void ShowMicrophoneLevel(std::int16_t level) override;
+  void ShowFirstRun() override { others_.FirstRun().Show(); }
   void HideMainWindow() override { Hide(); }
 
   // tone::PlayScene
@@ -137,6 +140,7 @@ class Form1 : public Form1Controls,
   void ToggleAutoUpdate();
   void ToggleMicrophone();
   void ChangeSensitivity(std::int16_t error_value, int step);
+  void ShowAboutBox();
   void Exit();
 
   platform::Platform& platform_;

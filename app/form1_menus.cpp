@@ -13,6 +13,10 @@ void Form1::HelpRequested() {
   Handle([this] { Command1_Click(); });
 }
 
+void Form1::ShowAboutBox() {
+  settings::TrapErrors(*NewProgram(), 1, [this] { others_.AboutBox().Show(); });
+}
+
 void Form1::Exit() {
   settings::TrapErrors(*NewProgram(), 13, [this] { Unload(); });
 }

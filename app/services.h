@@ -32,7 +32,14 @@ struct Scene {
   display::SineAnimation& sine;
 };
 
+// Sends nothing.
+class NoUsageUpload : public settings::UsageUpload {
+ public:
+  void SendData() override {}
+};
+
 class Program : public settings::ErrorNotes,
+                public NoUsageUpload,
                 public settings::ActivityLog,
                 public settings::SettingsFile,
                 public lang::LanguageLoader,
@@ -43,7 +50,7 @@ class Program : public settings::ErrorNotes,
   Program(platform::Platform& platform, base::MainState& state, const Scene& scene)
       : ErrorNotes(platform, scene.errors),
         ActivityLog(platform, *this),
-        SettingsFile(platform, state, scene.settings, *this, *this),
+        SettingsFile(platform, state, scene.settings, *this, *this, *this),
         LanguageLoader(platform, scene.captions, *this),
         ModeSelection(state, scene.modes, *this, *this, *this),
         ProgramEnd(platform, state, scene.windows, *this),

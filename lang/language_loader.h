@@ -26,6 +26,7 @@ struct CaptionSlot {
 inline constexpr std::int16_t kMainWindow = 1;
 inline constexpr std::int16_t kHelpWindow = 2;
 inline constexpr std::int16_t kMorseWindow = 4;
+inline constexpr std::int16_t kAboutBox = 99;
 
 class CaptionScene {
  public:

@@ -49,4 +49,12 @@ std::optional<std::int16_t> MicrophoneLevel(std::string_view entry) {
   return base::ToInt16(level);
 }
 
+std::string FirstSettings(const FirstChoices& choices) {
+  // "Soundbit" is spelled differently from what the menus write; case does not matter.
+  return base::Line("AutoUpdate=y") + base::Line("Soundbit=128") +
+         base::Line(choices.dutch ? "Language=NL" : "Language=EN") +
+         base::Line(choices.send_data ? "SendData=y" : "SendData=n") + base::Line("Microphone=1") +
+         base::Line("MicrophoneON=y");
+}
+
 }  // namespace settings

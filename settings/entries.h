@@ -22,4 +22,11 @@ std::optional<std::string> LanguageCode(std::string_view entry);
 // when what follows the key is no number, kOverflow when it is one beyond the range of double.
 std::optional<std::int16_t> MicrophoneLevel(std::string_view entry);
 
+// The content of a first settings file: the defaults, and what the user chose.
+struct FirstChoices {
+  bool dutch = false;
+  bool send_data = true;
+};
+std::string FirstSettings(const FirstChoices& choices);
+
 }  // namespace settings

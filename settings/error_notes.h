@@ -10,6 +10,7 @@
 //                35 DirectSoundRecord_GotWaveData, 36 Draw16, 37 DrawWave, 38 Draw8,
 //                39 microinputonoff
 //   Form2        201 Form_Load, 202 Form_Unload
+//   Form5        501 Combo1, 502 Command1, 503 Command2, 504 Form_Load
 //   frmDX_Record 9901 DirectXEvent8_DXCallback
 //   Program      102 WriteLine, 103 CheckSettings, 104 NewFile, 105 Terminate, 108 LoadFile,
 //                1010 SelectRadio, 1012 WriteTest,

@@ -13,6 +13,10 @@ constexpr std::size_t kNotRewritten = 9;  // entries from which a file is left a
 
 }  // namespace
 
+std::string SettingsPath(platform::Environment& environment) {
+  return environment.Get("APPDATA") + "\\tonmira.ini";
+}
+
 void SettingsFile::CheckSettings() {
   TrapErrors(errors_, 103, [this] {
     const auto entries = ReadEntries();
@@ -39,12 +43,10 @@ void SettingsFile::WriteLine(std::int16_t linenumber, std::string_view value) {
 void SettingsFile::NewFile() {
   TrapErrors(errors_, 104, [this] {
     log_.PrintFile("> New file");
+    if (state_.SendData == 1) upload_.SendData();
+    display_.ShowFirstRun();
     display_.HideMainWindow();
   });
-}
-
-std::string SettingsFile::Path() const {
-  return platform_.environment.Get("APPDATA") + "\\tonmira.ini";
 }
 
 std::optional<std::size_t> SettingsFile::ReadEntries() {

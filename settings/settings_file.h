@@ -16,8 +16,12 @@
 #include "platform/platform.h"
 #include "settings/activity_log.h"
 #include "settings/error_notes.h"
+#include "settings/usage_upload.h"
 
 namespace settings {
+
+// Where the file is.
+std::string SettingsPath(platform::Environment& environment);
 
 // What applying settings does to the main window.
 class SettingsDisplay {
@@ -29,14 +33,20 @@ class SettingsDisplay {
   virtual void LoadCaptions(const std::string& language) = 0;
   virtual void ShowMicrophone(bool on) = 0;
   virtual void ShowMicrophoneLevel(std::int16_t level) = 0;
+  virtual void ShowFirstRun() = 0;  // the dialog for a user without settings
   virtual void HideMainWindow() = 0;
 };
 
 class SettingsFile {
  public:
   SettingsFile(platform::Platform& platform, base::MainState& state, SettingsDisplay& display,
-               ActivityLog& log, ErrorNotes& errors)
-      : platform_(platform), state_(state), display_(display), log_(log), errors_(errors) {}
+               UsageUpload& upload, ActivityLog& log, ErrorNotes& errors)
+      : platform_(platform),
+        state_(state),
+        display_(display),
+        upload_(upload),
+        log_(log),
+        errors_(errors) {}
 
   // Reads, checks and applies the file; a missing or damaged one leads to NewFile. What was
   // applied before a failing entry stays applied. Error value 103.
@@ -46,13 +56,14 @@ class SettingsFile {
   // its first empty entry. A file of nine or more entries ends the program. Error value 102.
   void WriteLine(std::int16_t linenumber, std::string_view value);
 
-  // The first-run path. Error value 104.
+  // The first-run path: the usage data of the settings that were lost are sent where those allowed
+  // it, and the first-run dialog takes the place of the main window. Error value 104.
   void NewFile();
 
  private:
   static constexpr std::size_t kSlots = 11;
 
-  std::string Path() const;
+  std::string Path() const { return SettingsPath(platform_.environment); }
 
   // Fills the slots; returns how many entries were read, at most kSlots - 1. Nothing when there is
   // no file.
@@ -67,6 +78,7 @@ class SettingsFile {
   platform::Platform& platform_;
   base::MainState& state_;
   SettingsDisplay& display_;
+  UsageUpload& upload_;
   ActivityLog& log_;
   ErrorNotes& errors_;
   std::array<std::string, kSlots> slots_;  // slot N holds line N

@@ -88,7 +88,7 @@ TEST_F(ShutdownTest, TerminateStopsEverythingAndUnloadsEveryWindow) {
 }
 
 TEST_F(ShutdownTest, AProgramThatShowsNoWindowEndsItself) {
-  sim.files.Put(kSettings, "");
+  At(100ms, [](Form1& form1) { form1.Hide(); });
   EXPECT_TRUE(Run());
   EXPECT_EQ(sim.journal.Texts({Kind::kProcess}), (Lines{"end"}));
 }

@@ -44,7 +44,15 @@ class NotingDisplay : public SettingsDisplay {
   void ShowMicrophoneLevel(std::int16_t level) override {
     calls.push_back("level " + std::to_string(level));
   }
+  void ShowFirstRun() override { calls.push_back("first run shown"); }
   void HideMainWindow() override { calls.push_back("main window hidden"); }
+};
+
+class CountingUpload : public UsageUpload {
+ public:
+  int sent = 0;
+
+  void SendData() override { ++sent; }
 };
 
 class NotingScene : public ErrorScene {
@@ -85,7 +93,8 @@ class SettingsFixture : public testing::Test {
   NotingScene scene{dialog};
   ErrorNotes errors{sim.services, scene};
   ActivityLog log{sim.services, errors};
-  SettingsFile file{sim.services, state, display, log, errors};
+  CountingUpload upload;
+  SettingsFile file{sim.services, state, display, upload, log, errors};
 };
 
 }  // namespace settings

@@ -51,7 +51,7 @@ TEST_P(BadSettingsTest, LeadToTheFirstRun) {
   Put(GetParam().content);
   file.CheckSettings();
   Lines expected = GetParam().applied;
-  expected.push_back("main window hidden");
+  expected.insert(expected.end(), {"first run shown", "main window hidden"});
   EXPECT_EQ(display.calls, expected);
   EXPECT_EQ(LogEntries().back(), "> New file");
   EXPECT_EQ(sim.files.Get(kPath), GetParam().content) << "the file must not be touched";
@@ -99,15 +99,31 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SettingsTest, AMissingFileLeadsToTheFirstRun) {
   file.CheckSettings();
-  EXPECT_EQ(display.calls, (Lines{"main window hidden"}));
+  EXPECT_EQ(display.calls, (Lines{"first run shown", "main window hidden"}));
   EXPECT_EQ(LogEntries(), (Lines{"> New file"}));
   EXPECT_FALSE(sim.files.Exists(kPath));
+  EXPECT_EQ(upload.sent, 0);
+}
+
+TEST_F(SettingsTest, ANewFileSendsTheUsageDataOfAUserWhoAllowsIt) {
+  state.SendData = 1;
+  file.NewFile();
+  EXPECT_EQ(upload.sent, 1);
+  EXPECT_EQ(display.calls, (Lines{"first run shown", "main window hidden"}));
+}
+
+TEST_F(SettingsTest, AFailingFirstRunIsReported) {
+  sim.files.Fail(Operation::kOpenForWriting, kLogPath, ErrorCode::kDiskFull);
+  LeaveTheErrorDialogAt(100ms);
+  file.NewFile();
+  EXPECT_EQ(sim.Lines(kErrorPath)[0], "Error number:  61,   Error value:  104");
+  EXPECT_EQ(display.calls, Lines{});
 }
 
 TEST_F(SettingsTest, TheAutoUpdateStateIsAppliedBeforeABadThirdLineIsFound) {
   Put("AutoUpdate=y\r\nSoundBit=128\r\nLanguage=XX\r\n" + kTail);
   file.CheckSettings();
-  EXPECT_EQ(display.calls, (Lines{"auto update on", "main window hidden"}));
+  EXPECT_EQ(display.calls, (Lines{"auto update on", "first run shown", "main window hidden"}));
   EXPECT_EQ(state.AutoUpdate, 1);
   EXPECT_EQ(state.SoundBit, "");
 }

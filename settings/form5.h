@@ -1,0 +1,66 @@
+// The first-run dialog: the terms of use, consent to the upload of usage data, the language.
+//
+// It stands in place of the main window while there are no valid settings. However it is left, this
+// run of the program ends: accepting writes the settings and starts the program anew, declining and
+// the frame change nothing, so the next start shows it again.
+//
+// Enter presses the button that has the focus and nothing else: nobody accepts terms by a key that
+// was meant for the list of languages. Esc declines.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "base/main_state.h"
+#include "platform/platform.h"
+#include "settings/agreement_texts.h"
+#include "settings/error_notes.h"
+#include "ui/window.h"
+
+namespace settings {
+
+class Form5 : public ui::Window {
+ public:
+  // `unload_all` unloads every window of the program, which ends it.
+  Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& errors,
+        std::function<void()> unload_all);
+
+  ui::Label Label7{*this, "Label7", {16, 17, 80, 18}, std::string(kEnglishAgreement.language)};
+  ui::ComboBox Combo1{*this, "Combo1", {100, 14, 160, 24}};
+  ui::Label Label1{
+      *this, "Label1", {16, 54, 508, 68}, kEnglishAgreement.Sentence(kEnglishAgreement.upload)};
+  ui::Label Label4{
+      *this, "Label4", {16, 132, 508, 36}, kEnglishAgreement.Sentence(kEnglishAgreement.hearing)};
+  ui::Label Label6{
+      *this, "Label6", {16, 178, 508, 36}, kEnglishAgreement.Sentence(kEnglishAgreement.copyright)};
+  ui::CheckBox Check1{*this, "Check1", {16, 222, 508, 22}, std::string(kEnglishAgreement.refusal)};
+  ui::Button Command1{
+      *this, "Command1", {252, 258, 130, 32}, std::string(kEnglishAgreement.accept)};
+  ui::Button Command2{
+      *this, "Command2", {394, 258, 130, 32}, std::string(kEnglishAgreement.decline)};
+
+  // As declining.
+  void Close() override;
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  static constexpr int kDutchIndex = 1;
+
+  void Combo1_Click();
+  void Command1_Click();
+  void Command2_Click();
+
+  void ShowTexts(const AgreementTexts& texts);
+  void WriteSettings();
+  void StartAnew();
+
+  platform::Platform& platform_;
+  base::MainState& state_;
+  ErrorNotes& errors_;
+  std::function<void()> unload_all_;
+  std::int16_t loading_ = 0;
+};
+
+}  // namespace settings
