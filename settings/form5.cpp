@@ -14,7 +14,7 @@ constexpr char kOldLanguageFile[] = "nl.ini";
 
 Form5::Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& errors,
              std::function<void()> unload_all)
-    : ui::Window(platform.windows, {"Form5", "License agreements", 540, 306}),
+    : ui::Window(platform.windows, {"Form5", "License agreements", 600, 280}),
       platform_(platform),
       state_(state),
       errors_(errors),

@@ -26,18 +26,18 @@ class Form5 : public ui::Window {
         std::function<void()> unload_all);
 
   ui::Label Label7{*this, "Label7", {16, 17, 80, 18}, std::string(kEnglishAgreement.language)};
-  ui::ComboBox Combo1{*this, "Combo1", {100, 14, 160, 24}};
+  ui::ComboBox Combo1{*this, "Combo1", {92, 14, 160, 24}};
   ui::Label Label1{
-      *this, "Label1", {16, 54, 508, 68}, kEnglishAgreement.Sentence(kEnglishAgreement.upload)};
+      *this, "Label1", {16, 52, 568, 50}, kEnglishAgreement.Sentence(kEnglishAgreement.upload)};
   ui::Label Label4{
-      *this, "Label4", {16, 132, 508, 36}, kEnglishAgreement.Sentence(kEnglishAgreement.hearing)};
+      *this, "Label4", {16, 114, 568, 34}, kEnglishAgreement.Sentence(kEnglishAgreement.hearing)};
   ui::Label Label6{
-      *this, "Label6", {16, 178, 508, 36}, kEnglishAgreement.Sentence(kEnglishAgreement.copyright)};
-  ui::CheckBox Check1{*this, "Check1", {16, 222, 508, 22}, std::string(kEnglishAgreement.refusal)};
+      *this, "Label6", {16, 160, 568, 18}, kEnglishAgreement.Sentence(kEnglishAgreement.copyright)};
+  ui::CheckBox Check1{*this, "Check1", {16, 194, 568, 22}, std::string(kEnglishAgreement.refusal)};
   ui::Button Command1{
-      *this, "Command1", {252, 258, 130, 32}, std::string(kEnglishAgreement.accept)};
+      *this, "Command1", {318, 232, 128, 32}, std::string(kEnglishAgreement.accept)};
   ui::Button Command2{
-      *this, "Command2", {394, 258, 130, 32}, std::string(kEnglishAgreement.decline)};
+      *this, "Command2", {456, 232, 128, 32}, std::string(kEnglishAgreement.decline)};
 
   // As declining.
   void Close() override;

@@ -18,7 +18,7 @@ from typing import Callable
 PROJECT = Path(__file__).resolve().parents[2]
 CACHE = PROJECT / "build" / "test-bench"
 PROGRAM = PROJECT / "build" / "windows" / "tonmira" / "tonmira.exe"
-DRIVER_SOURCE = PROJECT / "tests" / "real" / "driver.cpp"
+DRIVER_SOURCES = sorted((PROJECT / "tests" / "real").glob("driver*.*"))
 
 SCREEN = "1280x1024x24"
 QUIET_WINE = {
@@ -64,10 +64,13 @@ class Locked:
 def build_driver() -> Path:
     exe = CACHE / "driver.exe"
     with Locked(CACHE / "lock"):
-        if not exe.exists() or exe.stat().st_mtime < DRIVER_SOURCE.stat().st_mtime:
+        newest = max(source.stat().st_mtime for source in DRIVER_SOURCES)
+        if not exe.exists() or exe.stat().st_mtime < newest:
             subprocess.run(
                 ["x86_64-w64-mingw32-g++-win32", "-std=c++20", "-O2", "-static", "-Wall",
-                 "-Wextra", "-Wconversion", "-Wshadow", "-Werror", DRIVER_SOURCE, "-o", exe, "-lgdi32"],
+                 "-Wextra", "-Wconversion", "-Wshadow", "-Werror", "-I", PROJECT,
+                 *(source for source in DRIVER_SOURCES if source.suffix == ".cpp"), "-o", exe,
+                 "-lgdi32", "-ladvapi32"],
                 check=True)
     return exe
 

@@ -5,6 +5,7 @@
 //
 //   start EXE FOLDER TEMP APPDATA     starts EXE in FOLDER with these two variables: process id
 //   launch EXE TITLE TEMP APPDATA     starts EXE and waits for its visible window: ms, process id
+//   adopt PID                         counts a running program among those started here
 //   running PID                       1 or 0
 //   handles PID                       number of open handles
 //   end PID                           ends a process that this program started
@@ -17,8 +18,13 @@
 //   clicks COUNT BUTTON...            clicks the buttons in turn, each when the last was handled
 //   command WINDOW ID                 posts a menu choice
 //   slide BAR VALUE                   puts a horizontal scroll bar's thumb at a value
+//   select COMBO INDEX                chooses an item of a drop-down list
+//   store KEY NAME TYPE HEX           a value of the registry under the machine's root, as it is
+//   forget KEY                        deletes that key
 //   cut WINDOW                        captions that do not fit into their controls
 //   close WINDOW                      posts the wish to close
+#include "tests/real/driver_system.h"
+
 #include <windows.h>
 
 #include <algorithm>
@@ -125,6 +131,13 @@ class Programs {
     CloseHandle(started.hThread);
     processes_[started.dwProcessId] = UniqueHandle(started.hProcess);
     return started.dwProcessId;
+  }
+
+  void Adopt(const std::string& pid) {
+    const DWORD id = static_cast<DWORD>(std::stoul(pid));
+    UniqueHandle process(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, id));
+    if (!process) throw std::runtime_error("no process " + pid);
+    processes_[id] = std::move(process);
   }
 
   HANDLE Get(const std::string& pid) const {
@@ -251,8 +264,7 @@ bool Fits(const Measure& measure, HWND control, const std::wstring& text) {
   const std::string kind = ClassOf(control);
   if (kind == "Static") {
     // Headings are the labels of this height; all others are lower or hold several lines.
-    const bool heading =
-        client.bottom >= measure.Scale(22) && client.bottom <= measure.Scale(24);
+    const bool heading = client.bottom >= measure.Scale(22) && client.bottom <= measure.Scale(24);
     const SIZE size = measure.Of(text, client.right, heading, false);
     return size.cx <= client.right && size.cy <= client.bottom;
   }
@@ -292,53 +304,35 @@ void Slide(const Fields& fields) {
   }
 }
 
-// The table of all handles of the session, as NtQuerySystemInformation gives it.
-struct HandleTable {
-  struct Entry {
-    void* object;
-    ULONG_PTR process;
-    ULONG_PTR handle;
-    ULONG access;
-    USHORT trace;
-    USHORT type;
-    ULONG attributes;
-    ULONG reserved;
-  };
-  ULONG_PTR count;
-  ULONG_PTR reserved;
-  Entry entries[1];
-};
+void Select(const Fields& fields) {
+  const HWND combo = Window(fields.at(1));
+  Ask(combo, CB_SETCURSEL, static_cast<WPARAM>(std::stoi(fields.at(2))));
+  Ask(GetAncestor(combo, GA_PARENT), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
+      reinterpret_cast<LPARAM>(combo));
+}
 
-// Wine always answers 0 to GetProcessHandleCount.
-void Handles(const Fields& fields) {
-  using Query = LONG(WINAPI*)(ULONG, void*, ULONG, ULONG*);
-  constexpr ULONG kAllHandles = 64;
-  constexpr LONG kTooSmall = static_cast<LONG>(0xC0000004);
-  const auto query = reinterpret_cast<Query>(reinterpret_cast<void*>(
-      GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
-  std::vector<char> buffer(1 << 16);
-  LONG status = kTooSmall;
-  while ((status = query(kAllHandles, buffer.data(), static_cast<ULONG>(buffer.size()), nullptr)) ==
-         kTooSmall) {
-    buffer.resize(buffer.size() * 2);
+void Store(const Fields& fields) {
+  std::string bytes;
+  for (std::size_t i = 0; i + 1 < fields.at(4).size(); i += 2) {
+    bytes += static_cast<char>(std::stoi(fields[4].substr(i, 2), nullptr, 16));
   }
-  if (status != 0) throw std::runtime_error("no table of handles");
-  const auto* const table = reinterpret_cast<const HandleTable*>(buffer.data());
-  const ULONG_PTR process = std::stoul(fields.at(1));
-  std::cout << std::count_if(table->entries, table->entries + table->count, [&](const auto& entry) {
-    return entry.process == process;
-  }) << '\n';
+  StoreValue(Wide(fields.at(1)), Wide(fields.at(2)), static_cast<DWORD>(std::stoul(fields.at(3))),
+             bytes);
 }
 
 std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& programs) {
   return {
       {"start", [&](const Fields& f) { Start(programs, f); }},
       {"launch", [&](const Fields& f) { Launch(programs, f); }},
+      {"adopt", [&](const Fields& f) { programs.Adopt(f.at(1)); }},
       {"running",
        [&](const Fields& f) {
          std::cout << (WaitForSingleObject(programs.Get(f.at(1)), 0) == WAIT_TIMEOUT) << '\n';
        }},
-      {"handles", Handles},
+      {"handles",
+       [](const Fields& f) {
+         std::cout << HandlesOf(static_cast<DWORD>(std::stoul(f.at(1)))) << '\n';
+       }},
       {"end", [&](const Fields& f) { TerminateProcess(programs.Get(f.at(1)), 1); }},
       {"windows", [](const Fields&) { EnumWindows(PrintWindow, 0); }},
       {"controls", [](const Fields& f) { EnumChildWindows(Window(f.at(1)), PrintControl, 0); }},
@@ -353,6 +347,9 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
        [](const Fields& f) {
          Post(Window(f.at(1)), WM_COMMAND, static_cast<WPARAM>(std::stoi(f.at(2))));
        }},
+      {"select", Select},
+      {"store", Store},
+      {"forget", [](const Fields& f) { ForgetKey(Wide(f.at(1))); }},
       {"cut", Cut},
       {"slide", Slide},
       {"close", [](const Fields& f) { Post(Window(f.at(1)), WM_CLOSE); }},

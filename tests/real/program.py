@@ -1,5 +1,6 @@
 """One run of Tonmira on the bench, with folders of its own."""
 
+from copy import copy
 from pathlib import Path
 
 from bench import PROGRAM, Bench, all_processes, command_of, environment_of, wait_for
@@ -8,6 +9,8 @@ from sound import Recorder
 from window import Driver, User, Window, wait_for_window
 
 MAIN_TITLE = "Tonmira"
+FIRST_RUN_TITLE = "License agreements"
+WINDOW_CLASS = "TonmiraWindow"
 MODES = ["Low pitch", "Average pitch", "High pitch", "Extreme pitch", "Spooky pitch",
          "Low to high", "Custom pitch", "Morse tool", "Hearing age"]
 GOOD_SETTINGS = ["AutoUpdate=y", "Soundbit=128", "Language=EN", "SendData=n", "Microphone=1",
@@ -79,6 +82,7 @@ class Tonmira:
         self.bench = bench
         self.driver = driver
         self.folders = folders
+        self._successor: Tonmira | None = None
         before = set(all_processes())
         self.process = int(driver.ask(
             "start", bench.windows_path(exe), bench.windows_path(start_folder or exe.parent),
@@ -87,6 +91,19 @@ class Tonmira:
 
     def window(self, title: str = MAIN_TITLE, seconds: float = 30) -> Window:
         return wait_for_window(self.driver, title, self.process, seconds)
+
+    def successor(self) -> "Tonmira":
+        """The copy that this one started in its place, once its main window is there."""
+        def find() -> int | None:
+            return next((w.process for w in self.driver.windows()
+                         if w.visible and w.title == MAIN_TITLE and w.kind == WINDOW_CLASS
+                         and w.process != self.process), None)
+
+        new = copy(self)
+        new.process = int(str(wait_for(find, "the main window of a new copy", 30)))
+        self.driver.ask("adopt", str(new.process))
+        self._successor = new
+        return new
 
     def titles(self) -> list[str]:
         """Titles of the windows that it shows."""
@@ -100,6 +117,9 @@ class Tonmira:
         wait_for(lambda: not self.running(), "the end of the program", seconds)
 
     def finish(self) -> None:
+        """Ends it, and what it started in its place."""
+        if self._successor:
+            self._successor.finish()
         if self.running():
             self.driver.ask("end", str(self.process))
             self.wait_for_end()

@@ -5,10 +5,11 @@ from collections.abc import Iterator
 import pytest
 
 from bench import PROJECT, Bench, wait_for
-from program import GOOD_SETTINGS, MODES, Folders, Tonmira
+from program import FIRST_RUN_TITLE, GOOD_SETTINGS, MODES, Folders, Tonmira
 from window import Driver, User, Window
 
 SCREENS = PROJECT / "out" / "screens"
+MENU_ABOUT = 1022  # the running number of "About Tonmira" in the menu
 DUTCH_MODES = ["Lage toon", "Gemiddelde toon", "Hoge toon", "Extreme toon", "Spooktoon",
                "Laag naar hoog", "Eigen toonhoogte", "Morsetool", "Gehoorleeftijd"]
 
@@ -25,33 +26,43 @@ def driver_at_dpi(request: pytest.FixtureRequest, bench: Bench) -> Iterator[tupl
     set_dpi(bench, 96)
 
 
+def start(bench: Bench, driver: Driver, folders: Folders, dpi: int) -> Tonmira:
+    """Starts the program; past the warning of a screen that is not of 96 DPI."""
+    program = Tonmira(bench, driver, folders)
+    try:
+        if dpi != 96:
+            program.window("Warning").press("OK")
+        program.wait_for_log(">> Program starting finished")
+    except BaseException:
+        program.finish()
+        raise
+    return program
+
+
 def cut_off(driver: Driver, window: Window) -> list[str]:
     return [line[0] for line in driver.ask("cut", window.handle)]
 
 
-@pytest.mark.parametrize(("language", "modes", "custom", "help_button", "start", "tool"), [
+@pytest.mark.parametrize(("language", "modes", "custom", "help_button", "play", "tool"), [
     ("EN", MODES, "Custom pitch", "Help", "Start", "Morse tool"),
     ("NL", DUTCH_MODES, "Eigen toonhoogte", "Help", "Starten", "Morsetool"),
 ])
 def test_no_caption_is_cut_off(bench: Bench, user: User, driver_at_dpi: tuple[Driver, int],
                                language: str, modes: list[str], custom: str, help_button: str,
-                               start: str, tool: str) -> None:
+                               play: str, tool: str) -> None:
     driver, dpi = driver_at_dpi
     folders = Folders(bench)
     settings = list(GOOD_SETTINGS)
     settings[2] = f"Language={language}"
     folders.write_settings(settings)
-    program = Tonmira(bench, driver, folders)
+    program = start(bench, driver, folders, dpi)
 
     def look_at(window: Window, name: str) -> None:
         user.screenshot(window, SCREENS / f"{name}-{language.lower()}-{dpi}.png")
         assert cut_off(driver, window) == [], name
 
     try:
-        if dpi != 96:
-            program.window("Warning").press("OK")
         main = program.window()
-        program.wait_for_log(">> Program starting finished")
         assert cut_off(driver, main) == []
         for mode in modes:
             main.press(mode)
@@ -64,7 +75,35 @@ def test_no_caption_is_cut_off(bench: Bench, user: User, driver_at_dpi: tuple[Dr
         look_at(program.window("Help"), "help")
         main.press(tool)
         wait_for(lambda: main.is_checked(tool), tool)
-        main.press(start)
+        main.press(play)
         look_at(program.window(tool), "morse")
+        main.choose(MENU_ABOUT)
+        look_at(program.window("About Tonmira"), "about")
+    finally:
+        program.finish()
+
+
+@pytest.mark.parametrize(("language", "index", "refusal"), [
+    ("en", 0, "I don't want to send anonymous data"),
+    ("nl", 1, "Ik wil geen anonieme data verzenden"),
+])
+def test_the_first_run_dialog_shows_all_of_its_texts(
+        bench: Bench, user: User, driver_at_dpi: tuple[Driver, int], language: str, index: int,
+        refusal: str) -> None:
+    driver, dpi = driver_at_dpi
+    program = start(bench, driver, Folders(bench), dpi)
+    try:
+        dialog = program.window(FIRST_RUN_TITLE)
+        dialog.select(index)
+        wait_for(lambda: refusal in dialog.texts(), "the language")
+        user.activate(dialog)
+        user.screenshot(dialog, SCREENS / f"first-run-{language}-{dpi}.png")
+        assert cut_off(driver, dialog) == []
+        # Nothing reaches beyond the window.
+        window = dialog.place()
+        for control in dialog.controls():
+            place = control.place
+            assert place.x >= window.x and place.x + place.width <= window.x + window.width
+            assert place.y >= window.y and place.y + place.height <= window.y + window.height
     finally:
         program.finish()

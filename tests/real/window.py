@@ -127,6 +127,15 @@ class Window:
         """A click without the mouse."""
         self.driver.ask("press", self.button(text).handle)
 
+    def chosen(self) -> str:
+        """The chosen item of the one drop-down list."""
+        text = self.driver.ask("text", self.control("ComboBox").handle)
+        return text[0][0] if text else ""
+
+    def select(self, index: int) -> None:
+        """Chooses an item of the one drop-down list, without the mouse."""
+        self.driver.ask("select", self.control("ComboBox").handle, str(index))
+
     def choose(self, command: int) -> None:
         self.driver.ask("command", self.handle, str(command))
 
