@@ -65,7 +65,10 @@ double Convert(std::string_view number) {
   for (char& c : digits) {
     if (c == 'd' || c == 'D') c = 'e';
   }
-  const double value = std::strtod(digits.c_str(), nullptr);
+  return std::strtod(digits.c_str(), nullptr);
+}
+
+double Finite(double value) {
   if (!std::isfinite(value)) throw RuntimeError(ErrorCode::kOverflow);
   return value;
 }
@@ -99,6 +102,10 @@ std::string BareNumber(std::int32_t value) {
 }
 
 double LeadingNumber(std::string_view text) {
+  return Finite(LeadingNumberOrInfinity(text));
+}
+
+double LeadingNumberOrInfinity(std::string_view text) {
   text = TrimLeft(text);
   const std::size_t length = NumberLength(text);
   return length == 0 ? 0.0 : Convert(text.substr(0, length));
@@ -106,7 +113,7 @@ double LeadingNumber(std::string_view text) {
 
 double NumberFromText(std::string_view text) {
   if (!IsNumber(text)) throw RuntimeError(ErrorCode::kTypeMismatch);
-  return Convert(Trim(text));
+  return Finite(Convert(Trim(text)));
 }
 
 bool IsNumber(std::string_view text) {

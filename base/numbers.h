@@ -19,6 +19,9 @@ std::string BareNumber(std::int32_t value);
 // A number beyond the range of double throws kOverflow.
 double LeadingNumber(std::string_view text);
 
+// The same, but a number beyond the range of double is infinite, with its sign.
+double LeadingNumberOrInfinity(std::string_view text);
+
 // The value of a text that must be a number as a whole (blanks around it allowed).
 // Throws kTypeMismatch when it is none, kOverflow beyond the range of double.
 double NumberFromText(std::string_view text);
