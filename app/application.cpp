@@ -13,10 +13,11 @@ Application::Application(platform::Platform& platform)
       form5(platform, form1.State(), errors, [this] { UnloadAll(); }),
       form6(platform.windows, [this] { UnloadAll(); }),
       form8(platform.windows),
+      form9(platform, form1.State(), form1, *this),
       frm_about(platform, errors, [this] { LoadAboutCaptions(); }),
       platform_(platform) {
-  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form4,    &form5,
-                                                   &form6, &form8, &frm_about};
+  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form4, &form5,
+                                                   &form6, &form8, &form9, &frm_about};
   for (ui::Window* window : windows) {
     window->OnUntrappedError = [this](const base::RuntimeError& error) { EndAfter(error); };
   }
@@ -38,6 +39,7 @@ void Application::HideOtherWindows() {
   form4.Hide();
   form5.Hide();
   form8.Hide();
+  form9.Hide();
   frm_about.Hide();
 }
 

@@ -9,12 +9,15 @@
 #include "app/form8.h"
 #include "morse/form4.h"
 #include "platform/platform.h"
+#include "program_files/form9.h"
 #include "settings/form5.h"
 #include "settings/form6.h"
 
 namespace app {
 
-class Application : public OtherWindows, public morse::MorseScene {
+class Application : public OtherWindows,
+                    public morse::MorseScene,
+                    public program_files::PlayerScene {
  public:
   explicit Application(platform::Platform& platform);
 
@@ -28,6 +31,7 @@ class Application : public OtherWindows, public morse::MorseScene {
   settings::Form5 form5;
   settings::Form6 form6;
   Form8 form8;
+  program_files::Form9 form9;
   about::frmAbout frm_about;
 
   // OtherWindows
@@ -37,6 +41,7 @@ class Application : public OtherWindows, public morse::MorseScene {
   ui::Window& MorseWindow() override { return form4; }
   ui::Window& FirstRun() override { return form5; }
   ui::Window& AboutBox() override { return frm_about; }
+  program_files::Form9& PlayerWindow() override { return form9; }
 
   // lang::CaptionScene
   std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval) override;
@@ -46,6 +51,10 @@ class Application : public OtherWindows, public morse::MorseScene {
 
   // morse::MorseScene
   void LoadMorseCaptions(const std::string& language) override;
+
+  // program_files::PlayerScene
+  void UnloadNewsWindow() override {}
+  void UnloadEveryWindow() override { UnloadAll(); }
 
   // settings::ErrorScene
   settings::Form6& ErrorDialog() override { return form6; }

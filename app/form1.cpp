@@ -31,6 +31,7 @@ void Form1::ConnectControls() {
 }
 
 void Form1::ConnectMenu() {
+  openfile.OnClick = [this] { openfile_Click(); };
   exit.OnClick = [this] { Exit(); };
   about.OnClick = [this] { ShowAboutBox(); };
   sndautomatic.OnClick = [this] { ChooseSoundMode(27, sndautomatic, "128"); };

@@ -16,6 +16,7 @@
 #include "display/waveform.h"
 #include "lang/texts.h"
 #include "platform/platform.h"
+#include "program_files/form9.h"
 
 namespace app {
 
@@ -28,6 +29,7 @@ class OtherWindows : public WindowList, public settings::ErrorScene, public lang
   virtual ui::Window& MorseWindow() = 0;   // Form4
   virtual ui::Window& FirstRun() = 0;      // Form5
   virtual ui::Window& AboutBox() = 0;      // frmAbout
+  virtual program_files::Form9& PlayerWindow() = 0;
 };
 
 class Form1 : public Form1Controls,
@@ -103,6 +105,7 @@ class Form1 : public Form1Controls,
   // Tone modes (form1_modes.cpp).
   void OptionClick(int mode);
   void ShowSine(Program& program, int mode);
+  void ReselectMode(const ProgramPtr& program);
   void HScroll1_Change();
   std::int16_t SelectedPitch() const;  // of the slider, as it is shown
 
@@ -133,6 +136,7 @@ class Form1 : public Form1Controls,
   void ShowWave(const display::WaveDrawing& drawing);
 
   // Menus and the other buttons (form1_menus.cpp).
+  void openfile_Click();
   void Command1_Click();
   void ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item, const std::string& code);
   void ChooseLanguage(std::int16_t error_value, const std::string& code,

@@ -5,6 +5,21 @@
 
 namespace app {
 
+// This copy does not play files: another one does, which shows the player instead of this window.
+void Form1::openfile_Click() {
+  const ProgramPtr program = NewProgram();
+  settings::TrapErrors(*program, 16, [&] {
+    const std::string path = platform_.file_dialogs.Open(
+        {"Select File", "Tonmira file (*.tnf)|*.tnf|All files (*.*)|*.*", "tnf"});
+    if (!path.empty() && platform_.files.Exists(path)) {
+      const std::string folder = platform_.environment.ProgramFolder();
+      platform_.processes.StartProgram(folder + "\\" + platform_.environment.ProgramName() + ".exe",
+                                       path);
+    }
+    ReselectMode(program);
+  });
+}
+
 void Form1::Command1_Click() {
   settings::TrapErrors(*NewProgram(), 3, [this] { others_.HelpWindow().Show(); });
 }

@@ -29,6 +29,23 @@ void Form1::DrawSine(std::int16_t pitch, std::int16_t mode) {
   program->DrawSine(pitch, mode);
 }
 
+void Form1::ReselectMode(const ProgramPtr& program) {
+  const int mode = SelectedMode();
+  if (mode == 0) return;
+  const bool playing = Command3.Enabled();
+  const bool slider = HScroll1.Enabled();
+  const std::string status = StatusBar1.Caption();
+  program->SelectRadio(static_cast<std::int16_t>(mode));
+  if (playing) {
+    // Selecting a mode offers Play and the slider, and its captions clear the status panel. The
+    // tone that sounds is still the one that was started: a second Play would run within the first.
+    Command2.SetEnabled(false);
+    HScroll1.SetEnabled(slider);
+    ShowStatus(status);
+  }
+  if (HasOwnPitch(mode)) ShowSine(*program, mode);
+}
+
 void Form1::ShowMode(int mode) {
   for (int other = 1; other <= kModes; ++other) {
     if (other != mode) Options()[static_cast<std::size_t>(other - 1)]->SetValue(false);

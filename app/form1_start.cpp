@@ -117,6 +117,11 @@ void Form1::TestConnection() {
 void Form1::FinishStart() {
   if (file_mode_flag_ == 1) {
     program_->PrintFile("> Starting tnf file");
+    program_files::Form9& player = others_.PlayerWindow();
+    player.SetFilePath(command_line_file_);
+    player.SetSoundMode(state_.SoundBit);
+    // Returns when the file has been played once.
+    player.Show();
     Hide();
   }
   if (state_.MicrophoneON == 1) StartCapture();

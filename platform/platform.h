@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/direct_sound.h"
+#include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "platform/sound_capture.h"
@@ -29,6 +30,7 @@ struct Platform {
   MessageBoxes& messages;
   Registry& registry;
   VersionResource& version_resource;
+  FileDialogs& file_dialogs;
   ui::WindowSystem& windows;
   Timers& timers;
   SoundCapture& sound_capture;

@@ -66,7 +66,8 @@ class MessagePump {
   // before the input that follows is handled.
   virtual void ProcessPending(const std::function<bool()>& enough = {}) = 0;
 
-  // Blocks the thread; messages wait. Returns at once for 0 and less.
+  // Blocks the thread; messages wait, but in a long sleep windows are still drawn. Returns at once
+  // for 0 and less.
   virtual void Sleep(int milliseconds) = 0;
 
   // Handles messages until no window is left that could be used.
@@ -90,6 +91,10 @@ class Processes {
   // Starts a command without waiting for it; throws base::RuntimeError 53 when it cannot start.
   virtual void Start(const std::string& command) = 0;
   virtual void StartHidden(const std::string& command) = 0;
+
+  // Starts `program`, a full path, with the command line `program`, a blank, `arguments`. Throws as
+  // Start does.
+  virtual void StartProgram(const std::string& program, const std::string& arguments) = 0;
 
   // Ends this process at once. No handler, trap or destructor of the program runs after it.
   [[noreturn]] virtual void EndProcess() = 0;

@@ -1,7 +1,6 @@
 #include "tone/helper_routes.h"
 
 #include "base/numbers.h"
-#include "base/text.h"
 #include "tone/quietly.h"
 
 namespace tone {
@@ -26,7 +25,7 @@ void HelperRoutes::PlayByHelper(std::int16_t pitch, const std::string& bit) {
   Quietly([&] {
     support_.ReadTempFolder();
     support_.state.stop_flag = 0;
-    WriteHandOver(base::SignedNumber(pitch) + " ");
+    support_.WriteHandOver(pitch);
     StartHelper(bit);
     support_.WaitUntilStopped(kHelperTickMs);
     support_.KillAll();
@@ -37,7 +36,7 @@ void HelperRoutes::LowToHigh(const std::string& bit) {
   Quietly([&] {
     support_.ReadTempFolder();
     sweep_pitch_ = 0;
-    WriteHandOver("1");
+    support_.WriteHandOver("1");
     support_.ShowPitchCaption();
     StartHelper(bit);
     do {
@@ -50,10 +49,6 @@ void HelperRoutes::LowToHigh(const std::string& bit) {
     } while (!support_.Stopped());
     support_.KillAll();
   });
-}
-
-void HelperRoutes::WriteHandOver(const std::string& line) {
-  support_.services.Texts().Write(support_.HandOverPath(), base::Line(line));
 }
 
 // A helper that is missing or blocked leaves the route silent; only Stop ends it.

@@ -24,7 +24,6 @@ class HelperRoutes {
 
  private:
   void PlayByHelper(std::int16_t pitch, const std::string& bit);
-  void WriteHandOver(const std::string& line);
   void StartHelper(const std::string& bit);
   void Restart(const std::string& bit);
   void ShowSweep(const std::string& bit);

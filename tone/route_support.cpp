@@ -1,6 +1,7 @@
 #include "tone/route_support.h"
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "tone/quietly.h"
 
 namespace tone {
@@ -29,9 +30,23 @@ void RouteSupport::ReadTempFolder() {
   temp_ = services.environment.Get("TEMP");
 }
 
+std::string RouteSupport::WavePath() const {
+  return own_wave_.empty() ? temp_ + "\\tnfwinmmtmp.wav" : own_wave_;
+}
+
+void RouteSupport::WriteHandOver(const std::string& line) {
+  services.Texts().Write(HandOverPath(), base::Line(line));
+}
+
+void RouteSupport::WriteHandOver(std::int16_t pitch) {
+  WriteHandOver(base::SignedNumber(pitch) + " ");
+}
+
 void RouteSupport::WriteTone(std::int32_t pitch) {
-  waves.WriteWave(WavePath(),
-                  waves.CreateWaveArray(SineSecond(pitch), kSampleRate, kBitsPerSample));
+  const std::string image = waves.CreateWaveArray(SineSecond(pitch), kSampleRate, kBitsPerSample);
+  if (waves.WriteWave(WavePath(), image) || !services.files.Exists(WavePath())) return;
+  own_wave_ = services.files.TemporaryName(WavePath());
+  waves.WriteWave(own_wave_, image);
 }
 
 void RouteSupport::DeleteIfThere(const std::string& path) {

@@ -62,10 +62,15 @@ class RouteSupport {
   ProcessKiller killer;
 
   void ReadTempFolder();
-  std::string WavePath() const { return temp_ + "\\tnfwinmmtmp.wav"; }
+  std::string WavePath() const;
   std::string HandOverPath() const { return temp_ + "\\sound.ini"; }
 
-  // Writes one second of a tone as the generated WAV file.
+  // Writes the hand-over file: one line, for a pitch its number in Hz between blanks.
+  void WriteHandOver(const std::string& line);
+  void WriteHandOver(std::int16_t pitch);
+
+  // Writes one second of a tone as the generated WAV file. When another running copy of the program
+  // holds that, this object uses a file of its own from then on.
   void WriteTone(std::int32_t pitch);
   void DeleteIfThere(const std::string& path);
 
@@ -90,6 +95,7 @@ class RouteSupport {
 
   std::string language_;
   std::string temp_;
+  std::string own_wave_;  // path; empty while the usual one serves
 };
 
 }  // namespace tone

@@ -16,7 +16,7 @@ std::string WaveOutput::CreateWaveArray(const SampleBuffer& samples, std::int32_
   return WaveImage(samples, sample_rate, bits_per_sample);
 }
 
-void WaveOutput::WriteWave(const std::string& file_name, const std::string& image) {
+bool WaveOutput::WriteWave(const std::string& file_name, const std::string& image) {
   const bool there = Quietly([&] {
     if (!platform_.files.OpenForReading(file_name)) {
       throw base::RuntimeError(base::ErrorCode::kFileNotFound);
@@ -30,6 +30,7 @@ void WaveOutput::WriteWave(const std::string& file_name, const std::string& imag
     file->Close();
   });
   if (!written) Quietly([&] { platform_.files.Delete(file_name); });
+  return written;
 }
 
 void WaveOutput::WavPlay(const std::string& path, bool loop_sound, bool kill_all) {

@@ -19,9 +19,9 @@ class WaveOutput {
   std::string CreateWaveArray(const SampleBuffer& samples, std::int32_t sample_rate,
                               std::int16_t bits_per_sample);
 
-  // Writes the image, replacing the file whole. Errors are swallowed; a file that could not be
-  // written whole is not left behind.
-  void WriteWave(const std::string& file_name, const std::string& image);
+  // Writes the image, replacing the file whole, and says whether it did. Errors are swallowed; a
+  // file that could not be written whole is not left behind.
+  bool WriteWave(const std::string& file_name, const std::string& image);
 
   // Starts a file without waiting for its end, in a loop if asked, or with `kill_all` stops
   // whatever is playing (the path is ignored then). Errors are ignored.

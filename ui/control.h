@@ -31,6 +31,7 @@ enum class ControlKind {
   kCheckBox,
   kComboBox,
   kStatusBar,
+  kProgressBar,
 };
 
 class Control {

@@ -12,7 +12,11 @@ namespace ui {
 
 class Label : public Control {
  public:
-  enum class Style { kNormal, kHeading };
+  enum class Style {
+    kNormal,
+    kHeading,
+    kPath,  // one line; a path that is too long is shortened in its middle
+  };
 
   Label(Window& window, std::string name, Rect bounds, std::string caption,
         Style style = Style::kNormal)

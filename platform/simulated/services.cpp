@@ -74,6 +74,10 @@ void FakeProcesses::StartHidden(const std::string& command) {
   Begin(command, "start hidden ");
 }
 
+void FakeProcesses::StartProgram(const std::string& program, const std::string& arguments) {
+  Begin(program + " " + arguments, "start ");
+}
+
 void FakeProcesses::EndProcess() {
   journal_.Add(Kind::kProcess, "end");
   throw ProcessEnded{};
@@ -117,6 +121,7 @@ std::int16_t ScriptedMessages::Show(const std::string& text, const std::string& 
   journal_.Add(Kind::kMessage, IconName(icon) +
                                    (buttons == MessageButtons::kYesNo ? " yes/no" : "") + " [" +
                                    title + "] " + text);
+  if (while_open) while_open();
   if (answers.empty()) {
     if (buttons == MessageButtons::kOk) return kAnswerOk;
     throw std::logic_error("no answer scripted for: " + text);

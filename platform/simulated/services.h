@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -60,6 +61,7 @@ class FakeProcesses : public Processes {
   bool Terminate(std::uint32_t id) override;
   void Start(const std::string& command) override;
   void StartHidden(const std::string& command) override;
+  void StartProgram(const std::string& program, const std::string& arguments) override;
   [[noreturn]] void EndProcess() override;
 
  private:
@@ -118,6 +120,7 @@ class ScriptedMessages : public MessageBoxes {
   explicit ScriptedMessages(Journal& journal) : journal_(journal) {}
 
   std::deque<std::int16_t> answers;
+  std::function<void()> while_open;  // what happens while a box is open
 
   std::int16_t Show(const std::string& text, const std::string& title, MessageIcon icon,
                     MessageButtons buttons) override;

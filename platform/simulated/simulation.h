@@ -11,6 +11,7 @@
 
 #include "platform/platform.h"
 #include "platform/simulated/direct_sound.h"
+#include "platform/simulated/file_dialogs.h"
 #include "platform/simulated/files.h"
 #include "platform/simulated/journal.h"
 #include "platform/simulated/pump.h"
@@ -45,6 +46,7 @@ class Simulation {
   FakeScreen screen;
   FakeVersion version;
   ScriptedMessages messages{journal};
+  ScriptedFileDialogs file_dialogs{journal};
   FakeRegistry registry;
   FakeVersionResource version_resource;
 
@@ -64,11 +66,12 @@ class Simulation {
       .messages = messages,
       .registry = registry,
       .version_resource = version_resource,
+      .file_dialogs = file_dialogs,
       .windows = windows,
       .timers = pump,
       .sound_capture = sound_capture,
   };
-// Schedules `action` at a moment of the virtual clock.
+  // Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);
 
   // Runs `program` until it returns, ends its process or waits for a user who does nothing more.

@@ -1,5 +1,6 @@
 #include "platform/simulated/windows.h"
 
+#include "ui/progress_bar.h"
 #include "ui/window.h"
 
 namespace platform::simulated {
@@ -18,6 +19,9 @@ std::string ValueOf(const ui::Control& control) {
   }
   if (const auto* combo_box = dynamic_cast<const ui::ComboBox*>(&control)) {
     return std::to_string(combo_box->ListIndex());
+  }
+  if (const auto* bar = dynamic_cast<const ui::ProgressBar*>(&control)) {
+    return std::to_string(bar->Value()) + " of " + std::to_string(bar->Maximum());
   }
   return "?";
 }

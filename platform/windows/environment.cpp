@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/command_line.h"
 #include "platform/windows/file_errors.h"
 #include "platform/windows/module_path.h"
 #include "platform/windows/wide_text.h"
@@ -39,13 +40,7 @@ std::string WindowsEnvironment::Get(const std::string& name) {
 }
 
 std::string WindowsEnvironment::Arguments() {
-  const wchar_t* at = GetCommandLineW();
-  bool quoted = false;
-  for (; *at != L'\0' && (quoted || (*at != L' ' && *at != L'\t')); ++at) {
-    if (*at == L'"') quoted = !quoted;
-  }
-  while (*at == L' ' || *at == L'\t') ++at;
-  return Narrow(at);
+  return std::string(base::Arguments(Narrow(GetCommandLineW()), ProgramPath()));
 }
 
 std::string WindowsEnvironment::ProgramFolder() {

@@ -1,5 +1,7 @@
 #include "platform/windows/message_pump.h"
 
+#include <algorithm>
+
 #include "platform/windows/native_window.h"
 
 namespace platform::windows {
@@ -7,6 +9,11 @@ namespace {
 
 constexpr int kCoarseTick =
     16;  // ms; the system's timer grain when no program asks for a finer one
+
+// ms; from here on a wait would be seen if nothing were drawn.
+constexpr int kLongSleep = 250;
+// ms; the system takes a program that asks for no message for seconds for dead.
+constexpr int kSignOfLife = 1000;
 
 bool IsKey(const MSG& message) {
   return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
@@ -43,6 +50,19 @@ class Stopwatch {
   LARGE_INTEGER start_{};
 };
 
+// Input stays where it is, but what of a window is uncovered is drawn.
+void PaintUntil(int end_ms, const Stopwatch& stopwatch) {
+  MSG message{};
+  for (int left = end_ms; left > 0; left = end_ms - stopwatch.ElapsedMilliseconds()) {
+    if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) {
+      DispatchMessageW(&message);
+    } else {
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(std::min(left, kSignOfLife)),
+                                QS_PAINT | QS_SENDMESSAGE);
+    }
+  }
+}
+
 }  // namespace
 
 void WindowsMessagePump::ProcessPending(const std::function<bool()>& enough) {
@@ -59,7 +79,12 @@ void WindowsMessagePump::Sleep(int milliseconds) {
   // A fine timer grain costs the whole machine power, so only the end of a long sleep has it.
   const Stopwatch stopwatch;
   if (milliseconds > 4 * kCoarseTick) {
-    ::Sleep(static_cast<DWORD>(milliseconds - 2 * kCoarseTick));
+    const int coarse = milliseconds - 2 * kCoarseTick;
+    if (milliseconds >= kLongSleep) {
+      PaintUntil(coarse, stopwatch);
+    } else {
+      ::Sleep(static_cast<DWORD>(coarse));
+    }
     milliseconds -= stopwatch.ElapsedMilliseconds();
     if (milliseconds <= 0) return;
   }

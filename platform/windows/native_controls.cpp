@@ -7,6 +7,7 @@
 #include "platform/windows/picture_view.h"
 #include "platform/windows/scroll_bar_view.h"
 #include "platform/windows/wide_text.h"
+#include "ui/progress_bar.h"
 
 #include <commctrl.h>
 
@@ -27,10 +28,16 @@ DWORD TextStyle(const ui::TextBox& text_box) {
                                                        : ES_AUTOHSCROLL;
 }
 
+bool IsPath(const ui::Control& control) {
+  return control.kind() == ControlKind::kLabel &&
+         static_cast<const ui::Label&>(control).style() == ui::Label::Style::kPath;
+}
+
 Shape ShapeOf(const ui::Control& control) {
   switch (control.kind()) {
     case ControlKind::kLabel:
-      return {L"STATIC", SS_LEFT | SS_NOPREFIX, 0, true};
+      return {L"STATIC", (IsPath(control) ? SS_PATHELLIPSIS | SS_NOTIFY : SS_LEFT) | SS_NOPREFIX, 0,
+              true};
     case ControlKind::kFrame:
       return {L"BUTTON", BS_GROUPBOX, 0, true};
     case ControlKind::kButton:
@@ -53,6 +60,8 @@ Shape ShapeOf(const ui::Control& control) {
       return {L"BUTTON", BS_CHECKBOX | WS_TABSTOP, 0, true};
     case ControlKind::kComboBox:
       return {L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 0, true};
+    case ControlKind::kProgressBar:
+      return {PROGRESS_CLASSW, PBS_SMOOTH, 0, false};
     case ControlKind::kStatusBar:
       break;
   }
@@ -99,6 +108,9 @@ void NativeControls::Create(HWND parent) {
     handles_.push_back(CreateOne(parent, i));
     if (IsOption(*controls[i])) {
       option_views_.push_back(std::make_unique<OptionButtonView>(handles_[i]));
+    }
+    if (IsPath(*controls[i])) {
+      path_tips_.push_back(std::make_unique<PathTip>(parent, handles_[i], appearance_));
     }
     ShowValue(i);
     ShowItems(i);
@@ -253,6 +265,7 @@ std::string NativeControls::LabelBefore(std::size_t index) const {
 void NativeControls::ShowCaption(std::size_t index) {
   SetWindowTextW(handles_[index], Text(index).c_str());
   if (control(index).kind() != ControlKind::kLabel) return;
+  for (const auto& tip : path_tips_) tip->Refresh();
   for (std::size_t i = index + 1; i < handles_.size(); ++i) {
     if (control(i).kind() == ControlKind::kLabel) break;
     if (control(i).kind() == ControlKind::kScrollBar) ShowCaption(i);
@@ -274,6 +287,11 @@ void NativeControls::ShowValue(std::size_t index) {
     ShowScrollValue(handles_[index], static_cast<const ui::ScrollBar&>(shown));
   } else if (shown.kind() == ControlKind::kComboBox) {
     ShowComboChoice(handles_[index], static_cast<const ui::ComboBox&>(shown));
+  } else if (shown.kind() == ControlKind::kProgressBar) {
+    const auto& bar = static_cast<const ui::ProgressBar&>(shown);
+    SendMessageW(handles_[index], PBM_SETRANGE32, static_cast<WPARAM>(bar.Minimum()),
+                 bar.Maximum());
+    SendMessageW(handles_[index], PBM_SETPOS, static_cast<WPARAM>(bar.Value()), 0);
   }
 }
 

@@ -8,6 +8,7 @@
 
 #include "platform/windows/appearance.h"
 #include "platform/windows/option_button_view.h"
+#include "platform/windows/path_tip.h"
 #include "ui/window.h"
 
 namespace platform::windows {
@@ -63,6 +64,7 @@ class NativeControls {
   const Appearance& appearance_;
   std::vector<HWND> handles_;
   std::vector<std::unique_ptr<OptionButtonView>> option_views_;
+  std::vector<std::unique_ptr<PathTip>> path_tips_;
   std::vector<std::string> marked_captions_;  // by index; empty for controls without access keys
 };
 

@@ -9,8 +9,8 @@ namespace platform::windows {
 
 NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
     : appearance_(instance), open_(open) {
-  // Visual styles need the library of common controls to be loaded; the status bar is of it.
-  INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES};
+  // Visual styles need the library of common controls to be loaded; the bars are of it.
+  INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
   InitCommonControlsEx(&wanted);
   RegisterWindowClass(instance);
   RegisterPictureClass(instance);

@@ -13,7 +13,8 @@ namespace {
 // All rights that a process object has on NT 5; newer systems know more and would refuse those.
 constexpr DWORD kAllProcessRights = 0x1F0FFF;
 
-void StartCommand(const std::string& command, WORD show) {
+// Without `program` the system finds it at the beginning of the command.
+void StartCommand(const wchar_t* program, const std::string& command, WORD show) {
   // CreateProcessW may write into the command line.
   std::wstring line = Widen(command);
   STARTUPINFOW startup{};
@@ -21,7 +22,7 @@ void StartCommand(const std::string& command, WORD show) {
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = show;
   PROCESS_INFORMATION process{};
-  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+  if (!CreateProcessW(program, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                       &process)) {
     throw base::RuntimeError(base::ErrorCode::kFileNotFound);
   }
@@ -50,11 +51,15 @@ bool WindowsProcesses::Terminate(std::uint32_t id) {
 }
 
 void WindowsProcesses::Start(const std::string& command) {
-  StartCommand(command, SW_SHOWNORMAL);
+  StartCommand(nullptr, command, SW_SHOWNORMAL);
 }
 
 void WindowsProcesses::StartHidden(const std::string& command) {
-  StartCommand(command, SW_HIDE);
+  StartCommand(nullptr, command, SW_HIDE);
+}
+
+void WindowsProcesses::StartProgram(const std::string& program, const std::string& arguments) {
+  StartCommand(Widen(program).c_str(), program + " " + arguments, SW_SHOWNORMAL);
 }
 
 void WindowsProcesses::EndProcess() {

@@ -11,6 +11,7 @@ class WindowsProcesses final : public Processes {
   bool Terminate(std::uint32_t id) override;
   void Start(const std::string& command) override;
   void StartHidden(const std::string& command) override;
+  void StartProgram(const std::string& program, const std::string& arguments) override;
   [[noreturn]] void EndProcess() override;
 };
 

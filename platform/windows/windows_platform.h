@@ -5,6 +5,7 @@
 #include "platform/windows/clock.h"
 #include "platform/windows/direct_sound.h"
 #include "platform/windows/environment.h"
+#include "platform/windows/file_dialogs.h"
 #include "platform/windows/file_system.h"
 #include "platform/windows/message_boxes.h"
 #include "platform/windows/message_pump.h"
@@ -44,6 +45,7 @@ class WindowsPlatform {
   WindowsScreen screen_;
   WindowsVersion version_;
   WindowsMessageBoxes messages_{open_};
+  WindowsFileDialogs file_dialogs_{open_};
   WindowsRegistry registry_;
   WindowsVersionResource version_resource_;
   NativeWindowSystem windows_;
@@ -65,6 +67,7 @@ class WindowsPlatform {
       .messages = messages_,
       .registry = registry_,
       .version_resource = version_resource_,
+      .file_dialogs = file_dialogs_,
       .windows = windows_,
       .timers = timers_,
       .sound_capture = sound_capture_,

@@ -117,8 +117,10 @@ std::string PlaceOf(HWND window) {
 // A program that was started here, and the commands that concern it.
 class Programs {
  public:
-  DWORD Start(const std::string& exe, const std::string& folder, std::wstring environment) {
-    std::wstring command = L"\"" + Wide(exe) + L"\"";
+  // `arguments` follow the program's name as they are.
+  DWORD Start(const std::string& exe, const std::string& folder, std::wstring environment,
+              const std::string& arguments = "") {
+    std::wstring command = L"\"" + Wide(exe) + L"\" " + Wide(arguments);
     const std::wstring wide_folder = Wide(folder);
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
@@ -168,7 +170,8 @@ std::wstring EnvironmentOfUser(const std::string& temp, const std::string& appda
 
 void Start(Programs& programs, const Fields& fields) {
   std::cout << programs.Start(fields.at(1), fields.at(2),
-                              EnvironmentOfUser(fields.at(3), fields.at(4)))
+                              EnvironmentOfUser(fields.at(3), fields.at(4)),
+                              fields.size() > 5 ? fields[5] : "")
             << '\n';
 }
 
@@ -263,6 +266,7 @@ bool Fits(const Measure& measure, HWND control, const std::wstring& text) {
   GetClientRect(control, &client);
   const std::string kind = ClassOf(control);
   if (kind == "Static") {
+    if ((GetWindowLongW(control, GWL_STYLE) & SS_ELLIPSISMASK) != 0) return true;
     // Headings are the labels of this height; all others are lower or hold several lines.
     const bool heading = client.bottom >= measure.Scale(22) && client.bottom <= measure.Scale(24);
     const SIZE size = measure.Of(text, client.right, heading, false);

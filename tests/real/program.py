@@ -78,7 +78,7 @@ class Tonmira:
     """The running program. Its process is ended by `finish`, whatever state it is in."""
 
     def __init__(self, bench: Bench, driver: Driver, folders: Folders, exe: Path = PROGRAM,
-                 start_folder: Path | None = None):
+                 start_folder: Path | None = None, arguments: str = ""):
         self.bench = bench
         self.driver = driver
         self.folders = folders
@@ -86,7 +86,8 @@ class Tonmira:
         before = set(all_processes())
         self.process = int(driver.ask(
             "start", bench.windows_path(exe), bench.windows_path(start_folder or exe.parent),
-            bench.windows_path(folders.temp), bench.windows_path(folders.appdata))[0][0])
+            bench.windows_path(folders.temp), bench.windows_path(folders.appdata),
+            arguments)[0][0])
         self._before = before
 
     def window(self, title: str = MAIN_TITLE, seconds: float = 30) -> Window:

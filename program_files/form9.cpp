@@ -1,0 +1,137 @@
+// The player window and its load routine.
+#include "program_files/form9.h"
+
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "program_files/line_reader.h"
+#include "tone/quietly.h"
+
+namespace program_files {
+namespace {
+
+// A legal file is far smaller, whatever its lines hold beside their numbers.
+constexpr std::size_t kMostText = 16 * 1024 * 1024;
+
+// One more than the line count can tell.
+constexpr std::int32_t kMostLines = 32774;
+
+}  // namespace
+
+Form9::Form9(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
+             PlayerScene& player_scene)
+    : ui::Window(platform.windows, {"Form9", "Tonmira", 480, 160}),
+      platform_(platform),
+      state_(state),
+      scene_(player_scene),
+      support_(platform, state, play_scene) {
+  Command1.OnClick = [this] { Command1_Click(); };
+  Command2.OnClick = [this] { Command2_Click(); };
+  Command3.OnClick = [this] { Command3_Click(); };
+  SetDefaultButton(&Command1);
+  SetCancelButton(&Command2);
+}
+
+void Form9::Form_Load() {
+  tone::Quietly([this] { LoadProgram(); });
+  if (closes_after_loading_) Unload();
+}
+
+void Form9::LoadProgram() {
+  scene_.UnloadNewsWindow();
+  if (loading_guard_ == 1) return;
+  loading_guard_ = 1;
+  state_.stop_flag = 0;
+  KillHelpers();
+  Label4.SetCaption(file_path_);
+  if (!platform_.files.Exists(file_path_)) {
+    IllFile();
+    return;
+  }
+  ReadLines();
+  Command1.SetEnabled(false);
+  Parse();
+  if (program_.hidden_flag == 0 && !closes_after_loading_) Show();
+  Label1.SetCaption("0");
+  PlayUntilDone();
+  if (program_.hidden_flag == 1) Unload();
+}
+
+void Form9::ReadLines() {
+  const auto file = platform_.files.OpenForReading(file_path_);
+  if (!file) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+  LineReader reader(*file, kMostText);
+  try {
+    std::int16_t index = 1;
+    while (const auto line = reader.Next()) {
+      if (index == kLastIndex) IllFile();
+      program_.lines[index] = platform_.code_page.Decode(*line);
+      ++index;
+    }
+  } catch (const base::RuntimeError& error) {
+    // A file of more text than can be kept is none either.
+    if (error.code() == base::ErrorCode::kOutOfMemory) IllFile();
+    throw;
+  }
+}
+
+void Form9::Parse() {
+  tone::Quietly([this] {
+    ProgramChecks checks(program_);
+    Tell(checks.CheckHead());
+    checks.BeginEntries(CountLinesAgain());
+    while (checks.HasEntry()) {
+      platform_.pump.ProcessPending();
+      Tell(checks.CheckEntry());
+    }
+    Label2.SetCaption(base::BareNumber(ToneCount()));
+  });
+}
+
+std::int32_t Form9::CountLinesAgain() {
+  const auto file = platform_.files.OpenForReading(file_path_);
+  if (!file) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+  return CountLines(*file, kMostLines);
+}
+
+void Form9::Tell(const std::vector<Report>& reports) {
+  for (const Report report : reports) {
+    if (report == Report::kVersion) {
+      lowFile();
+    } else {
+      IllFile();
+    }
+  }
+}
+
+void Form9::IllFile() {
+  platform_.messages.Show(file_path_ + " is not a legal tnf file!", "Error",
+                          platform::MessageIcon::kCritical, platform::MessageButtons::kOk);
+  CloseAfterLoading();
+}
+
+void Form9::lowFile() {
+  platform_.messages.Show("Your Tonmira version is not compatible with this file!", "Error",
+                          platform::MessageIcon::kExclamation, platform::MessageButtons::kOk);
+  CloseAfterLoading();
+}
+
+// The load routine goes on: every failed check has its message, and what was read is played.
+void Form9::CloseAfterLoading() {
+  closes_after_loading_ = true;
+  Hide();
+}
+
+void Form9::KillHelpers() {
+  support_.killer.KillProcess("Tone32.dll");
+  support_.killer.KillProcess("Tone16.dll");
+}
+
+void Form9::Form_Unload() {
+  tone::Quietly([this] {
+    // A helper may be about to sound, as it is started without waiting for it.
+    if (playing_) support_.KillAll();
+    scene_.UnloadEveryWindow();
+  });
+}
+
+}  // namespace program_files

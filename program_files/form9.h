@@ -1,0 +1,108 @@
+// The player: plays the tone program file that the program was started with, through the sound mode
+// that was current then.
+//
+// Its load routine does everything: it reads and checks the file, shows the window unless the file
+// is marked invisible, and plays. Play returns when the last tone is over or after Stop; the user's
+// input is handled before each tone and takes effect when the tone that sounds then is over.
+// Unloading the window ends the program. Handlers and procedures trap their errors and end quietly.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/main_state.h"
+#include "platform/platform.h"
+#include "program_files/tone_program.h"
+#include "tone/route_support.h"
+#include "tone/winmm_routes.h"
+#include "ui/progress_bar.h"
+#include "ui/window.h"
+
+namespace program_files {
+
+// What the player needs of the program around it.
+class PlayerScene {
+ public:
+  virtual ~PlayerScene() = default;
+
+  virtual void UnloadNewsWindow() = 0;
+
+  // Unloads the main window, which ends the program.
+  virtual void UnloadEveryWindow() = 0;
+};
+
+class Form9 : public ui::Window {
+ public:
+  Form9(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
+        PlayerScene& player_scene);
+
+  // Both are set before the window is loaded.
+  void SetFilePath(std::string path) { file_path_ = std::move(path); }
+  void SetSoundMode(std::string code) { sound_mode_ = std::move(code); }
+
+  ui::Label Label3{*this, "Label3", {16, 16, 70, 18}, "Playing:"};
+  ui::Label Label4{*this, "Label4", {90, 16, 374, 18}, "", ui::Label::Style::kPath};
+  ui::Label Label1{*this, "Label1", {16, 48, 40, 18}, "0"};
+  ui::ProgressBar ProgressBar1{*this, "ProgressBar1", {60, 48, 360, 18}};
+  ui::Label Label2{*this, "Label2", {428, 48, 40, 18}, ""};
+  ui::Label Label5{*this, "Label5", {16, 80, 70, 18}, "Pitch:"};
+  ui::Label Label6{*this, "Label6", {90, 80, 90, 18}, ""};
+  ui::Label Label7{*this, "Label7", {240, 80, 110, 18}, "Time (ms):"};
+  ui::Label Label8{*this, "Label8", {354, 80, 90, 18}, ""};
+  ui::Button Command1{*this, "Command1", {16, 112, 142, 32}, "(Re)play"};
+  ui::Button Command2{*this, "Command2", {169, 112, 142, 32}, "Stop"};
+  ui::Button Command3{*this, "Command3", {322, 112, 142, 32}, "Exit"};
+
+  const ToneProgram& Tones() const { return program_; }
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
+
+  // Loading (form9.cpp).
+  void LoadProgram();
+  void ReadLines();
+  void Parse();
+  std::int32_t CountLinesAgain();
+  void Tell(const std::vector<Report>& reports);
+  void IllFile();
+  void lowFile();
+  void CloseAfterLoading();
+  void KillHelpers();
+
+  // Playing (form9_play.cpp).
+  void PlayUntilDone();
+  void Play();
+  void PlayTone();
+  void StartHelper();
+  void SoundTone();
+  void EndHelper();
+  void ShowPlayed(std::int16_t tones);
+  std::int16_t ToneCount() const { return program_.tone_count; }
+
+  platform::Platform& platform_;
+  base::MainState& state_;
+  PlayerScene& scene_;
+  tone::RouteSupport support_;
+  tone::WinmmRoutes winmm_{support_};
+
+  std::string file_path_;
+  std::string sound_mode_;
+  ToneProgram program_;
+  std::int16_t stop_flag_ = 0;  // 1 = stop requested
+  std::int16_t tone_number_ = 0;
+  std::int16_t table_index_ = 0;
+  std::int16_t loading_guard_ = 0;
+  bool closes_after_loading_ = false;
+  bool playing_ = false;
+  bool replays_ = false;
+};
+
+}  // namespace program_files
