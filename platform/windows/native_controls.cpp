@@ -33,11 +33,15 @@ bool IsPath(const ui::Control& control) {
          static_cast<const ui::Label&>(control).style() == ui::Label::Style::kPath;
 }
 
+DWORD LabelStyle(const ui::Control& label) {
+  // Only a static control that notifies gets the mouse, which a tool tip needs.
+  return SS_NOPREFIX | (IsPath(label) ? SS_PATHELLIPSIS | SS_NOTIFY : SS_LEFT);
+}
+
 Shape ShapeOf(const ui::Control& control) {
   switch (control.kind()) {
     case ControlKind::kLabel:
-      return {L"STATIC", (IsPath(control) ? SS_PATHELLIPSIS | SS_NOTIFY : SS_LEFT) | SS_NOPREFIX, 0,
-              true};
+      return {L"STATIC", LabelStyle(control), 0, true};
     case ControlKind::kFrame:
       return {L"BUTTON", BS_GROUPBOX, 0, true};
     case ControlKind::kButton:

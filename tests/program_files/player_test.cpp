@@ -43,7 +43,9 @@ class WholePlayTest : public PlayerTest {
  protected:
   // Another copy's helper appears while the first tone sounds.
   void StartAnotherCopysHelper() {
-    sim.At(100ms, [this] { sim.processes.running.push_back({77, "tone32.dll"}); });
+    sim.pump.At(sim.pump.now_ms() + 100, [this] {
+      sim.processes.running.push_back({77, "tone32.dll"});
+    });
   }
 };
 
@@ -92,7 +94,6 @@ TEST_F(WholePlayTest, SoundModes64And128EndTheHelperAfterEachTone) {
                                kSecondDone,
                                kEnd}))
         << mode;
-    sim.pump.At(0, [] {});
   }
 }
 
