@@ -6,6 +6,9 @@ readonly python=/usr/bin/python3
 # What only looks at portable code.
 readonly portable_packages=(cmake g++ libgtest-dev make python3)
 
+# What fuzzes it: Clang with libFuzzer.
+readonly fuzz_packages=(clang cmake libclang-rt-dev make)
+
 # What builds the program for Windows.
 readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32 make)
 

@@ -31,6 +31,7 @@ ALLOWED = {
     "main.cpp": APP | {"app", "platform/windows"},
     "helpers": {"base", "tone", "platform/windows"},
     "tests": APP | {"app", "helpers"} | SIMULATION,
+    "tests/fuzz": {"base", "platform", "program_files", "tests"},
     "tests/real": set(),
     "bench": APP | {"app", "tests"} | SIMULATION,
 }

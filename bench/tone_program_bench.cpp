@@ -1,0 +1,90 @@
+// What reading a tone program of 1,999 lines (996 tones) costs: merely cutting its bytes into lines,
+// the first pass, the count of the second, and everything as the player does it. Read the figures
+// as ratios to CutIntoLines within one run.
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "program_files/line_reader.h"
+#include "program_files/tone_program.h"
+#include "tests/program_files/bytes_file.h"
+
+namespace {
+
+using program_files::BytesFile;
+using program_files::CheckProgram;
+using program_files::CountLines;
+using program_files::LineReader;
+using program_files::ToneProgram;
+
+constexpr std::int32_t kLines = 1999;
+
+std::string LongestProgram() {
+  std::string bytes = "%valid%\r\n[info]\r\n{236}\r\n{Long}\r\n{visible}\r\n[sound]\r\n{10}\r\n";
+  for (std::int32_t line = 8; line < kLines; line += 2) {
+    bytes += "<" + std::to_string(16 * line) + ">\r\n\\" + std::to_string(line) + "\r\n";
+  }
+  return bytes;
+}
+
+void ReadLines(const std::string& bytes, ToneProgram& program) {
+  BytesFile file(bytes);
+  LineReader reader(file, bytes.size());
+  std::int16_t n = 0;
+  while (auto line = reader.Next()) program.lines[++n] = *std::move(line);
+}
+
+std::int32_t LinesOf(const std::string& bytes) {
+  BytesFile file(bytes);
+  return CountLines(file, kLines + 1);
+}
+
+// The baseline: no copy, no check, no other line end than CR LF.
+void CutIntoLines(benchmark::State& state) {
+  const std::string bytes = LongestProgram();
+  std::vector<std::string_view> lines;
+  for (auto _ : state) {
+    lines.clear();
+    for (std::size_t at = 0; at < bytes.size();) {
+      const std::size_t end = bytes.find("\r\n", at);
+      lines.push_back(std::string_view(bytes).substr(at, end - at));
+      at = end + 2;
+    }
+    benchmark::DoNotOptimize(lines.data());
+  }
+  if (lines.size() != kLines) state.SkipWithError("not 1,999 lines");
+}
+BENCHMARK(CutIntoLines)->Unit(benchmark::kMicrosecond);
+
+void FirstPass(benchmark::State& state) {
+  const std::string bytes = LongestProgram();
+  ToneProgram program;
+  for (auto _ : state) ReadLines(bytes, program);
+}
+BENCHMARK(FirstPass)->Unit(benchmark::kMicrosecond);
+
+void SecondPass(benchmark::State& state) {
+  const std::string bytes = LongestProgram();
+  std::int32_t lines = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(lines = LinesOf(bytes));
+  if (lines != kLines) state.SkipWithError("not 1,999 lines");
+}
+BENCHMARK(SecondPass)->Unit(benchmark::kMicrosecond);
+
+void WholeProgram(benchmark::State& state) {
+  const std::string bytes = LongestProgram();
+  std::int16_t tones = 0;
+  for (auto _ : state) {
+    ToneProgram program;
+    ReadLines(bytes, program);
+    if (!CheckProgram(program, LinesOf(bytes)).empty()) state.SkipWithError("a check failed");
+    tones = program.tone_count;
+  }
+  if (tones != 996) state.SkipWithError("not 996 tones");
+}
+BENCHMARK(WholeProgram)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
