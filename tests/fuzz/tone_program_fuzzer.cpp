@@ -1,6 +1,7 @@
 // Any bytes as a tone program file. What must hold whatever they are is checked here, and a process
 // that breaks it ends with a message; memory, time and undefined behaviour are the sanitizers' and
 // libFuzzer's business. The corpus holds plain .tnf files, so that a finding opens in an editor.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -10,14 +11,12 @@
 #include <vector>
 
 #include "base/errors.h"
-#include "program_files/line_reader.h"
 #include "program_files/tone_program.h"
 #include "tests/program_files/bytes_file.h"
+#include "tests/program_files/programs.h"
 
 namespace program_files {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 constexpr std::int32_t kMostLines = 2000;  // that the player's table takes
 constexpr std::int16_t kLimit = 32000;     // of pitches, durations and the extra time
@@ -26,19 +25,6 @@ void Require(bool holds, const char* what) {
   if (holds) return;
   std::fprintf(stderr, "broken: %s\n", what);
   std::abort();
-}
-
-Lines ReadLines(std::string_view bytes, std::size_t most_at_once) {
-  BytesFile file(bytes, most_at_once);
-  LineReader reader(file, bytes.size());
-  Lines lines;
-  while (auto line = reader.Next()) lines.push_back(*std::move(line));
-  return lines;
-}
-
-std::int32_t Count(std::string_view bytes, std::int32_t most) {
-  BytesFile file(bytes);
-  return CountLines(file, most);
 }
 
 // The rule of line ends, byte by byte.
@@ -56,21 +42,17 @@ Lines PlainlySplit(std::string_view bytes) {
 
 void CheckLines(std::string_view bytes, const Lines& lines) {
   Require(lines == PlainlySplit(bytes), "the lines are those between the line ends");
-  Require(lines == ReadLines(bytes, 1 + bytes.size() % 9),
+  // Down to a byte, yet no endless reading.
+  Require(lines == LinesIn(BytesFile(bytes, 1 + bytes.size() / 64)),
           "the lines do not depend on how the file is read");
   const auto count = static_cast<std::int32_t>(lines.size());
-  Require(Count(bytes, count + 1) == count, "both passes see as many lines");
-  Require(Count(bytes, count / 2) == count / 2, "the count ends where it may end");
+  Require(CountIn(bytes, count + 1) == count, "both passes see as many lines");
+  Require(CountIn(bytes, count / 2) == count / 2, "the count ends where it may end");
 }
 
 ToneProgram Filled(const Lines& lines) {
-  ToneProgram program;
-  std::int16_t n = 0;
-  for (const std::string& line : lines) {
-    if (n == kMostLines) break;
-    program.lines[++n] = line;
-  }
-  return program;
+  const auto kept = std::min(lines.size(), static_cast<std::size_t>(kMostLines));
+  return ProgramOf(Lines(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(kept)));
 }
 
 // Checks that ended early may leave a pitch without its tone.
@@ -128,8 +110,8 @@ void CheckLegalProgram(const ToneProgram& program, std::int32_t lines) {
   }
   if (!CanBeWritten(program)) return;
   const std::string bytes = Written(program);
-  ToneProgram again = Filled(ReadLines(bytes, bytes.size()));
-  Require(CheckProgram(again, Count(bytes, kMostLines)).empty(), "written again, it is legal");
+  ToneProgram again = Filled(LinesIn(BytesFile(bytes)));
+  Require(CheckProgram(again, CountIn(bytes, kMostLines)).empty(), "written again, it is legal");
   Require(again.hidden_flag == program.hidden_flag && again.tone_count == program.tone_count &&
               again.extra_time_ms == program.extra_time_ms && again.pitch_hz == program.pitch_hz &&
               again.duration_ms == program.duration_ms,
@@ -167,7 +149,7 @@ std::int32_t OtherCount(std::int32_t count) {
 }
 
 void CheckFile(std::string_view bytes) {
-  const Lines lines = ReadLines(bytes, bytes.size());
+  const Lines lines = LinesIn(BytesFile(bytes));
   CheckLines(bytes, lines);
   const auto count = static_cast<std::int32_t>(lines.size());
   CheckChangedFile(lines, OtherCount(count));

@@ -1,13 +1,18 @@
-// Bytes as a file: for what reads a file without needing a file system.
+// Bytes as a file, without a file system, and both passes over it.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <span>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/files.h"
+#include "program_files/line_reader.h"
 
 namespace program_files {
 
@@ -29,5 +34,19 @@ class BytesFile : public platform::InputFile {
   std::string_view bytes_;
   std::size_t most_at_once_;
 };
+
+// The first pass over a file.
+inline std::vector<std::string> LinesIn(BytesFile file) {
+  LineReader reader(file, std::numeric_limits<std::size_t>::max());
+  std::vector<std::string> lines;
+  while (auto line = reader.Next()) lines.push_back(*std::move(line));
+  return lines;
+}
+
+// The second pass.
+inline std::int32_t CountIn(std::string_view bytes, std::int32_t most) {
+  BytesFile file(bytes);
+  return CountLines(file, most);
+}
 
 }  // namespace program_files

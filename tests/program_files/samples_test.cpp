@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "program_files/line_reader.h"
 #include "program_files/tone_program.h"
 #include "tests/program_files/bytes_file.h"
+#include "tests/program_files/programs.h"
 
 namespace program_files {
 namespace {
@@ -21,10 +21,7 @@ namespace {
 constexpr int kExtraTimeMs = 10;
 constexpr int kRestHz = 22050;
 
-struct Tone {
-  int pitch_hz;
-  int duration_ms;
-};
+using Tone = Tones::value_type;
 
 struct Sample {
   std::string file;
@@ -57,36 +54,26 @@ struct Parsed {
   ToneProgram program;
   std::vector<Report> reports;
   std::int32_t lines = 0;
-
-  std::vector<Tone> Tones() const {
-    std::vector<Tone> tones;
-    for (std::int16_t k = 1; k <= program.tone_count; ++k) {
-      tones.push_back({program.pitch_hz[k], program.duration_ms[k]});
-    }
-    return tones;
-  }
-
-  // What is heard: every pitch but rests.
-  std::vector<int> Pitches() const {
-    std::vector<int> pitches;
-    for (const Tone& tone : Tones()) {
-      if (tone.pitch_hz != kRestHz) pitches.push_back(tone.pitch_hz);
-    }
-    return pitches;
-  }
 };
 
 Parsed Parse(const std::string& name) {
   const std::string bytes = Bytes(name);
-  Parsed parsed;
-  BytesFile first_pass(bytes);
-  LineReader reader(first_pass, bytes.size());
-  std::int16_t n = 0;
-  while (const auto line = reader.Next()) parsed.program.lines[++n] = *line;
-  BytesFile second_pass(bytes);
-  parsed.lines = CountLines(second_pass, 1999);
+  Parsed parsed{ProgramOf(LinesIn(BytesFile(bytes))), {}, CountIn(bytes, 1999)};
   parsed.reports = CheckProgram(parsed.program, parsed.lines);
   return parsed;
+}
+
+Tones TonesIn(const std::string& name) {
+  return TonesOf(Parse(name).program);
+}
+
+// Every pitch but rests.
+std::vector<int> PitchesIn(const std::string& name) {
+  std::vector<int> pitches;
+  for (const auto& [pitch_hz, duration_ms] : TonesIn(name)) {
+    if (pitch_hz != kRestHz) pitches.push_back(pitch_hz);
+  }
+  return pitches;
 }
 
 TEST(SamplesTest, TheFolderHoldsTheseEight) {
@@ -109,14 +96,12 @@ TEST(SamplesTest, NoCheckFailsAndTheTonesAreTheExpectedOnes) {
     EXPECT_EQ(parsed.program.hidden_flag, 0);
     EXPECT_EQ(parsed.program.extra_time_ms, kExtraTimeMs);
     ASSERT_EQ(parsed.program.tone_count, sample.tones);
-    const std::vector<Tone> tones = parsed.Tones();
-    EXPECT_EQ(tones.front().pitch_hz, sample.first.pitch_hz);
-    EXPECT_EQ(tones.front().duration_ms, sample.first.duration_ms);
-    EXPECT_EQ(tones.back().pitch_hz, sample.last.pitch_hz);
-    EXPECT_EQ(tones.back().duration_ms, sample.last.duration_ms);
-    const int length_ms = std::accumulate(
-        tones.begin(), tones.end(), 0,
-        [](int sum, const Tone& tone) { return sum + tone.duration_ms + kExtraTimeMs; });
+    const Tones tones = TonesOf(parsed.program);
+    EXPECT_EQ(tones.front(), sample.first);
+    EXPECT_EQ(tones.back(), sample.last);
+    const int length_ms =
+        std::accumulate(tones.begin(), tones.end(), 0,
+                        [](int sum, const Tone& tone) { return sum + tone.second + kExtraTimeMs; });
     EXPECT_EQ(length_ms, sample.length_ms);
   }
 }
@@ -149,7 +134,7 @@ TEST(SamplesTest, EveryOneHasANameOfItsOwn) {
 TEST(SamplesTest, NothingBetweenHearingAndHalfTheSamplingRateNorBelowASmallLoudspeaker) {
   for (const Sample& sample : kSamples) {
     SCOPED_TRACE(sample.file);
-    for (const int pitch_hz : Parse(sample.file).Pitches()) {
+    for (const int pitch_hz : PitchesIn(sample.file)) {
       EXPECT_GE(pitch_hz, 200);
       EXPECT_LE(pitch_hz, 20000);
     }
@@ -161,7 +146,7 @@ TEST(SamplesTest, NotesAreWithinHalfAHertzOfEqualTemperament) {
   for (const std::string name : {"auld-lang-syne.tnf", "glissando.tnf", "ode-to-joy.tnf",
                                  "scale.tnf", "westminster-chimes.tnf"}) {
     SCOPED_TRACE(name);
-    for (const int pitch_hz : Parse(name).Pitches()) {
+    for (const int pitch_hz : PitchesIn(name)) {
       const double semitone = std::round(12 * std::log2(pitch_hz / 440.0));
       EXPECT_NEAR(440 * std::exp2(semitone / 12), pitch_hz, 0.5);
     }
@@ -169,39 +154,35 @@ TEST(SamplesTest, NotesAreWithinHalfAHertzOfEqualTemperament) {
 }
 
 TEST(SamplesTest, TheScaleGoesUpAndDown) {
-  EXPECT_EQ(Parse("scale.tnf").Pitches(), (std::vector{523, 587, 659, 698, 784, 880, 988, 1047, 988,
-                                                       880, 784, 698, 659, 587, 523}));
+  EXPECT_EQ(PitchesIn("scale.tnf"), (std::vector{523, 587, 659, 698, 784, 880, 988, 1047, 988, 880,
+                                                 784, 698, 659, 587, 523}));
 }
 
 TEST(SamplesTest, TheChimesAreTheFourChangesAndTheHour) {
-  EXPECT_EQ(Parse("westminster-chimes.tnf").Pitches(),
+  EXPECT_EQ(PitchesIn("westminster-chimes.tnf"),
             (std::vector{659, 831, 740, 494, 659, 740, 831, 659, 831, 659, 740, 494, 494, 740, 831,
                          659, 330, 330, 330}));
 }
 
 // E E F G  G F E D  C C D E  E. D D, with a breath before a repeated note; a beat is 450 ms.
 TEST(SamplesTest, OdeToJoyBeginsInItsRhythm) {
-  const std::vector<Tone> tones = Parse("ode-to-joy.tnf").Tones();
-  const std::array expected{Tone{659, 390}, Tone{kRestHz, 60}, Tone{659, 450},    Tone{698, 450},
-                            Tone{784, 390}, Tone{kRestHz, 60}, Tone{784, 450},    Tone{698, 450},
-                            Tone{659, 450}, Tone{587, 450},    Tone{523, 390},    Tone{kRestHz, 60},
-                            Tone{523, 450}, Tone{587, 450},    Tone{659, 390},    Tone{kRestHz, 60},
-                            Tone{659, 675}, Tone{587, 165},    Tone{kRestHz, 60}, Tone{587, 900}};
+  const Tones expected{{659, 380},    {kRestHz, 50}, {659, 440}, {698, 440},    {784, 380},
+                       {kRestHz, 50}, {784, 440},    {698, 440}, {659, 440},    {587, 440},
+                       {523, 380},    {kRestHz, 50}, {523, 440}, {587, 440},    {659, 380},
+                       {kRestHz, 50}, {659, 665},    {587, 155}, {kRestHz, 50}, {587, 890}};
+  Tones tones = TonesIn("ode-to-joy.tnf");
   ASSERT_GE(tones.size(), expected.size());
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(tones[i].pitch_hz, expected[i].pitch_hz) << "tone " << i + 1;
-    EXPECT_EQ(tones[i].duration_ms + kExtraTimeMs, expected[i].duration_ms) << "tone " << i + 1;
-  }
+  tones.resize(expected.size());
+  EXPECT_EQ(tones, expected);
 }
 
 // Two notes of the same pitch without a rest between them would be heard as one.
 TEST(SamplesTest, NoNoteRunsIntoItsOwnRepetition) {
   for (const Sample& sample : kSamples) {
-    const std::vector<Tone> tones = Parse(sample.file).Tones();
-    EXPECT_EQ(
-        std::adjacent_find(tones.begin(), tones.end(),
-                           [](const Tone& a, const Tone& b) { return a.pitch_hz == b.pitch_hz; }),
-        tones.end())
+    const Tones tones = TonesIn(sample.file);
+    EXPECT_EQ(std::adjacent_find(tones.begin(), tones.end(),
+                                 [](const Tone& a, const Tone& b) { return a.first == b.first; }),
+              tones.end())
         << sample.file;
   }
 }
