@@ -50,6 +50,18 @@ std::string Bytes(const std::string& name) {
   return content.str();
 }
 
+// The indented lines under a heading of docs/tone-programs.md.
+Lines ExampleUnder(const std::string& heading) {
+  std::ifstream document(std::string(TONMIRA_DOCUMENTS) + "/tone-programs.md");
+  Lines lines;
+  bool here = false;
+  for (std::string line; std::getline(document, line);) {
+    if (line.starts_with("## ")) here = line == "## " + heading;
+    if (here && line.starts_with("    ")) lines.push_back(line.substr(4));
+  }
+  return lines;
+}
+
 struct Parsed {
   ToneProgram program;
   std::vector<Report> reports;
@@ -185,6 +197,14 @@ TEST(SamplesTest, NoNoteRunsIntoItsOwnRepetition) {
               tones.end())
         << sample.file;
   }
+}
+
+TEST(SamplesTest, TheExampleOfTheDocumentPlaysWhatItSays) {
+  ToneProgram program = ProgramOf(ExampleUnder("A complete file"));
+  EXPECT_TRUE(CheckProgram(program, 15).empty());
+  EXPECT_EQ(program.hidden_flag, 0);
+  EXPECT_EQ(program.extra_time_ms, 10);
+  EXPECT_EQ(TonesOf(program), (Tones{{523, 390}, {659, 390}, {kRestHz, 390}, {784, 790}}));
 }
 
 }  // namespace

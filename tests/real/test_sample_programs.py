@@ -1,0 +1,59 @@
+"""The tone programs that ship with the program, and the rests in them, as they are heard."""
+
+from pathlib import Path
+
+import pytest
+
+from bench import PROGRAM, PROJECT, Bench, wait_for
+from sound import Recorder
+from tone_programs import Heard, file_of, open_file, tones_in
+from window import Driver
+
+SCALE = [523, 587, 659, 698, 784, 880, 988, 1047, 988, 880, 784, 698, 659, 587, 523]
+REST_HZ = 22050
+
+
+def hear(bench: Bench, driver: Driver, recorder: Recorder, path: Path, sound_bit: str,
+         wanted: list[int]) -> list[Heard]:
+    """What a whole play sounds like; taken once more when it is not what is wanted."""
+    heard: list[Heard] = []
+    for _ in range(2):
+        recorder.wait_for_silence()
+        first = recorder.frames()
+        program = open_file(bench, driver, path, sound_bit=sound_bit)
+        try:
+            player = program.window()
+            wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", 60)
+            recorder.record(0.5)
+        finally:
+            program.finish()
+        heard = tones_in(recorder.samples(first))
+        if [round(tone.pitch_hz) for tone in heard] == wanted:
+            break
+    return heard
+
+
+def test_they_ship_as_they_are() -> None:
+    def contents(folder: Path) -> dict[str, bytes]:
+        return {path.name: path.read_bytes() for path in folder.iterdir()}
+
+    samples = contents(PROJECT / "resources" / "samples")
+    assert len(samples) == 8
+    assert contents(PROGRAM.parent / "samples") == samples
+
+
+def test_the_scale_is_heard_up_and_down(bench: Bench, driver: Driver, recorder: Recorder) -> None:
+    path = PROGRAM.parent / "samples" / "scale.tnf"
+    heard = hear(bench, driver, recorder, path, "256", SCALE)
+    assert [tone.pitch_hz for tone in heard] == pytest.approx(SCALE, rel=1e-3)
+
+
+@pytest.mark.parametrize("sound_bit", ["256", "32"])
+def test_a_rest_is_silent_for_its_time(bench: Bench, driver: Driver, recorder: Recorder,
+                                       sound_bit: str) -> None:
+    path = bench.new_folder("tones") / "rest.tnf"
+    path.write_bytes(file_of([(659, 600), (REST_HZ, 600), (784, 600)], extra_ms=10))
+    heard = hear(bench, driver, recorder, path, sound_bit, [659, 784])
+    assert [tone.pitch_hz for tone in heard] == pytest.approx([659, 784], rel=1e-3)
+    pause_s = heard[1].start_s - heard[0].start_s - heard[0].length_s
+    assert 0.5 < pause_s < 2.5
