@@ -27,7 +27,7 @@ SEMITONES = {"C": 0, "C#": 1, "D": 2, "D#": 3, "E": 4, "F": 5, "F#": 6, "G": 7, 
 Tone = tuple[int, int]  # Hz, ms
 
 
-def above_a4(semitones: float) -> int:
+def above_a4(semitones: int) -> int:
     return round(440 * 2 ** (semitones / 12))
 
 
@@ -83,10 +83,7 @@ def westminster_chimes() -> list[Tone]:
 
 
 def siren() -> list[Tone]:
-    """Three wails in quarter tones between C5 and D6."""
-    rise = [above_a4(3 + quarter_tone / 2) for quarter_tone in range(29)]
-    wail = rise + rise[-2:0:-1]
-    return [(hz, 60) for hz in 3 * wail + rise[:1]]
+    return melody(700, 8 * "A4 D5 ")
 
 
 def telephone() -> list[Tone]:
@@ -115,7 +112,7 @@ SAMPLES = {
     "ode-to-joy": ("Ode to Joy (Ludwig van Beethoven)", ode_to_joy),
     "auld-lang-syne": ("Auld Lang Syne (Scottish air)", auld_lang_syne),
     "westminster-chimes": ("Westminster chimes at three o'clock", westminster_chimes),
-    "siren": ("Siren", siren),
+    "siren": ("Siren, two tones a fourth apart", siren),
     "telephone": ("Telephone ringing three times", telephone),
     "hearing-sweep": ("Hearing sweep, 8000 Hz to 20000 Hz", hearing_sweep),
     "glissando": ("Glissando over three octaves", glissando),

@@ -38,7 +38,7 @@ const std::array kSamples{
     Sample{"hearing-sweep.tnf", 65, 29, {1000, 990}, {1000, 990}, 22000},
     Sample{"ode-to-joy.tnf", 159, 76, {659, 380}, {523, 890}, 28800},
     Sample{"scale.tnf", 37, 15, {523, 390}, {523, 790}, 6800},
-    Sample{"siren.tnf", 345, 169, {523, 50}, {523, 50}, 10140},
+    Sample{"siren.tnf", 39, 16, {440, 690}, {587, 690}, 11200},
     Sample{"telephone.tnf", 113, 53, {1000, 40}, {1250, 40}, 7000},
     Sample{"westminster-chimes.tnf", 57, 25, {659, 590}, {330, 1190}, 19200},
 };
@@ -139,8 +139,8 @@ TEST(SamplesTest, EveryOneHasANameOfItsOwn) {
             (std::vector<std::string>{
                 "{Auld Lang Syne (Scottish air)}", "{Glissando over three octaves}",
                 "{Hearing sweep, 8000 Hz to 20000 Hz}", "{Ode to Joy (Ludwig van Beethoven)}",
-                "{C major scale, up and down}", "{Siren}", "{Telephone ringing three times}",
-                "{Westminster chimes at three o'clock}"}));
+                "{C major scale, up and down}", "{Siren, two tones a fourth apart}",
+                "{Telephone ringing three times}", "{Westminster chimes at three o'clock}"}));
 }
 
 TEST(SamplesTest, NothingBetweenHearingAndHalfTheSamplingRateNorBelowASmallLoudspeaker) {
@@ -156,7 +156,7 @@ TEST(SamplesTest, NothingBetweenHearingAndHalfTheSamplingRateNorBelowASmallLouds
 // Twelve equal steps to the octave from A4 = 440 Hz; a pitch is the nearest whole Hz.
 TEST(SamplesTest, NotesAreWithinHalfAHertzOfEqualTemperament) {
   for (const std::string name : {"auld-lang-syne.tnf", "glissando.tnf", "ode-to-joy.tnf",
-                                 "scale.tnf", "westminster-chimes.tnf"}) {
+                                 "scale.tnf", "siren.tnf", "westminster-chimes.tnf"}) {
     SCOPED_TRACE(name);
     for (const int pitch_hz : PitchesIn(name)) {
       const double semitone = std::round(12 * std::log2(pitch_hz / 440.0));
