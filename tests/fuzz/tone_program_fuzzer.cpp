@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/errors.h"
+#include "program_files/line_reader.h"
 #include "program_files/tone_program.h"
 #include "tests/program_files/bytes_file.h"
 #include "tests/program_files/programs.h"
@@ -40,11 +41,27 @@ Lines PlainlySplit(std::string_view bytes) {
   return lines;
 }
 
+bool HandsOut(std::string_view bytes, std::size_t most_bytes) {
+  BytesFile file(bytes);
+  LineReader reader(file, most_bytes);
+  try {
+    while (reader.Next()) continue;
+  } catch (const base::RuntimeError& error) {
+    Require(error.code() == base::ErrorCode::kOutOfMemory, "too much text is an error of its own");
+    return false;
+  }
+  return true;
+}
+
 void CheckLines(std::string_view bytes, const Lines& lines) {
   Require(lines == PlainlySplit(bytes), "the lines are those between the line ends");
   // Down to a byte, yet no endless reading.
   Require(lines == LinesIn(BytesFile(bytes, 1 + bytes.size() / 64)),
           "the lines do not depend on how the file is read");
+  std::size_t text = 0;
+  for (const std::string& line : lines) text += line.size();
+  Require(HandsOut(bytes, text), "as much text as may be is handed out");
+  Require(text == 0 || !HandsOut(bytes, text - 1), "and no more");
   const auto count = static_cast<std::int32_t>(lines.size());
   Require(CountIn(bytes, count + 1) == count, "both passes see as many lines");
   Require(CountIn(bytes, count / 2) == count / 2, "the count ends where it may end");
