@@ -1,0 +1,70 @@
+#include "online/addresses.h"
+
+#include <algorithm>
+
+namespace online {
+namespace {
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool IsLetterOrDigit(char c) {
+  return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+char Lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+// Takes `beginning`, in lower case, off `text`, whatever the case there.
+bool TakeOff(std::string_view& text, std::string_view beginning) {
+  const bool begins = text.size() >= beginning.size() &&
+                      std::equal(beginning.begin(), beginning.end(), text.begin(),
+                                 [](char a, char b) { return a == Lower(b); });
+  if (begins) text.remove_prefix(beginning.size());
+  return begins;
+}
+
+bool IsHost(std::string_view text) {
+  return !text.empty() && IsLetterOrDigit(text.front()) && IsLetterOrDigit(text.back()) &&
+         text.find("..") == std::string_view::npos &&
+         std::all_of(text.begin(), text.end(),
+                     [](char c) { return IsLetterOrDigit(c) || c == '-' || c == '.'; });
+}
+
+bool IsPort(std::string_view text) {
+  constexpr std::size_t kMostDigits = 5;
+  constexpr int kHighest = 65535;
+  if (text.empty() || text.size() > kMostDigits) return false;
+  int port = 0;
+  for (const char c : text) {
+    if (!IsDigit(c)) return false;
+    port = port * 10 + (c - '0');
+  }
+  return port >= 1 && port <= kHighest;
+}
+
+bool IsFolder(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) {
+    return IsLetterOrDigit(c) || std::string_view("/-._~").find(c) != std::string_view::npos;
+  });
+}
+
+bool IsBase(std::string_view text) {
+  if (!TakeOff(text, "http://") && !TakeOff(text, "https://")) return false;
+  const std::string_view authority = text.substr(0, text.find('/'));
+  const std::size_t colon = authority.find(':');
+  return IsHost(authority.substr(0, colon)) &&
+         (colon == std::string_view::npos || IsPort(authority.substr(colon + 1))) &&
+         IsFolder(text.substr(authority.size()));
+}
+
+}  // namespace
+
+std::string SiteBase(std::string_view named) {
+  if (named.size() > kLongestSite || !IsBase(named)) return kBuiltInSite;
+  return std::string(named.substr(0, named.find_last_not_of('/') + 1));
+}
+
+}  // namespace online
