@@ -1,0 +1,24 @@
+"""What the tests of the site stand on: the site, served, and a browser."""
+
+import sys
+from collections.abc import Iterator
+from pathlib import Path
+
+import pytest
+
+sys.path.append(str(Path(__file__).resolve().parents[1] / "real"))
+
+from browser import Browser, chromium  # noqa: E402
+from served_site import ServedSite, served_site  # noqa: E402
+
+
+@pytest.fixture(scope="session")
+def browser(tmp_path_factory: pytest.TempPathFactory) -> Iterator[Browser]:
+    with chromium(tmp_path_factory.mktemp("browser")) as browser:
+        yield browser
+
+
+@pytest.fixture
+def site(tmp_path: Path) -> Iterator[ServedSite]:
+    with served_site(tmp_path) as site:
+        yield site
