@@ -26,6 +26,11 @@ bool TakeOff(std::string_view& text, std::string_view beginning) {
   return begins;
 }
 
+// What stands before the first `mark`, or everything.
+std::string_view Until(std::string_view text, char mark) {
+  return {text.data(), std::min(text.find(mark), text.size())};
+}
+
 bool IsHost(std::string_view text) {
   return !text.empty() && IsLetterOrDigit(text.front()) && IsLetterOrDigit(text.back()) &&
          text.find("..") == std::string_view::npos &&
@@ -53,18 +58,20 @@ bool IsFolder(std::string_view text) {
 
 bool IsBase(std::string_view text) {
   if (!TakeOff(text, "http://") && !TakeOff(text, "https://")) return false;
-  const std::string_view authority = text.substr(0, text.find('/'));
-  const std::size_t colon = authority.find(':');
-  return IsHost(authority.substr(0, colon)) &&
-         (colon == std::string_view::npos || IsPort(authority.substr(colon + 1))) &&
-         IsFolder(text.substr(authority.size()));
+  const std::string_view authority = Until(text, '/');
+  const std::string_view host = Until(authority, ':');
+  std::string_view port = authority;
+  port.remove_prefix(host.size());
+  text.remove_prefix(authority.size());
+  return IsHost(host) && (port.empty() || (TakeOff(port, ":") && IsPort(port))) && IsFolder(text);
 }
 
 }  // namespace
 
-std::string SiteBase(std::string_view named) {
+std::string_view SiteBase(std::string_view named) {
   if (named.size() > kLongestSite || !IsBase(named)) return kBuiltInSite;
-  return std::string(named.substr(0, named.find_last_not_of('/') + 1));
+  named.remove_suffix(named.size() - (named.find_last_not_of('/') + 1));
+  return named;
 }
 
 }  // namespace online

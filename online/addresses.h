@@ -14,11 +14,15 @@ inline constexpr char kBuiltInSite[] = "https://www.tonmira.example";
 inline constexpr char kSiteVariable[] = "TONMIRA_SITE";
 inline constexpr std::size_t kLongestSite = 200;  // characters
 
+// The folder below the base where an upload is put.
+inline constexpr char kUploadFolder[] = "/usage/";
+
 // The base that `named`, the value of TONMIRA_SITE, gives, without a slash at its end. A base is
 // http or https, a host name or IPv4 address, a port where wanted and a folder where wanted, e.g.
 // "http://127.0.0.1:8080/tonmira/", of letters, digits and "-._~" alone. Anything else, be it
-// empty, too long, with a user name, a query or a blank, gives kBuiltInSite.
-std::string SiteBase(std::string_view named);
+// empty, too long, with a user name, a query or a blank, gives kBuiltInSite. The result lies in
+// `named` or in kBuiltInSite; nothing is allocated.
+std::string_view SiteBase(std::string_view named);
 
 class Addresses {
  public:
@@ -33,7 +37,7 @@ class Addresses {
   std::string ConnectionTest() const { return base_ + "/testcon.dat"; }
 
   // Where an upload is put; its name is added.
-  std::string Uploads() const { return base_ + "/usage/"; }
+  std::string Uploads() const { return base_ + kUploadFolder; }
 
  private:
   std::string base_;
