@@ -6,7 +6,9 @@
 //   start EXE FOLDER TEMP APPDATA     starts EXE in FOLDER with these two variables: process id
 //   launch EXE TITLE TEMP APPDATA     starts EXE and waits for its visible window: ms, process id
 //   adopt PID                         counts a running program among those started here
+//   set NAME VALUE                    sets a variable for the programs started from then on
 //   running PID                       1 or 0
+//   exit PID                          the exit code of a program that has ended
 //   handles PID                       number of open handles
 //   end PID                           ends a process that this program started
 //   windows                           handle, process, class, visible, x, y, width, height, title
@@ -337,6 +339,16 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
        [](const Fields& f) {
          std::cout << HandlesOf(static_cast<DWORD>(std::stoul(f.at(1)))) << '\n';
        }},
+      {"set",
+       [](const Fields& f) {
+         SetEnvironmentVariableW(Wide(f.at(1)).c_str(), Wide(f.at(2)).c_str());
+       }},
+      {"exit",
+       [&](const Fields& f) {
+         DWORD code = 0;
+         GetExitCodeProcess(programs.Get(f.at(1)), &code);
+         std::cout << code << '\n';
+       }},
       {"end", [&](const Fields& f) { TerminateProcess(programs.Get(f.at(1)), 1); }},
       {"windows", [](const Fields&) { EnumWindows(PrintWindow, 0); }},
       {"controls", [](const Fields& f) { EnumChildWindows(Window(f.at(1)), PrintControl, 0); }},
@@ -387,5 +399,4 @@ int main() {
       std::cout << "error " << failure.what() << std::endl;
     }
   }
-  return 0;
 }
