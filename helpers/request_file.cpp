@@ -3,25 +3,18 @@
 #include <array>
 #include <string_view>
 
+#include "helpers/environment.h"
 #include "helpers/request.h"
-#include "platform/windows/handles.h"
 #include "platform/windows/windows_api.h"
 
 namespace helpers {
 
-using platform::windows::KernelHandle;
-
-RequestFile::RequestFile()
-    : path_(WideText::FilledBy([](wchar_t* space, std::size_t size) {
-        return GetEnvironmentVariableW(L"TEMP", space, static_cast<DWORD>(size));
-      })) {
+RequestFile::RequestFile() : path_(EnvironmentVariable(L"TEMP")) {
   path_.Append(L"\\sound.ini");
 }
 
 std::optional<std::uint32_t> RequestFile::Read() const {
-  const KernelHandle file = platform::windows::Own(CreateFileW(
-      path_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  const platform::windows::KernelHandle file = OpenToRead(path_, FILE_ATTRIBUTE_NORMAL);
   // One character more than a line may have, so that a longer one is seen to be longer.
   std::array<char, kLongestLine + 1> text;
   DWORD size = 0;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "helpers/environment.h"
 #include "helpers/request_file.h"
 #include "helpers/tone_player.h"
 #include "platform/windows/windows_api.h"
@@ -13,12 +14,6 @@ constexpr int kNoRequest = 1;
 constexpr helpers::AtTop kAtTop =
     TONMIRA_ENDS_AT_TOP ? helpers::AtTop::kEnd : helpers::AtTop::kStaySilent;
 
-// The system shows a busy pointer until a program first asks for its messages.
-void EndBusyPointer() {
-  MSG message;
-  PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
-}
-
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
@@ -26,7 +21,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
   const helpers::RequestFile file;
   const std::optional<std::uint32_t> request = file.Read();
   if (!request) return kNoRequest;
-  EndBusyPointer();
+  helpers::EndBusyPointer();
   SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_TIME_CRITICAL);
   helpers::TonePlayer(file, *request, kAtTop).Run();
   return 0;

@@ -12,4 +12,12 @@ WideText& WideText::Append(std::wstring_view more) {
   return *this;
 }
 
+WideText& WideText::AppendAscii(std::string_view more) {
+  for (const char c : more) {
+    const wchar_t wide = static_cast<unsigned char>(c);
+    Append({&wide, 1});
+  }
+  return *this;
+}
+
 }  // namespace helpers

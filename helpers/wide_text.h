@@ -25,6 +25,7 @@ class WideText {
   }
 
   WideText& Append(std::wstring_view more);
+  WideText& AppendAscii(std::string_view more);
 
   bool empty() const { return size_ == 0; }
   wchar_t* data() { return characters_.data(); }

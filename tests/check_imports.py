@@ -1,7 +1,7 @@
-"""Fails when the i686 program imports anything that Windows 2000 does not have.
+"""Fails when an i686 program imports anything that Windows 2000 does not have.
 
-Reads the import table of build/windows-x86/tonmira/tonmira.exe and compares it with the written
-list nt5_imports.txt; also reads the lowest system version that the file's header asks for.
+Reads the import tables of the programs in build/windows-x86/tonmira and compares them with the
+written list nt5_imports.txt; also reads the lowest system version that each file's header asks for.
 """
 
 import re
@@ -10,7 +10,8 @@ import sys
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[1]
-PROGRAM = PROJECT / "build" / "windows-x86" / "tonmira" / "tonmira.exe"
+FOLDER = PROJECT / "build" / "windows-x86" / "tonmira"
+PROGRAMS = ["tonmira.exe", "play16.exe", "tone16.dll", "tone32.dll", "upsend.exe"]
 LIST = PROJECT / "tests" / "nt5_imports.txt"
 OBJDUMP = "i686-w64-mingw32-objdump"
 
@@ -45,21 +46,28 @@ def subsystem_version(dump: str) -> tuple[int, int]:
     return major, minor
 
 
-def main() -> int:
-    dump = subprocess.run([OBJDUMP, "-p", PROGRAM], check=True, stdout=subprocess.PIPE,
+def check(name: str, allowed: set[tuple[str, str]]) -> list[str]:
+    """What is to be complained of about a program."""
+    dump = subprocess.run([OBJDUMP, "-p", FOLDER / name], check=True, stdout=subprocess.PIPE,
                           text=True).stdout
     found = imports(dump)
     version = subsystem_version(dump)
-    complaints = [f"{library} {name} is not known to be in Windows 2000"
-                  for library, name in sorted(found - allowed_imports(LIST.read_text()))]
+    complaints = [f"{name}: {library} {function} is not known to be in Windows 2000"
+                  for library, function in sorted(found - allowed)]
     if len(found) < 20:
-        complaints.append(f"only {len(found)} imports were read: is the table understood?")
+        complaints.append(f"{name}: only {len(found)} imports were read: is the table understood?")
     if version > (5, 0):
-        complaints.append(f"the header asks for system version {version[0]}.{version[1]}")
+        complaints.append(f"{name}: the header asks for system version {version[0]}.{version[1]}")
+    print(f"{name}: {len(found)} imports of {len({library for library, _ in found})} libraries")
+    return complaints
+
+
+def main() -> int:
+    allowed = allowed_imports(LIST.read_text())
+    complaints = [complaint for name in PROGRAMS for complaint in check(name, allowed)]
     for complaint in complaints:
         print(complaint)
-    print(f"{len(found)} imports of {len({library for library, _ in found})} libraries, "
-          f"{len(complaints)} complaints")
+    print(f"{len(PROGRAMS)} programs, {len(complaints)} complaints")
     return 1 if complaints else 0
 
 

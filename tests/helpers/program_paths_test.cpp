@@ -38,6 +38,12 @@ TEST(WideText, EndsWithNul) {
   EXPECT_EQ(std::wstring(text.c_str()), L"C:\\Temp\\sound.ini");
 }
 
+TEST(WideText, TakesAsciiAsWell) {
+  WideText text;
+  text.Append(L"C:\\Temp").AppendAscii("\\error.log").AppendAscii("");
+  EXPECT_EQ(std::wstring(text.c_str()), L"C:\\Temp\\error.log");
+}
+
 TEST(WideText, IsEmptyWhereFillingItFails) {
   EXPECT_EQ(WideText::FilledBy([](wchar_t*, std::size_t) { return std::size_t{0}; }).view(), L"");
   EXPECT_EQ(WideText::FilledBy([](wchar_t*, std::size_t size) { return size + 5; }).view(), L"");

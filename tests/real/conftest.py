@@ -11,7 +11,9 @@ import pytest
 
 from bench import PROGRAM, PROJECT, Bench, command_of
 from program import Folders, Tonmira
+from served_site import ServedSite, served_site
 from sound import Recorder
+from uploading import ACTIVITY, ERROR, Upsend
 from window import Driver, User
 
 SCREENS = PROJECT / "out" / "screens"
@@ -55,6 +57,19 @@ def recorder(bench: Bench) -> Recorder:
 @pytest.fixture
 def folders(bench: Bench) -> Folders:
     return Folders(bench)
+
+
+@pytest.fixture
+def upsend(bench: Bench, driver: Driver, folders: Folders) -> Upsend:
+    (folders.temp / "userdata.txt").write_bytes(ACTIVITY)
+    (folders.temp / "error.log").write_bytes(ERROR)
+    return Upsend(bench, driver, folders)
+
+
+@pytest.fixture
+def site(bench: Bench) -> Iterator[ServedSite]:
+    with served_site(bench.folder) as site:
+        yield site
 
 
 @pytest.fixture
