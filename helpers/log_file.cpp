@@ -9,7 +9,7 @@ namespace {
 
 using FileInfo = BY_HANDLE_FILE_INFORMATION;
 
-constexpr int kAttempts = 20;
+constexpr int kAttempts = 40;
 constexpr DWORD kPauseMs = 50;
 
 // A second name of a file counts as a link, too.

@@ -2,7 +2,6 @@
 
 import os
 import shutil
-import threading
 import time
 from pathlib import Path
 
@@ -119,27 +118,16 @@ def test_folders_with_any_characters_work(
     assert site.received() == {"4711.txt": ACTIVITY}
 
 
-def test_a_log_that_is_rewritten_meanwhile_arrives_whole(
+def test_a_log_that_is_empty_because_it_is_just_rewritten_is_waited_for(
         upsend: Upsend, site: ServedSite) -> None:
     log = upsend.folders.temp / "userdata.txt"
-    versions = [bytes([letter]) * size for letter, size in zip(b"abcdef", (5, 900, 70, 4000, 1, 33))]
-    ended = threading.Event()
-
-    def rewrite() -> None:
-        while not ended.is_set():
-            for version in versions:
-                log.write_bytes(version)
-                time.sleep(0.05)
-
-    writer = threading.Thread(target=rewrite)
-    writer.start()
-    try:
-        upsend.hand_over(upsend.temp + "\\userdata.txt", "4711.txt")
-        assert upsend.run(site.base_url) == SENT
-    finally:
-        ended.set()
-        writer.join()
-    assert site.received()["4711.txt"] in versions
+    log.write_bytes(b"")
+    upsend.hand_over(upsend.temp + "\\userdata.txt", "4711.txt")
+    process = upsend.start(site.base_url)
+    time.sleep(0.6)
+    log.write_bytes(ACTIVITY)
+    assert upsend.wait(process) == SENT
+    assert site.received() == {"4711.txt": ACTIVITY}
 
 
 def test_two_uploads_in_quick_succession_send_one_log_whole_or_each(
