@@ -7,17 +7,21 @@ namespace app {
 
 Application::Application(platform::Platform& platform)
     : form1(platform, *this, CommandLine(platform)),
-      errors(platform, *this),
       form2(platform.windows, [this] { LoadHelpCaptions(); }),
       form4(platform, form1.State(), form1, *this),
-      form5(platform, form1.State(), errors, [this] { UnloadAll(); }),
-      form6(platform.windows, [this] { UnloadAll(); }),
+      form5(platform, form1.State(), errors_, [this] { UnloadAll(); }),
+      form6(
+          platform.windows, [this] { UnloadAll(); }, [this] { VisitSite(); }),
       form8(platform.windows),
+      form3(platform, form1.State(), errors_, form8),
+      form7(platform, errors_),
       form9(platform, form1.State(), form1, *this),
-      frm_about(platform, errors, [this] { LoadAboutCaptions(); }),
-      platform_(platform) {
-  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form4, &form5,
-                                                   &form6, &form8, &form9, &frm_about};
+      frm_about(platform, errors_, [this] { LoadAboutCaptions(); }),
+      platform_(platform),
+      upload_(platform, errors_),
+      errors_(platform, form1.State(), *this, upload_) {
+  const std::initializer_list<ui::Window*> windows{&form1, &form2, &form3, &form4, &form5,
+                                                   &form6, &form7, &form8, &form9, &frm_about};
   for (ui::Window* window : windows) {
     window->OnUntrappedError = [this](const base::RuntimeError& error) { EndAfter(error); };
   }
@@ -36,8 +40,10 @@ void Application::Run() {
 void Application::HideOtherWindows() {
   form1.Hide();
   form2.Hide();
+  form3.Hide();
   form4.Hide();
   form5.Hide();
+  form7.Hide();
   form8.Hide();
   form9.Hide();
   frm_about.Hide();
@@ -45,9 +51,11 @@ void Application::HideOtherWindows() {
 
 void Application::UnloadOtherWindows() {
   form2.Unload();
+  form3.Unload();
   form4.Unload();
   form5.Unload();
   form6.Unload();
+  form7.Unload();
   form8.Unload();
   frm_about.Unload();
 }
@@ -94,6 +102,13 @@ std::string Application::CommandLine(platform::Platform& platform) {
 void Application::UnloadAll() {
   form1.Unload();
   UnloadOtherWindows();
+}
+
+// Nobody could be told of a browser that does not start: this is the error dialog already.
+void Application::VisitSite() {
+  settings::Caught([this] {
+    online::OpenInBrowser(platform_.processes, online::SiteAddresses(platform_.environment).Home());
+  });
 }
 
 // An error that no procedure traps: reporting itself has failed, so all that is left is to say so.

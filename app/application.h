@@ -8,6 +8,9 @@
 #include "app/form2.h"
 #include "app/form8.h"
 #include "morse/form4.h"
+#include "online/form3.h"
+#include "online/form7.h"
+#include "online/upload_hand_over.h"
 #include "platform/platform.h"
 #include "program_files/form9.h"
 #include "settings/form5.h"
@@ -25,12 +28,13 @@ class Application : public OtherWindows,
   void Run();
 
   Form1 form1;
-  settings::ErrorNotes errors;  // for the windows that make no service objects
   Form2 form2;
   morse::Form4 form4;
   settings::Form5 form5;
   settings::Form6 form6;
   Form8 form8;
+  online::Form3 form3;
+  online::Form7 form7;
   program_files::Form9 form9;
   about::frmAbout frm_about;
 
@@ -42,6 +46,12 @@ class Application : public OtherWindows,
   ui::Window& FirstRun() override { return form5; }
   ui::Window& AboutBox() override { return frm_about; }
   program_files::Form9& PlayerWindow() override { return form9; }
+  online::Form3& NewsWindow() override { return form3; }
+  settings::ErrorNotes& Errors() override { return errors_; }
+
+  // online::UpdateScene
+  online::Form7& UpdateDialog() override { return form7; }
+  const lang::Texts& MessageTexts() const override { return form1.MessageTexts(); }
 
   // lang::CaptionScene
   std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval) override;
@@ -71,7 +81,13 @@ class Application : public OtherWindows,
   void UnloadAll();
   void EndAfter(const base::RuntimeError& error);
 
+  void VisitSite();
+
   platform::Platform& platform_;
+
+  // For the windows that report errors of their own.
+  online::UploadHandOver upload_;
+  settings::ErrorNotes errors_;
 };
 
 }  // namespace app

@@ -11,7 +11,7 @@ Form1::Form1(platform::Platform& platform, OtherWindows& others, std::string com
     : Form1Controls(platform.windows),
       platform_(platform),
       others_(others),
-      scene_{*this, others, *this, others, others, sine_animation_},
+      scene_{*this, others, *this, others, others, others, sine_animation_},
       command_line_(std::move(command_line)) {
   ConnectControls();
   ConnectMenu();
@@ -34,6 +34,9 @@ void Form1::ConnectMenu() {
   openfile.OnClick = [this] { openfile_Click(); };
   exit.OnClick = [this] { Exit(); };
   about.OnClick = [this] { ShowAboutBox(); };
+  contact.OnClick = [this] { VisitPage(9, "> Visiting donation page", Site().ContactUs()); };
+  donate.OnClick = [this] { VisitPage(10, "> Visiting donation page", Site().Donate()); };
+  webpage.OnClick = [this] { VisitPage(32, "> Visiting site", Site().Home()); };
   sndautomatic.OnClick = [this] { ChooseSoundMode(27, sndautomatic, "128"); };
   sndclassic.OnClick = [this] { ChooseSoundMode(28, sndclassic, "16"); };
   snddirectsound.OnClick = [this] { ChooseSoundMode(29, snddirectsound, "64"); };
@@ -51,7 +54,7 @@ Form1::ProgramPtr Form1::NewProgram() {
 }
 
 std::shared_ptr<ExFunctions> Form1::NewExFunctions() {
-  ex_functions_ = std::make_shared<ExFunctions>(platform_, state_, *this, *program_);
+  ex_functions_ = std::make_shared<ExFunctions>(platform_, state_, *this, others_.Errors());
   return ex_functions_;
 }
 

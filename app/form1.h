@@ -15,13 +15,18 @@
 #include "display/dx_record.h"
 #include "display/waveform.h"
 #include "lang/texts.h"
+#include "online/form3.h"
+#include "online/links.h"
 #include "platform/platform.h"
 #include "program_files/form9.h"
 
 namespace app {
 
 // The other windows of the program, as the main window reaches them.
-class OtherWindows : public WindowList, public settings::ErrorScene, public lang::CaptionScene {
+class OtherWindows : public WindowList,
+                     public settings::ErrorScene,
+                     public lang::CaptionScene,
+                     public online::UpdateScene {
  public:
   virtual ui::Window& StatusWindow() = 0;  // Form8
   virtual ui::Label& StatusLabel() = 0;    // Form8.Label2
@@ -30,6 +35,8 @@ class OtherWindows : public WindowList, public settings::ErrorScene, public lang
   virtual ui::Window& FirstRun() = 0;      // Form5
   virtual ui::Window& AboutBox() = 0;      // frmAbout
   virtual program_files::Form9& PlayerWindow() = 0;
+  virtual online::Form3& NewsWindow() = 0;
+  virtual settings::ErrorNotes& Errors() = 0;  // for objects that outlive a handler
 };
 
 class Form1 : public Form1Controls,
@@ -48,6 +55,7 @@ class Form1 : public Form1Controls,
   // The captions of this window, by slot of a language file.
   std::vector<lang::CaptionSlot> Captions();
   void UseTexts(const lang::Texts& texts, std::int16_t formval);
+  const lang::Texts& MessageTexts() const { return texts_; }
 
   // Applies the language file of `language` to a window.
   void LoadCaptions(const std::string& language, std::int16_t formval);
@@ -146,6 +154,8 @@ class Form1 : public Form1Controls,
   void ChangeSensitivity(std::int16_t error_value, int step);
   void ShowAboutBox();
   void Exit();
+  online::Addresses Site() const { return online::SiteAddresses(platform_.environment); }
+  void VisitPage(std::int16_t error_value, const std::string& entry, const std::string& address);
 
   platform::Platform& platform_;
   OtherWindows& others_;
@@ -162,6 +172,7 @@ class Form1 : public Form1Controls,
   std::string command_line_file_;
   std::int16_t file_mode_flag_ = 0;
   std::int16_t start_up_flag_ = 0;
+  std::int16_t connection_flag_ = 0;  // 1 = the test file could be fetched at start
   std::int16_t close_attempts_ = 0;
   std::int16_t last_close_answer_ = 0;
   bool stays_hidden_ = false;

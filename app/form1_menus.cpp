@@ -36,6 +36,16 @@ void Form1::Exit() {
   settings::TrapErrors(*NewProgram(), 13, [this] { Unload(); });
 }
 
+// Contact and donations have the same entry.
+void Form1::VisitPage(std::int16_t error_value, const std::string& entry,
+                      const std::string& address) {
+  const ProgramPtr program = NewProgram();
+  settings::TrapErrors(*program, error_value, [&] {
+    program->PrintFile(entry);
+    online::OpenInBrowser(platform_.processes, address);
+  });
+}
+
 void Form1::ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item, const std::string& code) {
   const ProgramPtr program = NewProgram();
   settings::TrapErrors(*program, error_value, [&] {

@@ -15,7 +15,7 @@ constexpr char kDefaultDevice[] = "";
 void Form1::StartCapture() {
   const ProgramPtr program = program_;
   settings::TrapErrors(*program, 33, [&] {
-    DirectSoundRecord = std::make_unique<display::frmDX_Record>(platform_, scene_.errors, *this);
+    DirectSoundRecord = std::make_unique<display::frmDX_Record>(platform_, others_.Errors(), *this);
     DirectSoundRecord->GotWaveData = [this](auto block, auto bits_per_sample, auto channels) {
       DirectSoundRecord_GotWaveData(block, bits_per_sample, channels);
     };

@@ -51,6 +51,7 @@ void Form1::StartUp() {
   ReadSettings();
   ShowSoundMode();
   ShowStep("Checking for updates...");
+  if (state_.AutoUpdate == 1) program_->UpdateCheck();
   TestConnection();
   others_.StatusWindow().Unload();
   FinishStart();
@@ -111,7 +112,12 @@ void Form1::ShowSoundMode() {
 }
 
 void Form1::TestConnection() {
-  platform_.files.Delete(state_.temp_folder + "\\testcon.dat");
+  const std::string path = state_.temp_folder + "\\testcon.dat";
+  connection_flag_ = ex_functions_->Download(Site().ConnectionTest(), path) ? 1 : 0;
+  if (platform_.files.Exists(path) && file_mode_flag_ != 1 && connection_flag_ != 0) {
+    others_.NewsWindow().ShowPage(Site().News());
+  }
+  platform_.files.Delete(path);
 }
 
 void Form1::FinishStart() {
@@ -149,6 +155,7 @@ void Form1::Form_Unload() {
     NewProgram();
     NewExFunctions();
     Hide();
+    others_.NewsWindow().Hide();
     if (state_.MicrophoneON == 1) EndCapture();
     DirectSoundRecord.reset();
     platform_.files.Delete(state_.temp_folder + "\\tnftmp.wav");
@@ -156,6 +163,7 @@ void Form1::Form_Unload() {
     // The play that this ends never comes to release what it started.
     if (playing) local_sound.KillAll();
     local_sound.online = 1;
+    if (state_.SendData == 1) program_->SendData();
     others_.UnloadOtherWindows();
     platform_.processes.EndProcess();
   });

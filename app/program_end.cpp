@@ -20,6 +20,7 @@ void ProgramEnd::WriteTest() {
 void ProgramEnd::Terminate() {
   settings::TrapErrors(errors_, 105, [this] {
     state_.stop_flag = 1;
+    usage_.SendData();
     windows_.UnloadOtherWindows();
     windows_.UnloadMainWindow();
     platform_.processes.EndProcess();

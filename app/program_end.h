@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/main_state.h"
+#include "online/usage_data.h"
 #include "platform/platform.h"
 #include "settings/error_notes.h"
 
@@ -20,8 +21,8 @@ class WindowList {
 class ProgramEnd {
  public:
   ProgramEnd(platform::Platform& platform, base::MainState& state, WindowList& windows,
-             settings::ErrorNotes& errors)
-      : platform_(platform), state_(state), windows_(windows), errors_(errors) {}
+             online::UsageData& usage, settings::ErrorNotes& errors)
+      : platform_(platform), state_(state), windows_(windows), usage_(usage), errors_(errors) {}
 
   // Proves that files can be written in the temporary and the application-data folder; shows
   // "Write error" and ends the program at once where they cannot. Error value 1012.
@@ -36,6 +37,7 @@ class ProgramEnd {
   platform::Platform& platform_;
   base::MainState& state_;
   WindowList& windows_;
+  online::UsageData& usage_;
   settings::ErrorNotes& errors_;
 };
 

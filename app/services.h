@@ -8,6 +8,10 @@
 #include "base/main_state.h"
 #include "display/sine_animation.h"
 #include "lang/language_loader.h"
+#include "online/downloads.h"
+#include "online/update_checker.h"
+#include "online/upload_hand_over.h"
+#include "online/usage_data.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
 #include "settings/error_notes.h"
@@ -29,37 +33,39 @@ struct Scene {
   ModeDisplay& modes;
   lang::CaptionScene& captions;
   WindowList& windows;
+  online::UpdateScene& updates;
   display::SineAnimation& sine;
 };
 
-// Sends nothing.
-class NoUsageUpload : public settings::UsageUpload {
- public:
-  void SendData() override {}
-};
-
 class Program : public settings::ErrorNotes,
-                public NoUsageUpload,
                 public settings::ActivityLog,
                 public settings::SettingsFile,
                 public lang::LanguageLoader,
                 public ModeSelection,
+                public online::UploadHandOver,
+                public online::UsageData,
+                public online::UpdateChecker,
                 public ProgramEnd,
                 public display::SineDrawing {
  public:
   Program(platform::Platform& platform, base::MainState& state, const Scene& scene)
-      : ErrorNotes(platform, scene.errors),
+      : ErrorNotes(platform, state, scene.errors, *this),
         ActivityLog(platform, *this),
         SettingsFile(platform, state, scene.settings, *this, *this, *this),
         LanguageLoader(platform, scene.captions, *this),
         ModeSelection(state, scene.modes, *this, *this, *this),
-        ProgramEnd(platform, state, scene.windows, *this),
+        UploadHandOver(platform, *this),
+        UsageData(platform, state, *this, *this),
+        UpdateChecker(platform, scene.updates, *this, *this),
+        ProgramEnd(platform, state, scene.windows, *this, *this),
         SineDrawing(state, scene.sine, *this) {}
 };
 
 class ExFunctions : public tone::WaveOutput,
                     public tone::ProcessKiller,
                     public tone::ShortTones,
+                    public online::Downloads,
+                    public online::UploadHandOver,
                     public SystemChecks {
  public:
   ExFunctions(platform::Platform& platform, base::MainState& state, tone::PlayScene& scene,
@@ -67,6 +73,8 @@ class ExFunctions : public tone::WaveOutput,
       : WaveOutput(platform),
         ProcessKiller(platform),
         ShortTones(platform, state, scene),
+        Downloads(platform, errors),
+        UploadHandOver(platform, errors),
         SystemChecks(platform, errors) {}
 };
 

@@ -34,8 +34,8 @@ struct CaptureFormat {
 class frmDX_Record {
  public:
   // Notifications are handled as events of `owner`.
-  frmDX_Record(platform::Platform& platform, settings::ErrorScene& errors, ui::Window& owner)
-      : capture_(platform.sound_capture), errors_(platform, errors), owner_(owner) {}
+  frmDX_Record(platform::Platform& platform, settings::ErrorNotes& errors, ui::Window& owner)
+      : capture_(platform.sound_capture), errors_(errors), owner_(owner) {}
   ~frmDX_Record() { Form_QueryUnload(); }
   frmDX_Record(const frmDX_Record&) = delete;
   frmDX_Record& operator=(const frmDX_Record&) = delete;
@@ -74,7 +74,7 @@ class frmDX_Record {
   void CreateEvents();
 
   platform::SoundCapture& capture_;
-  settings::ErrorNotes errors_;
+  settings::ErrorNotes& errors_;
   ui::Window& owner_;
 
   std::unique_ptr<platform::CaptureRoot> root_;

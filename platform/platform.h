@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/direct_sound.h"
+#include "platform/downloader.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/registry.h"
@@ -25,6 +26,7 @@ struct Platform {
   WavePlayer& waves;
   DirectSound& direct_sound;
   Beeper& beeper;
+  Downloader& downloader;
   Screen& screen;
   SystemVersion& version;
   MessageBoxes& messages;

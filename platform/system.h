@@ -66,6 +66,10 @@ class MessagePump {
   // before the input that follows is handled.
   virtual void ProcessPending(const std::function<bool()>& enough = {}) = 0;
 
+  // Handles messages as they come until `done` holds or `at_most_ms` are over; returns whether it
+  // holds. The thread blocks while there is nothing to do.
+  virtual bool ProcessUntil(const std::function<bool()>& done, int at_most_ms) = 0;
+
   // Blocks the thread; messages wait, but in a long sleep windows are still drawn. Returns at once
   // for 0 and less.
   virtual void Sleep(int milliseconds) = 0;

@@ -1,5 +1,6 @@
 #include "settings/error_notes.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "settings/error_report.h"
 #include "settings/form6.h"
@@ -18,12 +19,15 @@ void ErrorNotes::ErrorNote(std::int16_t value, const base::RuntimeError& error) 
                                          platform_.clock.ShortTime(), platform_.clock.ShortDate()};
 
   // Drawn whether or not the log is sent: a number that does not fit is an error in either case.
-  UploadNumber(platform_.random.Next(), platform_.clock.Now());
+  const std::int16_t number = UploadNumber(platform_.random.Next(), platform_.clock.Now());
 
   const auto lines = ErrorLines(error, value, circumstances);
   std::string log;
   for (const std::string& line : lines) log += base::Line(line);
   platform_.Texts().Replace(path, log, platform::Durability::kVisible);
+  if (state_.SendData == 1 && value != kUploadErrorValue) {
+    upload_.FTPSend("error.log", base::BareNumber(number) + "error.log");
+  }
 
   Form6& dialog = scene_.ErrorDialog();
   dialog.Present(lines);

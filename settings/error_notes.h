@@ -10,12 +10,14 @@
 //                35 DirectSoundRecord_GotWaveData, 36 Draw16, 37 DrawWave, 38 Draw8,
 //                39 microinputonoff
 //   Form2        201 Form_Load, 202 Form_Unload
+//   Form3        301 Form_Load
 //   Form5        501 Combo1, 502 Command1, 503 Command2, 504 Form_Load
+//   Form7        701 Command1, 702 Command2
 //   frmDX_Record 9901 DirectXEvent8_DXCallback
-//   Program      102 WriteLine, 103 CheckSettings, 104 NewFile, 105 Terminate, 108 LoadFile,
-//                1010 SelectRadio, 1012 WriteTest,
+//   Program      102 WriteLine, 103 CheckSettings, 104 NewFile, 105 Terminate, 106 SendData,
+//                108 LoadFile, 1010 SelectRadio, 1012 WriteTest, 1013 UpdateCheck,
 //                1014 DrawSine, 1015 LanguageAPI
-//   ExFunctions  1026 DPIGet, 1027 CheckVersion
+//   ExFunctions  1024 Download, 1025 FTPSend, 1026 DPIGet, 1027 CheckVersion
 #pragma once
 
 #include <cstdint>
@@ -23,11 +25,16 @@
 #include <optional>
 
 #include "base/errors.h"
+#include "base/main_state.h"
 #include "platform/platform.h"
+#include "settings/log_upload.h"
 
 namespace settings {
 
 class Form6;
+
+// Of FTPSend. An upload that failed is not itself uploaded.
+inline constexpr std::int16_t kUploadErrorValue = 1025;
 
 // What reporting an error does to the program's windows.
 class ErrorScene {
@@ -42,17 +49,21 @@ class ErrorScene {
 
 class ErrorNotes {
  public:
-  ErrorNotes(platform::Platform& platform, ErrorScene& scene)
-      : platform_(platform), scene_(scene) {}
+  ErrorNotes(platform::Platform& platform, const base::MainState& state, ErrorScene& scene,
+             LogUpload& upload)
+      : platform_(platform), state_(state), scene_(scene), upload_(upload) {}
 
-  // Writes the error log ("error.log" in the temporary folder), shows the error dialog in place of
-  // all other windows and returns after the user has left it. Throws base::RuntimeError when the
-  // log cannot be written.
+  // Writes the error log ("error.log" in the temporary folder), uploads it where the user has
+  // agreed to that, shows the error dialog in place of all other windows and returns after the
+  // user has left it. Throws base::RuntimeError when the log cannot be written or the number of
+  // its upload does not fit.
   void ErrorNote(std::int16_t value, const base::RuntimeError& error);
 
  private:
   platform::Platform& platform_;
+  const base::MainState& state_;
   ErrorScene& scene_;
+  LogUpload& upload_;
 };
 
 // Runs `body`; the error that it throws, if any.

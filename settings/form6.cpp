@@ -4,9 +4,11 @@
 
 namespace settings {
 
-Form6::Form6(ui::WindowSystem& system, std::function<void()> unload_all)
+Form6::Form6(ui::WindowSystem& system, std::function<void()> unload_all,
+             std::function<void()> visit_site)
     : ui::Window(system, {"Form6", "Error", 500, 214}), unload_all_(std::move(unload_all)) {
   Command1.OnClick = [this] { Leave(); };
+  Command2.OnClick = std::move(visit_site);
   SetDefaultButton(&Command1);
   SetCancelButton(&Command1);
 }
@@ -20,11 +22,6 @@ void Form6::Present(const std::vector<std::string>& lines) {
 
 void Form6::Close() {
   Handle([this] { Leave(); });
-}
-
-void Form6::DesignState() {
-  // There is no page to visit yet.
-  Command2.SetEnabled(false);
 }
 
 void Form6::Leave() {

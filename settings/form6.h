@@ -13,8 +13,10 @@ namespace settings {
 
 class Form6 : public ui::Window {
  public:
-  // `unload_all` unloads every window of the program, which ends it.
-  Form6(ui::WindowSystem& system, std::function<void()> unload_all);
+  // `unload_all` unloads every window of the program, which ends it; `visit_site` opens the maker's
+  // web site.
+  Form6(ui::WindowSystem& system, std::function<void()> unload_all,
+        std::function<void()> visit_site);
 
   std::int16_t done_flag = 0;  // 1 once the user has left the dialog
 
@@ -31,9 +33,6 @@ class Form6 : public ui::Window {
   void Present(const std::vector<std::string>& lines);
 
   void Close() override;
-
- protected:
-  void DesignState() override;
 
  private:
   void Leave();

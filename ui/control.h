@@ -32,6 +32,7 @@ enum class ControlKind {
   kComboBox,
   kStatusBar,
   kProgressBar,
+  kWebBrowser,
 };
 
 class Control {

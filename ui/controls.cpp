@@ -133,4 +133,27 @@ bool ComboBox::IsChoice(int index) const {
   return index >= kNone && index < static_cast<int>(items_.size());
 }
 
+void WebBrowser::SetSilent(bool silent) {
+  if (silent_ == silent) return;
+  silent_ = silent;
+  Tell(Property::kSilent);
+}
+
+void WebBrowser::Navigate(const std::string& address) {
+  address_ = address;
+  Tell(Property::kAddress);
+}
+
+void WebBrowser::Reset() {
+  Control::Reset();
+  silent_ = false;
+  address_.clear();
+}
+
+void WebBrowser::AskForWindow(const std::string& address) {
+  Raise([this, &address] {
+    if (OnNewWindow) OnNewWindow(address);
+  });
+}
+
 }  // namespace ui

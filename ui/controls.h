@@ -215,6 +215,29 @@ class ComboBox : public Control {
   int list_index_ = kNone;
 };
 
+// A web browser; it shows nothing until it is sent to an address.
+class WebBrowser : public Control {
+ public:
+  WebBrowser(Window& window, std::string name, Rect bounds)
+      : Control(window, ControlKind::kWebBrowser, std::move(name), bounds, "") {}
+
+  // Whether it keeps script errors and other messages of its own to itself.
+  bool Silent() const { return silent_; }
+  void SetSilent(bool silent);
+
+  const std::string& Address() const { return address_; }
+  void Navigate(const std::string& address);
+  void Reset() override;
+
+  // A page asks for a window of its own, which it does not get from the control.
+  std::function<void(const std::string& address)> OnNewWindow;
+  void AskForWindow(const std::string& address);
+
+ private:
+  bool silent_ = false;
+  std::string address_;
+};
+
 // A status bar; its caption is the text of its first panel.
 class StatusBar : public Control {
  public:

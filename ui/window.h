@@ -25,6 +25,7 @@ class Window {
     int width = 0;  // client area, pixels at 96 DPI
     int height = 0;
     bool takes_focus = true;  // false: only to be looked at, showing it leaves the focus alone
+    bool sizable = false;     // true: its web browser fills it, whatever size the user gives it
   };
 
   Window(WindowSystem& system, Design design);

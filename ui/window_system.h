@@ -10,7 +10,17 @@ class MenuItem;
 class Window;
 
 // What of a control changed.
-enum class Property { kCaption, kEnabled, kVisible, kValue, kItems, kPicture, kChecked };
+enum class Property {
+  kCaption,
+  kEnabled,
+  kVisible,
+  kValue,
+  kItems,
+  kPicture,
+  kChecked,
+  kSilent,
+  kAddress
+};
 
 // The native counterpart of a loaded window. It reads the portable objects; they tell it what
 // changed. Destroying it takes the window off the screen.

@@ -10,7 +10,17 @@
 
 namespace platform::simulated {
 
-enum class Kind { kFile, kWindow, kControl, kPicture, kSound, kProcess, kMessage, kWait };
+enum class Kind {
+  kFile,
+  kWindow,
+  kControl,
+  kPicture,
+  kSound,
+  kProcess,
+  kMessage,
+  kWait,
+  kDownload
+};
 
 struct Entry {
   std::int64_t at_ms = 0;

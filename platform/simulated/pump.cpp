@@ -32,6 +32,16 @@ void VirtualPump::ProcessPending(const std::function<bool()>& enough) {
   RunTimers(enough);
 }
 
+bool VirtualPump::ProcessUntil(const std::function<bool()>& done, int at_most_ms) {
+  const std::int64_t end = now_ms_ + at_most_ms;
+  for (;;) {
+    ProcessPending(done);
+    if (done()) return true;
+    if (now_ms_ >= end) return false;
+    AdvanceTo(actions_.empty() ? end : std::min(end, actions_.begin()->first));
+  }
+}
+
 void VirtualPump::Sleep(int milliseconds) {
   if (milliseconds < 0) milliseconds = 0;
   if (journal_waits) journal_.Add(Kind::kWait, "sleep " + std::to_string(milliseconds));

@@ -35,6 +35,7 @@ class VirtualPump : public MessagePump, public Timers {
   void At(std::int64_t at_ms, std::function<void()> action);
 
   void ProcessPending(const std::function<bool()>& enough = {}) override;
+  bool ProcessUntil(const std::function<bool()>& done, int at_most_ms) override;
   void Sleep(int milliseconds) override;
 
   // Throws ScriptOver when nothing is scheduled any more while a window is visible.

@@ -11,6 +11,7 @@
 
 #include "platform/platform.h"
 #include "platform/simulated/direct_sound.h"
+#include "platform/simulated/downloader.h"
 #include "platform/simulated/file_dialogs.h"
 #include "platform/simulated/files.h"
 #include "platform/simulated/journal.h"
@@ -43,6 +44,7 @@ class Simulation {
   FakeDirectSound direct_sound{journal};
   FakeSoundCapture sound_capture{journal, pump};
   FakeBeeper beeper{journal, pump};
+  FakeDownloader downloader{journal, files, pump};
   FakeScreen screen;
   FakeVersion version;
   ScriptedMessages messages{journal};
@@ -61,6 +63,7 @@ class Simulation {
       .waves = waves,
       .direct_sound = direct_sound,
       .beeper = beeper,
+      .downloader = downloader,
       .screen = screen,
       .version = version,
       .messages = messages,

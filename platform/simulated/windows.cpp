@@ -42,6 +42,10 @@ std::string Describe(const ui::Control& control, ui::Property property) {
       return " picture";
     case ui::Property::kChecked:
       return " checked";
+    case ui::Property::kSilent:
+      return " silent: " + YesNo(dynamic_cast<const ui::WebBrowser&>(control).Silent());
+    case ui::Property::kAddress:
+      return " address: " + dynamic_cast<const ui::WebBrowser&>(control).Address();
   }
   return "";
 }

@@ -62,6 +62,7 @@ class WindowsPlatform {
       .waves = waves_,
       .direct_sound = direct_sound_,
       .beeper = beeper_,
+      .downloader = downloader_,
       .screen = screen_,
       .version = version_,
       .messages = messages_,

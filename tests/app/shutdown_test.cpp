@@ -80,9 +80,9 @@ TEST_F(ShutdownTest, TerminateStopsEverythingAndUnloadsEveryWindow) {
   Run();
   sim.journal.Clear();
   base::MainState state;
-  settings::ErrorNotes errors(sim.services, *program);
-  ProgramEnd end(sim.services, state, *program, errors);
-  EXPECT_TRUE(sim.Run([&] { end.Terminate(); }));
+  Program service(sim.services, state,
+                  Scene{main(), *program, main(), *program, *program, *program});
+  EXPECT_TRUE(sim.Run([&] { service.Terminate(); }));
   EXPECT_EQ(state.stop_flag, 1);
   EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess}), (Lines{"Form1 hidden", "end"}));
 }

@@ -18,7 +18,9 @@ using Lines = std::vector<std::string>;
 
 class NoScene : public settings::ErrorScene {
  public:
-  explicit NoScene(ui::WindowSystem& windows) : dialog_(windows, [] {}) {}
+  explicit NoScene(ui::WindowSystem& windows)
+      : dialog_(
+            windows, [] {}, [] {}) {}
 
   settings::Form6& ErrorDialog() override { return dialog_; }
   void HideOtherWindows() override {}
@@ -27,12 +29,17 @@ class NoScene : public settings::ErrorScene {
   settings::Form6 dialog_;
 };
 
+class NoUpload : public settings::LogUpload {
+ public:
+  void FTPSend(const std::string&, const std::string&) override {}
+};
+
 class RecordTest : public testing::Test {
  protected:
   RecordTest() { Make(); }
 
   void Make() {
-    record.emplace(sim.services, scene, owner);
+    record.emplace(sim.services, errors, owner);
     record->GotWaveData = [this](auto block, auto bits, auto channels) {
       blocks.emplace_back(block.begin(), block.end());
       EXPECT_EQ(bits, 16);
@@ -54,6 +61,9 @@ class RecordTest : public testing::Test {
 
   platform::simulated::Simulation sim;
   NoScene scene{sim.windows};
+  NoUpload upload;
+  base::MainState state;
+  settings::ErrorNotes errors{sim.services, state, scene, upload};
   ui::Window owner{sim.windows, {"Owner", "", 10, 10}};
   std::optional<frmDX_Record> record;
   std::vector<std::vector<std::uint8_t>> blocks;

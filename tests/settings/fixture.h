@@ -68,6 +68,15 @@ class NotingScene : public ErrorScene {
   Form6& dialog_;
 };
 
+class NotingUpload : public LogUpload {
+ public:
+  Lines sent;
+
+  void FTPSend(const std::string& LocalFileName, const std::string& FileName) override {
+    sent.push_back(LocalFileName + " as " + FileName);
+  }
+};
+
 class SettingsFixture : public testing::Test {
  protected:
   SettingsFixture() { sim.files.Put(kLogPath, "20-11-2026\r\n14:30\r\n"); }
@@ -89,12 +98,14 @@ class SettingsFixture : public testing::Test {
   base::MainState state;
   NotingDisplay display;
   int unloads = 0;
-  Form6 dialog{sim.services.windows, [this] { ++unloads; }};
+  int visits = 0;
+  Form6 dialog{sim.services.windows, [this] { ++unloads; }, [this] { ++visits; }};
   NotingScene scene{dialog};
-  ErrorNotes errors{sim.services, scene};
+  NotingUpload upload;
+  ErrorNotes errors{sim.services, state, scene, upload};
   ActivityLog log{sim.services, errors};
-  CountingUpload upload;
-  SettingsFile file{sim.services, state, display, upload, log, errors};
+  CountingUpload usage;
+  SettingsFile file{sim.services, state, display, usage, log, errors};
 };
 
 }  // namespace settings

@@ -63,7 +63,7 @@ TEST_F(ActivityLogTest, ALogThatCannotBeWrittenIsAnErrorOfTheCaller) {
 }
 
 TEST_F(ActivityLogTest, TwoCopiesThatWriteInTurnsLeaveALogOfWholeLines) {
-  ErrorNotes other_errors{sim.services, scene};
+  ErrorNotes other_errors{sim.services, state, scene, upload};
   ActivityLog other{sim.services, other_errors};
   for (int i = 0; i < 5; ++i) {
     log.PrintFile("#first " + std::to_string(i));

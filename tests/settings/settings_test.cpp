@@ -102,13 +102,13 @@ TEST_F(SettingsTest, AMissingFileLeadsToTheFirstRun) {
   EXPECT_EQ(display.calls, (Lines{"first run shown", "main window hidden"}));
   EXPECT_EQ(LogEntries(), (Lines{"> New file"}));
   EXPECT_FALSE(sim.files.Exists(kPath));
-  EXPECT_EQ(upload.sent, 0);
+  EXPECT_EQ(usage.sent, 0);
 }
 
 TEST_F(SettingsTest, ANewFileSendsTheUsageDataOfAUserWhoAllowsIt) {
   state.SendData = 1;
   file.NewFile();
-  EXPECT_EQ(upload.sent, 1);
+  EXPECT_EQ(usage.sent, 1);
   EXPECT_EQ(display.calls, (Lines{"first run shown", "main window hidden"}));
 }
 

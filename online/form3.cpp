@@ -1,0 +1,43 @@
+#include "online/form3.h"
+
+#include "online/links.h"
+#include "online/web_link.h"
+
+namespace online {
+
+Form3::Form3(platform::Platform& platform, const base::MainState& state,
+             settings::ErrorNotes& errors, ui::Window& status_window)
+    : ui::Window(platform.windows, {"Form3", "Tonmira online news", 800, 560, true, true}),
+      platform_(platform),
+      state_(state),
+      errors_(errors),
+      status_window_(status_window) {
+  WebBrowser1.OnNewWindow = [this](const std::string& address) { OpenOutside(address); };
+}
+
+void Form3::ShowPage(const std::string& address) {
+  Show();
+  WebBrowser1.SetSilent(true);
+  WebBrowser1.Navigate(address);
+}
+
+void Form3::Form_Load() {
+  settings::TrapErrors(errors_, 301, [this] {
+    if (loading_flag_ == 1) return;
+    loading_flag_ = 1;
+    if (state_.language == "nl") SetCaption("Tonmira online nieuws (engels)");
+    loading_flag_ = 0;
+  });
+}
+
+void Form3::Form_Unload() {
+  status_window_.Unload();
+}
+
+// What a page opens is for the user's own browser. One that does not start is its own affair.
+void Form3::OpenOutside(const std::string& address) {
+  if (!IsWebAddress(address)) return;
+  settings::Caught([&] { OpenInBrowser(platform_.processes, address); });
+}
+
+}  // namespace online

@@ -1,0 +1,35 @@
+#include "online/form7.h"
+
+#include "online/links.h"
+#include "online/web_link.h"
+
+namespace online {
+
+Form7::Form7(platform::Platform& platform, settings::ErrorNotes& errors)
+    : ui::Window(platform.windows, {"Form7", "Update found", 500, 198}),
+      platform_(platform),
+      errors_(errors) {
+  Command1.OnClick = [this] { Command1_Click(); };
+  Command2.OnClick = [this] { Command2_Click(); };
+  SetDefaultButton(&Command1);
+  SetCancelButton(&Command2);
+}
+
+// The link was written by whoever answered for the site. One that is no web address is not
+// started; the program then goes on as after a check that failed.
+void Form7::Command1_Click() {
+  settings::TrapErrors(errors_, 701, [this] {
+    if (IsWebAddress(download_link)) {
+      OpenInBrowser(platform_.processes, download_link);
+      platform_.processes.EndProcess();
+    }
+    settings::ActivityLog(platform_, errors_).PrintFile("> Update error");
+    Unload();
+  });
+}
+
+void Form7::Command2_Click() {
+  settings::TrapErrors(errors_, 702, [this] { Unload(); });
+}
+
+}  // namespace online

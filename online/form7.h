@@ -1,0 +1,35 @@
+// The update dialog: offers the newer version that the update file announces.
+#pragma once
+
+#include <string>
+
+#include "platform/platform.h"
+#include "settings/activity_log.h"
+#include "settings/error_notes.h"
+#include "ui/window.h"
+
+namespace online {
+
+class Form7 : public ui::Window {
+ public:
+  Form7(platform::Platform& platform, settings::ErrorNotes& errors);
+
+  std::string download_link;  // set before the dialog is shown
+
+  ui::Label Label1{*this,
+                   "Label1",
+                   {16, 14, 468, 40},
+                   "An update is found! Would you like to download the update?"};
+  ui::ListBox List1{*this, "List1", {16, 60, 468, 80}};
+  ui::Button Command1{*this, "Command1", {168, 154, 152, 30}, "Update"};
+  ui::Button Command2{*this, "Command2", {332, 154, 152, 30}, "Don't update"};
+
+ private:
+  void Command1_Click();
+  void Command2_Click();
+
+  platform::Platform& platform_;
+  settings::ErrorNotes& errors_;
+};
+
+}  // namespace online

@@ -1,0 +1,47 @@
+#include "online/web_link.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+
+namespace online {
+namespace {
+
+bool MayStandInLink(char c) {
+  return c > ' ' && c < '\x7F' && c != '"' && c != '\'' && c != '`';
+}
+
+// The host and what may stand before it.
+std::string_view Authority(std::string_view link) {
+  const std::size_t begin = link.find("//") + 2;
+  return link.substr(begin, link.find_first_of("/?#\\", begin) - begin);
+}
+
+}  // namespace
+
+bool IsWebAddress(std::string_view link) {
+  if (link.size() > kLongestLink || !std::all_of(link.begin(), link.end(), MayStandInLink)) {
+    return false;
+  }
+  const std::string scheme = base::ToLower(link.substr(0, link.find("//")));
+  if (scheme != "http:" && scheme != "https:") return false;
+  const std::string_view authority = Authority(link);
+  return !authority.empty() && authority.front() != ':' &&
+         authority.find('@') == std::string_view::npos;
+}
+
+// The mark is a caret before the character. The value of a variable is put in before carets are
+// looked at, so the name after a percent sign gets one as well: no variable has such a name.
+std::string StartCommand(std::string_view link) {
+  constexpr std::string_view kActedOn = "&|<>^()%!";
+  std::string command = "cmd /c start ";
+  bool in_name = false;
+  for (const char c : link) {
+    if (in_name || kActedOn.find(c) != std::string_view::npos) command += '^';
+    command += c;
+    in_name = c == '%';
+  }
+  return command;
+}
+
+}  // namespace online

@@ -1,0 +1,73 @@
+#include "platform/simulated/downloader.h"
+
+#include <memory>
+#include <utility>
+
+#include "base/errors.h"
+
+namespace platform::simulated {
+namespace {
+
+struct State {
+  bool over = false;
+  std::optional<std::string> content;
+};
+
+class FakeDownload : public RunningDownload {
+ public:
+  FakeDownload(Journal& journal, Files& files, std::string link, std::string path,
+               std::shared_ptr<State> state)
+      : journal_(journal),
+        files_(files),
+        link_(std::move(link)),
+        path_(std::move(path)),
+        state_(std::move(state)) {}
+
+  ~FakeDownload() override {
+    if (!state_->over) journal_.Add(Kind::kDownload, "give up " + link_);
+  }
+
+  bool Over() const override { return state_->over; }
+
+  bool PutInPlace() override {
+    if (!state_->over || !state_->content) return false;
+    try {
+      const auto file = files_.OpenForWriting(path_);
+      file->Write(*state_->content);
+      file->Close();
+      return true;
+    } catch (const base::RuntimeError&) {
+      return false;
+    }
+  }
+
+ private:
+  Journal& journal_;
+  Files& files_;
+  std::string link_;
+  std::string path_;
+  std::shared_ptr<State> state_;
+};
+
+}  // namespace
+
+std::unique_ptr<RunningDownload> FakeDownloader::Begin(const std::string& link,
+                                                       const std::string& path,
+                                                       std::size_t most_bytes) {
+  journal_.Add(Kind::kDownload, "download " + link + " to " + path);
+  Answer answer = answers[link];
+  if (answer.content && answer.content->size() > most_bytes) answer.content.reset();
+  const auto state = std::make_shared<State>();
+  const auto finish = [state, content = std::move(answer.content)] {
+    state->over = true;
+    state->content = content;
+  };
+  if (answer.after.count() == 0 && !answer.never) {
+    finish();
+  } else if (!answer.never) {
+    pump_.At(pump_.now_ms() + answer.after.count(), finish);
+  }
+  return std::make_unique<FakeDownload>(journal_, files_, link, path, state);
+}
+
+}  // namespace platform::simulated

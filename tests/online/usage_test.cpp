@@ -1,0 +1,210 @@
+#include "tests/online/fixture.h"
+
+#include "online/upload_hand_over.h"
+
+namespace app {
+namespace {
+
+using base::ErrorCode;
+using platform::simulated::Operation;
+
+const std::string kUploadStarted = "start hidden cmd /c \"C:\\Tonmira\\upsend.exe\"";
+
+class UsageTest : public OnlineTest {
+ protected:
+  // 0.5 * 5 s * 14 h * 20th of the month + 1 = 701
+  static constexpr char kNumber[] = "701";
+
+  void CloseAt(std::chrono::milliseconds moment) {
+    At(moment, [](Form1& form1) { form1.Close(); });
+  }
+
+  // A time of day at which every number fits, while `random` in the simulation is 0.99.
+  void LeaveTheErrorDialogAt(std::chrono::milliseconds moment) {
+    At(moment, [this](Form1&) { program->form6.Command1.Click(); });
+  }
+};
+
+TEST_F(UsageTest, WithConsentTheLogIsHandedOverWhenTheProgramEnds) {
+  PutSettings("n", "y");
+  CloseAt(1s);
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.files.Get(kHandOver), "C:\\Temp\\userdata.txt\r\n701.txt\r\n");
+  EXPECT_EQ(Started(), (Lines{kUploadStarted, "end"}));
+}
+
+TEST_F(UsageTest, WithoutConsentNothingIsHandedOverAndNoProcessIsStarted) {
+  PutSettings("n", "n");
+  CloseAt(1s);
+  EXPECT_TRUE(Run());
+  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_EQ(Started(), (Lines{"end"}));
+}
+
+TEST_F(UsageTest, BeforeTheUserWasAskedNothingIsHandedOver) {
+  for (const std::string& settings : {std::string(), std::string("damaged\r\nSendData=y\r\n")}) {
+    sim.files.Put(kSettings, settings);
+    Run();
+    EXPECT_FALSE(sim.files.Exists(kHandOver));
+    for (const std::string& text : Started()) EXPECT_EQ(text.find("upsend"), std::string::npos);
+  }
+}
+
+TEST_F(UsageTest, ConsentInAFileThatIsDamagedFurtherDownDoesNotCount) {
+  sim.files.Put(kSettings,
+                "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=EN\r\nSendData=y\r\nMicrophone=99\r\n"
+                "MicrophoneON=n\r\n");
+  Run();
+  EXPECT_FALSE(sim.files.Exists(kHandOver));
+}
+
+TEST_F(UsageTest, WithNoLogThereIsNoUploadEvenWithConsent) {
+  PutSettings("n", "y");
+  At(1s, [this](Form1& form1) {
+    sim.files.Delete(kLog);
+    form1.Close();
+  });
+  EXPECT_TRUE(Run());
+  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_EQ(Started(), (Lines{"end"}));
+}
+
+TEST_F(UsageTest, AtMidnightOrSecondZeroTheNumberIsOne) {
+  PutSettings("n", "y");
+  for (const auto& [hour, second] : {std::pair{0, 59}, std::pair{23, 0}, std::pair{0, 0}}) {
+    sim.clock.now = {2026, 12, 31, hour, 30, second};
+    sim.random.next = 0.999999;
+    CloseAt(std::chrono::milliseconds(sim.pump.now_ms()) + 1s);
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(sim.Lines(kHandOver)[1], "1.txt");
+  }
+}
+
+TEST_F(UsageTest, TheLogIsHandedOverBeforeTheWindowsGo) {
+  PutSettings("n", "y");
+  At(1s, [this](Form1& form1) {
+    form1.Command1.Click();
+    sim.journal.Clear();
+    form1.Close();
+  });
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess, Kind::kSound}),
+            (Lines{"Form1 hidden", "stop 0x2", kUploadStarted, "Form2 unloaded", "end"}));
+}
+
+TEST_F(UsageTest, TerminateHandsTheLogOverOnlyWithConsent) {
+  for (const std::int16_t flag : {1, 0}) {
+    Run();
+    sim.journal.Clear();
+    sim.files.Delete(kHandOver);
+    base::MainState state;
+    state.SendData = flag;
+    Program service(sim.services, state,
+                    Scene{main(), *program, main(), *program, *program, *program});
+    EXPECT_TRUE(sim.Run([&] { service.Terminate(); }));
+    EXPECT_EQ(sim.files.Exists(kHandOver), flag == 1);
+    EXPECT_EQ(Started(), flag == 1 ? (Lines{kUploadStarted, "end"}) : (Lines{"end"}));
+  }
+}
+
+// 0.99 * 59 * 23 * 31 + 1 = 41646, more than 16 bits hold.
+void ArrangeOverflow(platform::simulated::Simulation& sim) {
+  sim.clock.now = {2026, 12, 31, 23, 59, 59};
+  sim.random.next = 0.99;
+}
+
+TEST_F(UsageTest, ANumberThatDoesNotFitGoesToTheErrorTrap) {
+  PutSettings("n", "y");
+  At(1s, [this](Form1& form1) {
+    ArrangeOverflow(sim);
+    form1.Close();
+  });
+  // The number is drawn for the error log, too, and does not fit there either: it is now the trap
+  // of the shutdown that meets it, and nobody is left to meet it a third time.
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '6':\r\n\r\nOverflow"}));
+  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_EQ(Started(), (Lines{"end"}));
+}
+
+// Too large at the first drawing, 1 from then on.
+class OnceTooLarge : public platform::Random {
+ public:
+  double Next() override { return std::exchange(next_, 0.0); }
+
+ private:
+  double next_ = 0.99;
+};
+
+TEST_F(UsageTest, ANumberThatDoesNotFitOnceIsReportedAndTheErrorDialogEndsTheProgram) {
+  PutSettings("n", "y");
+  sim.clock.now = {2026, 12, 31, 23, 59, 59};
+  OnceTooLarge random;
+  const platform::Platform& s = sim.services;
+  platform::Platform services{s.files,      s.code_page, s.environment, s.clock,        random,
+                              s.pump,       s.processes, s.waves,       s.direct_sound, s.beeper,
+                              s.downloader, s.screen,    s.version,     s.messages,     s.windows};
+  program = std::make_unique<Application>(services);
+  CloseAt(1s);
+  LeaveTheErrorDialogAt(2s);
+  // Leaving the dialog unloads a main window whose shutdown has not finished.
+  sim.messages.answers = {platform::kAnswerYes};
+  EXPECT_TRUE(sim.Run([this] { program->Run(); }));
+  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  6,   Error value:  106");
+  EXPECT_EQ(Messages(), (Lines{"critical yes/no [Error] Do you want to forcibly close tonmira?"}));
+  // What went to the maker is the error, under the number that did fit.
+  EXPECT_EQ(sim.files.Get(kHandOver), "error.log\r\n1error.log\r\n");
+}
+
+TEST_F(UsageTest, WithConsentAnErrorIsHandedOver) {
+  PutSettings("n", "y");
+  At(1s, [this](Form1& form1) {
+    sim.files.Fail(Operation::kOpenForReading, kSettings, ErrorCode::kPermissionDenied);
+    sim.journal.Clear();
+    form1.autoupdate.Click();
+  });
+  LeaveTheErrorDialogAt(2s);
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(Started()[0], kUploadStarted);
+  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  70,   Error value:  102");
+}
+
+TEST_F(UsageTest, AnErrorIsNeverHandedOverWithoutConsent) {
+  PutSettings("n", "n");
+  At(1s, [this](Form1& form1) {
+    sim.files.Fail(Operation::kOpenForReading, kSettings, ErrorCode::kPermissionDenied);
+    form1.autoupdate.Click();
+  });
+  LeaveTheErrorDialogAt(2s);
+  EXPECT_TRUE(Run());
+  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_EQ(Started(), (Lines{"end"}));
+}
+
+TEST_F(UsageTest, AHandOverFileThatCannotBeWrittenIsReportedOnceAndNotItselfHandedOver) {
+  PutSettings("n", "y");
+  sim.files.Fail(Operation::kOpenForWriting, kHandOver, ErrorCode::kPermissionDenied);
+  CloseAt(1s);
+  LeaveTheErrorDialogAt(2s);
+  sim.messages.answers = {platform::kAnswerYes};
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  70,   Error value:  1025");
+  EXPECT_EQ(Started(), (Lines{"end"}));
+}
+
+TEST(UploadCommand, HoldsTheProgramsFolderInQuotes) {
+  EXPECT_EQ(online::UploadCommand("C:\\Tonmira"), "cmd /c \"C:\\Tonmira\\upsend.exe\"");
+  EXPECT_EQ(online::UploadCommand("C:\\Program Files\\Tonmira"),
+            "cmd /c \"C:\\Program Files\\Tonmira\\upsend.exe\"");
+}
+
+// The command interpreter takes the outer quotes away when one of these stands between them.
+TEST(UploadCommand, HasASecondPairOfQuotesWhereTheFirstIsTakenAway) {
+  for (const char c : std::string("&<>()@^|")) {
+    const std::string folder = std::string("C:\\Tom ") + c;
+    EXPECT_EQ(online::UploadCommand(folder), "cmd /c \"\"" + folder + "\\upsend.exe\"\"");
+  }
+}
+
+}  // namespace
+}  // namespace app
