@@ -43,9 +43,8 @@ void UpdateChecker::Offer(const UpdateFile& update) {
   dialog.SetCaption(messages[2]);
   dialog.Command1.SetCaption(messages[3]);
   dialog.Command2.SetCaption(messages[4]);
-  dialog.List1.SetItems({messages[5] + kOwnVersion,
-                         messages[6] + platform_.code_page.Decode(DottedVersion(update.version)),
-                         "Link: " + link});
+  dialog.List1.SetItems(
+      {messages[5] + kOwnVersion, messages[6] + DottedVersion(update.version), "Link: " + link});
   dialog.download_link = link;
   dialog.Show();
   do {

@@ -22,7 +22,8 @@ std::optional<UpdateFile> ParseUpdateFile(std::string_view content);
 // program's, 236.
 bool IsNewer(std::string_view version);
 
-// The first three characters of `version` with points between them: "237" gives "2.3.7".
+// The first three characters of `version` with points between them: "237" gives "2.3.7". Those of
+// a newer version are ASCII.
 std::string DottedVersion(std::string_view version);
 
 }  // namespace online

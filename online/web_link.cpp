@@ -11,10 +11,14 @@ bool MayStandInLink(char c) {
   return c > ' ' && c < '\x7F' && c != '"' && c != '\'' && c != '`';
 }
 
-// The host and what may stand before it.
+// What stands between the scheme's "//" and the path; empty when the scheme is another.
 std::string_view Authority(std::string_view link) {
-  const std::size_t begin = link.find("//") + 2;
-  return link.substr(begin, link.find_first_of("/?#\\", begin) - begin);
+  const std::size_t slashes = link.find("//");
+  if (slashes == std::string_view::npos) return {};
+  const std::string scheme = base::ToLower(link.substr(0, slashes));
+  if (scheme != "http:" && scheme != "https:") return {};
+  link.remove_prefix(slashes + 2);
+  return link.substr(0, link.find_first_of("/?#\\"));
 }
 
 }  // namespace
@@ -23,8 +27,6 @@ bool IsWebAddress(std::string_view link) {
   if (link.size() > kLongestLink || !std::all_of(link.begin(), link.end(), MayStandInLink)) {
     return false;
   }
-  const std::string scheme = base::ToLower(link.substr(0, link.find("//")));
-  if (scheme != "http:" && scheme != "https:") return false;
   const std::string_view authority = Authority(link);
   return !authority.empty() && authority.front() != ':' &&
          authority.find('@') == std::string_view::npos;

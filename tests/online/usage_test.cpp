@@ -93,7 +93,7 @@ TEST_F(UsageTest, TheLogIsHandedOverBeforeTheWindowsGo) {
 }
 
 TEST_F(UsageTest, TerminateHandsTheLogOverOnlyWithConsent) {
-  for (const std::int16_t flag : {1, 0}) {
+  for (const std::int16_t flag : {std::int16_t{1}, std::int16_t{0}}) {
     Run();
     sim.journal.Clear();
     sim.files.Delete(kHandOver);
