@@ -14,6 +14,7 @@ constexpr int kCoarseTick =
 constexpr int kLongSleep = 250;
 // ms; the system takes a program that asks for no message for seconds for dead.
 constexpr int kSignOfLife = 1000;
+constexpr int kLongestNap = 20;  // ms; whoever has something done may not say so with a message
 
 bool IsKey(const MSG& message) {
   return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
@@ -71,6 +72,18 @@ void WindowsMessagePump::ProcessPending(const std::function<bool()>& enough) {
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     Handle(message);
     if (enough && enough()) return;
+  }
+}
+
+bool WindowsMessagePump::ProcessUntil(const std::function<bool()>& done, int at_most_ms) {
+  const Stopwatch stopwatch;
+  for (;;) {
+    ProcessPending(done);
+    if (done()) return true;
+    const int left = at_most_ms - stopwatch.ElapsedMilliseconds();
+    if (left <= 0) return false;
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(std::min(left, kLongestNap)),
+                              QS_ALLINPUT);
   }
 }
 

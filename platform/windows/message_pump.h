@@ -13,6 +13,7 @@ class WindowsMessagePump final : public MessagePump {
       : open_(open), multimedia_(multimedia) {}
 
   void ProcessPending(const std::function<bool()>& enough) override;
+  bool ProcessUntil(const std::function<bool()>& done, int at_most_ms) override;
   void Sleep(int milliseconds) override;
   void Run() override;
 

@@ -66,6 +66,8 @@ Shape ShapeOf(const ui::Control& control) {
       return {L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 0, true};
     case ControlKind::kProgressBar:
       return {PROGRESS_CLASSW, PBS_SMOOTH, 0, false};
+    case ControlKind::kWebBrowser:
+      return {kBrowserClass, WS_CLIPCHILDREN | WS_TABSTOP, 0, false};
     case ControlKind::kStatusBar:
       break;
   }
@@ -112,6 +114,9 @@ void NativeControls::Create(HWND parent) {
     handles_.push_back(CreateOne(parent, i));
     if (IsOption(*controls[i])) {
       option_views_.push_back(std::make_unique<OptionButtonView>(handles_[i]));
+    } else if (controls[i]->kind() == ControlKind::kWebBrowser) {
+      browser_views_.push_back(std::make_unique<WebBrowserView>(
+          handles_[i], static_cast<ui::WebBrowser&>(*controls[i])));
     }
     if (IsPath(*controls[i])) {
       path_tips_.push_back(std::make_unique<PathTip>(parent, handles_[i], appearance_));
@@ -155,9 +160,11 @@ HWND NativeControls::CreateOne(HWND parent, std::size_t index) {
 }
 
 std::optional<std::size_t> NativeControls::IndexOf(HWND handle) const {
-  const auto found = std::find(handles_.begin(), handles_.end(), handle);
-  if (handle == nullptr || found == handles_.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - handles_.begin());
+  for (; handle != nullptr; handle = browser_views_.empty() ? nullptr : GetParent(handle)) {
+    const auto found = std::find(handles_.begin(), handles_.end(), handle);
+    if (found != handles_.end()) return static_cast<std::size_t>(found - handles_.begin());
+  }
+  return std::nullopt;
 }
 
 std::optional<std::size_t> NativeControls::IndexOf(const ui::Control* control) const {
@@ -176,6 +183,7 @@ bool NativeControls::CanHaveFocus(std::size_t index) const {
     case ControlKind::kTextBox:
     case ControlKind::kCheckBox:
     case ControlKind::kComboBox:
+    case ControlKind::kWebBrowser:
       return control(index).Enabled() && control(index).Visible();
     default:
       return false;
@@ -235,9 +243,30 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
     case ui::Property::kPicture:
       InvalidateRect(handles_[*index], nullptr, FALSE);
       break;
+    case ui::Property::kSilent:
+    case ui::Property::kAddress:
+      if (WebBrowserView* const view = BrowserAt(*index)) view->Changed(property);
+      break;
     case ui::Property::kChecked:
       break;
   }
+}
+
+void NativeControls::Fit(int width, int height) {
+  for (const auto& view : browser_views_) MoveWindow(view->handle(), 0, 0, width, height, TRUE);
+}
+
+bool NativeControls::TranslateKey(MSG& message) {
+  const auto index = IndexOf(message.hwnd);
+  WebBrowserView* const view = index ? BrowserAt(*index) : nullptr;
+  return view != nullptr && view->TranslateKey(message);
+}
+
+WebBrowserView* NativeControls::BrowserAt(std::size_t index) const {
+  for (const auto& view : browser_views_) {
+    if (view->handle() == handles_[index]) return view.get();
+  }
+  return nullptr;
 }
 
 std::wstring NativeControls::Text(std::size_t index) const {

@@ -9,6 +9,7 @@
 #include "platform/windows/appearance.h"
 #include "platform/windows/option_button_view.h"
 #include "platform/windows/path_tip.h"
+#include "platform/windows/web_browser_view.h"
 #include "ui/window.h"
 
 namespace platform::windows {
@@ -33,6 +34,7 @@ class NativeControls {
   HWND handle(std::size_t index) const { return handles_[index]; }
   ui::Control& control(std::size_t index) const { return *window_.Controls()[index]; }
 
+  // The control that is this window, or the web browser that holds it.
   std::optional<std::size_t> IndexOf(HWND handle) const;
   std::optional<std::size_t> IndexOf(const ui::Control* control) const;
 
@@ -50,7 +52,14 @@ class NativeControls {
 
   void Changed(const ui::Control& control, ui::Property property);
 
+  // The parent has a new size.
+  void Fit(int width, int height);
+
+  // Offers a keyboard message to the web browser that holds the focus; true when that was all.
+  bool TranslateKey(MSG& message);
+
  private:
+  WebBrowserView* BrowserAt(std::size_t index) const;
   HWND CreateOne(HWND parent, std::size_t index);
   std::wstring Text(std::size_t index) const;
   std::string LabelBefore(std::size_t index) const;
@@ -65,6 +74,7 @@ class NativeControls {
   std::vector<HWND> handles_;
   std::vector<std::unique_ptr<OptionButtonView>> option_views_;
   std::vector<std::unique_ptr<PathTip>> path_tips_;
+  std::vector<std::unique_ptr<WebBrowserView>> browser_views_;
   std::vector<std::string> marked_captions_;  // by index; empty for controls without access keys
 };
 

@@ -20,7 +20,8 @@ struct FrameStyle {
 // A window that is only to be looked at has nothing to move it, close it or switch to it.
 FrameStyle FrameStyleOf(const ui::Window::Design& design) {
   if (!design.takes_focus) return {WS_POPUP | WS_DLGFRAME, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE};
-  return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, 0};
+  const DWORD sizing = design.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0;
+  return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | sizing, 0};
 }
 
 // What the user did, posted to the window itself.
@@ -147,6 +148,7 @@ bool NativeWindow::TranslateKey(const OpenWindows& open, MSG& message) {
   const HWND root = GetAncestor(message.hwnd, GA_ROOT);
   if (open.Find(root) == nullptr) return false;
   if (message.message == WM_CHAR && !open.Find(root)->AcceptsKey(message)) return true;
+  if (open.Find(root)->controls_.TranslateKey(message)) return true;
   const HWND focus = GetFocus();
   const bool moves_choice = MovesChoice(message);
   if (!IsDialogMessageW(root, &message)) return false;
@@ -190,6 +192,9 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_ENDSESSION:
       // The process may be ended as soon as this returns.
       if (wparam != FALSE) window_.Close();
+      return 0;
+    case WM_SIZE:
+      if (wparam != SIZE_MINIMIZED) controls_.Fit(LOWORD(lparam), HIWORD(lparam));
       return 0;
     case WM_SETFOCUS:
       focus_.HandOn();

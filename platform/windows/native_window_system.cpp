@@ -2,6 +2,7 @@
 
 #include "platform/windows/native_window.h"
 #include "platform/windows/picture_view.h"
+#include "platform/windows/web_browser_view.h"
 
 #include <commctrl.h>
 
@@ -14,6 +15,7 @@ NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
   InitCommonControlsEx(&wanted);
   RegisterWindowClass(instance);
   RegisterPictureClass(instance);
+  RegisterBrowserClass(instance);
 }
 
 std::unique_ptr<ui::WindowView> NativeWindowSystem::Open(ui::Window& window) {

@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 #include "platform/windows/clock.h"
 #include "platform/windows/direct_sound.h"
+#include "platform/windows/downloader.h"
 #include "platform/windows/environment.h"
 #include "platform/windows/file_dialogs.h"
 #include "platform/windows/file_system.h"
@@ -42,6 +43,7 @@ class WindowsPlatform {
   MultimediaPlayer waves_{multimedia_};
   WindowsDirectSound direct_sound_;
   SystemBeeper beeper_;
+  WindowsDownloader downloader_;
   WindowsScreen screen_;
   WindowsVersion version_;
   WindowsMessageBoxes messages_{open_};

@@ -1,0 +1,22 @@
+// Downloads through the system's URL-to-file service (urlmon.dll), each on a thread of its own that
+// also loads what the service needs.
+//
+// The file arrives under another name, which is deleted by the thread unless it gets its own. A
+// download that is given up ends as soon as the service lets it: at the next byte, or when the
+// service itself has enough of a silent host.
+#pragma once
+
+#include "platform/downloader.h"
+
+namespace platform::windows {
+
+class WindowsDownloader final : public Downloader {
+ public:
+  std::unique_ptr<RunningDownload> Begin(const std::string& link, const std::string& path,
+                                         std::size_t most_bytes) override;
+
+ private:
+  int begun_ = 0;  // for names that no other download of this process has
+};
+
+}  // namespace platform::windows
