@@ -161,7 +161,7 @@ class Form1 : public Form1Controls,
   OtherWindows& others_;
   base::MainState state_;
   lang::Texts texts_;
-  display::SineAnimation sine_animation_{platform_, state_, Picture1, others_};
+  display::SineAnimation sine_animation_{platform_, state_, Picture1, others_.Errors()};
   Scene scene_;
   ProgramPtr program_;
   std::shared_ptr<ExFunctions> ex_functions_;

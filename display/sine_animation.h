@@ -22,8 +22,8 @@ inline constexpr std::int16_t kStillPicture = 930;
 class SineAnimation {
  public:
   SineAnimation(platform::Platform& platform, base::MainState& state, ui::PictureBox& picture,
-                settings::ErrorScene& errors)
-      : timers_(platform.timers), state_(state), picture_(picture), errors_(platform, errors) {}
+                settings::ErrorNotes& errors)
+      : timers_(platform.timers), state_(state), picture_(picture), errors_(errors) {}
 
   // Moves the wave on from `phase` from now on, a step every frame; in place of the one that moves
   // already. It ends, and the picture is cleared, when the sine-stop flag is 1.
@@ -43,7 +43,7 @@ class SineAnimation {
   platform::Timers& timers_;
   base::MainState& state_;
   ui::PictureBox& picture_;
-  settings::ErrorNotes errors_;
+  settings::ErrorNotes& errors_;
   float angular_step_ = 0;
   std::shared_ptr<std::int32_t> phase_;
   std::unique_ptr<platform::Timer> timer_;

@@ -40,7 +40,7 @@ std::string WindowsEnvironment::Get(const std::string& name) {
 }
 
 std::string WindowsEnvironment::Arguments() {
-  return std::string(base::Arguments(Narrow(GetCommandLineW()), ProgramPath()));
+  return std::string(base::Arguments(Narrow(GetCommandLineW()), Narrow(ModulePath())));
 }
 
 std::string WindowsEnvironment::ProgramFolder() {
