@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "display/sine_preview.h"
-#include "display/waveform.h"
+#include "display/twips.h"
 #include "ui/window.h"
 
 namespace display {

@@ -1,5 +1,5 @@
-// The points of the sine preview. Lengths are twips, 15 to a pixel at 96 DPI, from the upper left
-// corner; one point stands at every twip of the width.
+// The points of the sine preview. Lengths are twips (display/twips.h) from the upper left corner;
+// one point stands at every twip of the width.
 #pragma once
 
 #include <cstdint>
@@ -29,7 +29,7 @@ std::int32_t NextPhase(std::int32_t phase);
 
 std::vector<TwipPoint> SineFrame(float angular_step, std::int32_t phase, TwipSize size);
 
-// Draws the points of a picture of `size` on the whole of a canvas.
+// Draws the points of a picture of `size` on the whole of a canvas, on a fine one as larger dots.
 void Draw(const std::vector<TwipPoint>& points, TwipSize size, ui::Canvas& canvas);
 
 }  // namespace display

@@ -13,11 +13,10 @@
 #include <span>
 #include <vector>
 
+#include "display/twips.h"
 #include "ui/canvas.h"
 
 namespace display {
-
-inline constexpr int kTwipsPerPixel = 15;  // at 96 DPI
 
 struct WavePoint {
   double x = 0;

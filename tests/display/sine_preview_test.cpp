@@ -66,7 +66,7 @@ TEST(SinePreview, PointsAreDrawnOnTheWholeCanvasWhateverItsResolution) {
     EXPECT_EQ(canvas.At(0, 0), ui::Canvas::kForeground);
     EXPECT_EQ(canvas.At(2 * scale, scale), ui::Canvas::kForeground);
     EXPECT_EQ(canvas.At(4 * scale - 1, 2 * scale - 1), ui::Canvas::kForeground);
-    EXPECT_EQ(canvas.At(scale, 0), ui::Canvas::kBackground);
+    EXPECT_EQ(canvas.At(4 * scale - 1, 0), ui::Canvas::kBackground);
   }
 }
 
