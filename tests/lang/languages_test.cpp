@@ -329,7 +329,7 @@ TEST_F(LanguagesTest, TheShippedDutchLeavesNoEnglishTextInTheMainTheMorseAndTheH
   const std::set<std::string> same{"",           "Info",        "Help",    "Website",     "Contact",
                                    "Nederlands", "English",     "Tonmira", "Sound32",     "Winmm",
                                    "1000",       "DirectSound", "4 Hz ->", "<- 32000 Hz", "+",
-                                   "-",          "0",           "700"};
+                                   "-",          "0",           "700",     "OK"};
   sim.files.Put(kDutch, Shipped(kDutch));
   At(1s, [&, this](Form1& form1) {
     const auto show = [&] {

@@ -1,5 +1,6 @@
-"""Shows, where there is no display, what the program does: starts it on a virtual one, picks
-"High pitch" and presses "Play Sound" with the mouse, records, takes a picture, stops and leaves.
+"""Shows, where there is no display, what the program does: starts it on a virtual one for the first
+time, accepts, picks "High pitch" and presses "Play Sound" with the mouse, records, takes pictures,
+stops and leaves.
 """
 
 import signal
@@ -7,29 +8,40 @@ import sys
 
 from bench import PROJECT, Bench
 from measuring import measure
-from program import GOOD_SETTINGS, Folders, Tonmira, play_once
+from program import FIRST_RUN_TITLE, Folders, Tonmira, play_once
 from sound import Recorder, save_wav
 from window import Driver, User
 
+FIRST_PICTURE = PROJECT / "out" / "first-run.png"
 PICTURE = PROJECT / "out" / "tonmira.png"
 TONE = PROJECT / "out" / "tone.wav"
 MODE, PITCH_HZ = "High pitch", 10000
 
 
+def pass_first_run(program: Tonmira, user: User) -> Tonmira:
+    """Refuses the upload of data and accepts; returns the copy that has the main window."""
+    dialog = program.window(FIRST_RUN_TITLE)
+    program.wait_for_log(">> Program starting finished")
+    user.activate(dialog)
+    user.screenshot(dialog, FIRST_PICTURE)
+    user.click_button(dialog, "I don't want to send anonymous data")
+    user.click_button(dialog, "Accept")
+    return program.successor()
+
+
 def show(bench: Bench) -> bool:
     driver, user = Driver(bench), User(bench)
-    folders = Folders(bench)
-    folders.write_settings(GOOD_SETTINGS)
     recorder = Recorder(bench)
-    program = Tonmira(bench, driver, folders)
+    first = Tonmira(bench, driver, Folders(bench))
     try:
+        program = pass_first_run(first, user)
         print(f'Tonmira is open on the virtual display :{bench.display_number}. '
               f'Playing "{MODE}" ...')
         window = play_once(program, user, MODE)
         recorder.wait_for_tone()
-        first = recorder.frames()
+        begin = recorder.frames()
         tone = measure(recorder.record(3))
-        save_wav(TONE, recorder.stereo(first))
+        save_wav(TONE, recorder.stereo(begin))
         user.screenshot(window, PICTURE)
         user.click_button(window, "Stop Sound")
         recorder.wait_for_silence()
@@ -37,14 +49,15 @@ def show(bench: Bench) -> bool:
         window.close()
         program.wait_for_end()
     finally:
-        program.finish()
+        first.finish()
         recorder.stop()
     if tone is None:
         print("No steady tone was heard.")
         return False
     print(f"Measured pitch: {tone.frequency_hz:.3f} Hz, peak {tone.peak} of 32767, "
           f"steady for {tone.length_s:.2f} s")
-    print(f"Picture: {PICTURE.relative_to(PROJECT)}")
+    for picture in (FIRST_PICTURE, PICTURE):
+        print(f"Picture: {picture.relative_to(PROJECT)}")
     print(f"Sound:   {TONE.relative_to(PROJECT)}")
     return abs(tone.frequency_hz / PITCH_HZ - 1) < 1e-4
 
