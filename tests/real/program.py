@@ -10,6 +10,7 @@ from window import Driver, User, Window, wait_for_window
 
 MAIN_TITLE = "Tonmira"
 FIRST_RUN_TITLE = "License agreements"
+MENU_ABOUT = 1022  # the running number of "About Tonmira" in the menu
 WINDOW_CLASS = "TonmiraWindow"
 MODES = ["Low pitch", "Average pitch", "High pitch", "Extreme pitch", "Spooky pitch",
          "Low to high", "Custom pitch", "Morse tool", "Hearing age"]

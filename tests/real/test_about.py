@@ -8,11 +8,10 @@ import pytest
 
 from bench import PROGRAM, PROJECT, Bench, wait_for
 from conftest import SCREENS
-from program import GOOD_SETTINGS, Folders, Tonmira
+from program import GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
 from test_windows import assert_shows_something
 from window import Driver, User, Window, wait_for_window
 
-MENU_ABOUT = 1022  # the running number of "About Tonmira" in the menu
 TITLE = "About Tonmira"
 UNAVAILABLE = "System Information Is Unavailable At This Time"
 DESCRIPTION = ("Create the most annoying sounds with Tonmira! Any problems? Mail to: "

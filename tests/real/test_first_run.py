@@ -109,8 +109,7 @@ def test_the_keyboard_alone_is_enough(
         launch: Callable[..., Tonmira], folders: Folders, user: User) -> None:
     program = launch(folders)
     dialog = first_run(program)
-    user.activate(dialog)
-    # The list of languages has the focus; Enter there accepts nothing.
+    # The dialog has the keyboard, and in it the list of languages; Enter there accepts nothing.
     user.type_keys("Return")
     user.type_keys("Down", "Down")
     wait_for(lambda: dialog.chosen() == "Dutch", "the second language")
@@ -128,6 +127,9 @@ def test_the_keyboard_alone_is_enough(
     program.wait_for_end()
     assert folders.settings_file.read_bytes() == settings("NL", "n")
     assert_main_window(restarted, "NL")
+    window = restarted.window()
+    user.type_keys("alt+" + window.button("Hoge toon").access_key)
+    wait_for(lambda: window.is_checked("Hoge toon"), "a mode, chosen in the new main window")
 
 
 def test_the_access_keys_follow_the_language(

@@ -5,11 +5,11 @@ from collections.abc import Iterator
 import pytest
 
 from bench import PROJECT, Bench, wait_for
-from program import FIRST_RUN_TITLE, GOOD_SETTINGS, MODES, Folders, Tonmira
+from program import (FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, MODES, Folders,
+                     Tonmira)
 from window import Driver, User, Window
 
 SCREENS = PROJECT / "out" / "screens"
-MENU_ABOUT = 1022  # the running number of "About Tonmira" in the menu
 DUTCH_MODES = ["Lage toon", "Gemiddelde toon", "Hoge toon", "Extreme toon", "Spooktoon",
                "Laag naar hoog", "Eigen toonhoogte", "Morsetool", "Gehoorleeftijd"]
 
