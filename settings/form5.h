@@ -25,7 +25,7 @@ class Form5 : public ui::Window {
   Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& errors,
         std::function<void()> unload_all);
 
-  ui::Label Label7{*this, "Label7", {16, 17, 80, 18}, std::string(kEnglishAgreement.language)};
+  ui::Label Label7{*this, "Label7", {16, 17, 72, 18}, std::string(kEnglishAgreement.language)};
   ui::ComboBox Combo1{*this, "Combo1", {92, 14, 160, 24}};
   ui::Label Label1{
       *this, "Label1", {16, 52, 568, 50}, kEnglishAgreement.Sentence(kEnglishAgreement.upload)};

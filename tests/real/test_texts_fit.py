@@ -1,13 +1,14 @@
 """No caption is cut off in its control, in either language, at 96 and 144 DPI."""
 
 from collections.abc import Iterator
+from itertools import combinations
 
 import pytest
 
 from bench import PROJECT, Bench, wait_for
 from program import (FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, MODES, Folders,
                      Tonmira)
-from window import Driver, User, Window
+from window import Driver, Place, User, Window
 
 SCREENS = PROJECT / "out" / "screens"
 DUTCH_MODES = ["Lage toon", "Gemiddelde toon", "Hoge toon", "Extreme toon", "Spooktoon",
@@ -83,6 +84,16 @@ def test_no_caption_is_cut_off(bench: Bench, user: User, driver_at_dpi: tuple[Dr
         program.finish()
 
 
+def lies_in(inner: Place, outer: Place) -> bool:
+    return (outer.x <= inner.x and inner.x + inner.width <= outer.x + outer.width
+            and outer.y <= inner.y and inner.y + inner.height <= outer.y + outer.height)
+
+
+def overlap(a: Place, b: Place) -> bool:
+    return (a.x < b.x + b.width and b.x < a.x + a.width
+            and a.y < b.y + b.height and b.y < a.y + a.height)
+
+
 @pytest.mark.parametrize(("language", "index", "refusal"), [
     ("en", 0, "I don't want to send anonymous data"),
     ("nl", 1, "Ik wil geen anonieme data verzenden"),
@@ -99,11 +110,8 @@ def test_the_first_run_dialog_shows_all_of_its_texts(
         user.activate(dialog)
         user.screenshot(dialog, SCREENS / f"first-run-{language}-{dpi}.png")
         assert cut_off(driver, dialog) == []
-        # Nothing reaches beyond the window.
-        window = dialog.place()
-        for control in dialog.controls():
-            place = control.place
-            assert place.x >= window.x and place.x + place.width <= window.x + window.width
-            assert place.y >= window.y and place.y + place.height <= window.y + window.height
+        places = [control.place for control in dialog.controls()]
+        assert all(lies_in(place, dialog.place()) for place in places)
+        assert not any(overlap(a, b) for a, b in combinations(places, 2))
     finally:
         program.finish()
