@@ -126,8 +126,10 @@ void Form1::FinishStart() {
     program_files::Form9& player = others_.PlayerWindow();
     player.SetFilePath(command_line_file_);
     player.SetSoundMode(state_.SoundBit);
-    // Returns when the file has been played once.
-    player.Show();
+    // Loading shows it, unless the file is to be heard only, and returns when that has been played.
+    // Showing it once more then would bring it to the front.
+    player.Load();
+    if (!player.Visible()) player.Show();
     Hide();
   }
   if (state_.MicrophoneON == 1) StartCapture();

@@ -16,6 +16,20 @@ using GetOpenFileNameFunction = BOOL(WINAPI*)(LPOPENFILENAMEW);
 // No path of the system is longer.
 constexpr std::size_t kPathSpace = 32768;
 
+// OFN_NOCHANGEDIR is not documented to serve for the dialog that opens files.
+class CurrentFolderKeeper {
+ public:
+  CurrentFolderKeeper() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
+    GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data());
+  }
+  ~CurrentFolderKeeper() { SetCurrentDirectoryW(folder_.c_str()); }
+  CurrentFolderKeeper(const CurrentFolderKeeper&) = delete;
+  CurrentFolderKeeper& operator=(const CurrentFolderKeeper&) = delete;
+
+ private:
+  std::wstring folder_;
+};
+
 // The system wants each part ended by a NUL and the whole by another one.
 std::wstring SystemFilter(const std::string& filter) {
   std::wstring parts = Widen(filter + "|");
@@ -43,6 +57,7 @@ std::string WindowsFileDialogs::Open(const OpenDialog& dialog) {
   request.nMaxFile = static_cast<DWORD>(path.size());
   request.Flags =
       OFN_EXPLORER | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST | OFN_NOCHANGEDIR;
+  const CurrentFolderKeeper folder;
   if (!get_open_file_name(&request)) return "";
   return Narrow(path.c_str());
 }

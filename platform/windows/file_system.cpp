@@ -15,6 +15,17 @@ constexpr DWORD kShareWithWriters = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SH
 constexpr DWORD kShareWithReaders = FILE_SHARE_READ | FILE_SHARE_DELETE;
 constexpr DWORD kLongestPause = 64;  // ms; the pauses double, so all of them last twice as long
 
+// Names of this length or more reach the system only with this mark, which wants a full path.
+constexpr std::size_t kLongName = MAX_PATH - 12;
+constexpr wchar_t kLongMark[] = L"\\\\?\\";
+
+std::wstring NameOf(const std::string& path) {
+  const std::wstring name = Widen(path);
+  if (name.size() < kLongName || name.starts_with(kLongMark)) return name;
+  if (name.starts_with(L"\\\\")) return kLongMark + (L"UNC" + name.substr(1));
+  return name[1] == L':' ? kLongMark + name : name;
+}
+
 // Calls `attempt` until it succeeds or trying again is no use; returns the system's last error.
 template <typename Attempt>
 DWORD Insist(const std::wstring& path, Attempt attempt) {
@@ -84,12 +95,12 @@ class WindowsOutputFile final : public OutputFile {
 }  // namespace
 
 bool WindowsFileSystem::Exists(const std::string& path) {
-  const DWORD attributes = GetFileAttributesW(Widen(path).c_str());
+  const DWORD attributes = GetFileAttributesW(NameOf(path).c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 std::unique_ptr<InputFile> WindowsFileSystem::OpenForReading(const std::string& path) {
-  std::wstring name = Widen(path);
+  std::wstring name = NameOf(path);
   KernelHandle file;
   const DWORD error = Insist(name, [&] {
     file = Own(CreateFileW(name.c_str(), GENERIC_READ, kShareWithWriters, nullptr, OPEN_EXISTING,
@@ -104,7 +115,7 @@ std::unique_ptr<InputFile> WindowsFileSystem::OpenForReading(const std::string& 
 }
 
 std::unique_ptr<OutputFile> WindowsFileSystem::OpenForWriting(const std::string& path) {
-  std::wstring name = Widen(path);
+  std::wstring name = NameOf(path);
   KernelHandle file;
   const DWORD error = Insist(name, [&] {
     file = Own(CreateFileW(name.c_str(), GENERIC_WRITE, kShareWithReaders, nullptr, OPEN_ALWAYS,
@@ -116,8 +127,8 @@ std::unique_ptr<OutputFile> WindowsFileSystem::OpenForWriting(const std::string&
 }
 
 void WindowsFileSystem::Rename(const std::string& from, const std::string& to) {
-  const std::wstring source = Widen(from);
-  const std::wstring target = Widen(to);
+  const std::wstring source = NameOf(from);
+  const std::wstring target = NameOf(to);
   const DWORD error = Insist(target, [&] {
     return MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
   });
@@ -125,7 +136,7 @@ void WindowsFileSystem::Rename(const std::string& from, const std::string& to) {
 }
 
 bool WindowsFileSystem::Delete(const std::string& path) {
-  const std::wstring name = Widen(path);
+  const std::wstring name = NameOf(path);
   const DWORD error = Insist(name, [&] { return DeleteFileW(name.c_str()) != 0; });
   if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return false;
   if (error != ERROR_SUCCESS) ThrowFileError(error, name);

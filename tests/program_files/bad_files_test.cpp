@@ -158,7 +158,7 @@ TEST_F(BadFileTest, AFileThatIsGoneBeforeTheLoadIsIllegal) {
   Run();
   player().SetFilePath(kFile);
   player().SetSoundMode("256");
-  EXPECT_TRUE(sim.Run([this] { player().Show(); }));
+  EXPECT_TRUE(sim.Run([this] { player().Load(); }));
   EXPECT_EQ(Messages(), (Lines{kIllegal}));
   EXPECT_EQ(TonesPlayed(), 0u);
 }

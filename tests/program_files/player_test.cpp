@@ -109,7 +109,7 @@ TEST_F(WholePlayTest, AnUnknownSoundModeOnlyWaits) {
   Run();
   player().SetFilePath(kFile);
   player().SetSoundMode("8");
-  EXPECT_FALSE(sim.Run([this] { player().Show(); }));
+  EXPECT_FALSE(sim.Run([this] { player().Load(); }));
   EXPECT_EQ(Journal(), Join({kBegin,
                              kFirst,
                              {"sleep 50", "sleep 500"},

@@ -4,6 +4,7 @@ import shutil
 from collections.abc import Callable, Iterator
 from pathlib import Path
 
+import numpy as np
 import pytest
 
 from bench import PROGRAM, Bench, wait_for
@@ -12,6 +13,7 @@ from measuring import RATE
 from playing import helpers_running, press_play, start
 from program import Folders, Tonmira
 from sound import Recorder
+from test_texts_fit import cut_off, set_dpi
 from tone_programs import CHUNK, EXTRA_MS, Entries, Heard, file_of, open_file, tones_in
 from window import Driver, User, Window
 
@@ -185,15 +187,17 @@ def test_an_invisible_file_is_heard_without_a_window_and_ends(
 
 
 def test_a_damaged_file_shows_its_messages_one_after_another(
-        opened: Opener, user: User, recorder: Recorder) -> None:
+        bench: Bench, driver: Driver, user: User, recorder: Recorder) -> None:
     lines = file_of([(440, 1000)]).split(b"\r\n")
     lines[0], lines[2], lines[4] = b"invalid", b"{237}", b"{seen}"
-    program = opened(b"\r\n".join(lines))
-    illegal = program_path_text(program)
+    path = bench.new_folder("tones") / "damaged.tnf"
+    path.write_bytes(b"\r\n".join(lines))
+    program = open_file(bench, driver, path)
+    illegal = bench.windows_path(path) + " is not a legal tnf file!"
     for number, text in enumerate(
             [illegal, "Your Tonmira version is not compatible with this file!", illegal]):
         message = program.window("Error")
-        wait_for(lambda m=message, t=text: any(t in shown for shown in m.texts()), text)
+        wait_for(lambda m=message, t=text: t in m.texts(), text)
         assert program.titles() == ["Error"]
         user.screenshot(message, SCREENS / f"player-message-{number + 1}.png")
         message.press("OK")
@@ -201,10 +205,6 @@ def test_a_damaged_file_shows_its_messages_one_after_another(
     recorder.wait_for_tone()
     assert program.titles() == []
     program.wait_for_end(30)
-
-
-def program_path_text(program: Tonmira) -> str:
-    return " is not a legal tnf file!"
 
 
 @pytest.mark.parametrize("content", [b"", b"x", b"\0" * 5000, b"x" * (10 << 20)],
@@ -228,6 +228,21 @@ def test_any_name_reaches_the_player_whole(bench: Bench, driver: Driver, name: s
     program = open_file(bench, driver, path, quoted=quoted)
     try:
         wait_for(lambda: label(program.window(), PATH) == bench.windows_path(path), "the path")
+    finally:
+        program.finish()
+
+
+def test_a_path_longer_than_older_programs_know_is_played(bench: Bench, driver: Driver) -> None:
+    folder = bench.new_folder("tones") / ("a" * 120) / ("b" * 120)
+    folder.mkdir(parents=True)
+    path = folder / "long.tnf"
+    path.write_bytes(file_of([(440, 100)]))
+    program = open_file(bench, driver, path)
+    try:
+        player = program.window()
+        wait_until_played(player)
+        assert label(player, PATH) == bench.windows_path(path)
+        assert label(player, TONES) == "1"
     finally:
         program.finish()
 
@@ -347,10 +362,8 @@ def test_a_file_is_heard_while_the_main_window_plays(
         program.finish()
 
 
-def seconds_of(samples, pitch: int) -> float:
+def seconds_of(samples: np.ndarray, pitch: int) -> float:
     """How long a pitch is to be heard, be it among others."""
-    import numpy as np
-
     piece = RATE // 10
     turning = np.exp(-2j * np.pi * pitch / RATE * np.arange(piece)) * np.hanning(piece)
     pieces = samples[: len(samples) // piece * piece].reshape(-1, piece)
@@ -364,11 +377,26 @@ def long_folder(bench: Bench) -> Path:
     return folder
 
 
+def test_pointing_at_a_path_shows_all_of_it(bench: Bench, driver: Driver, user: User) -> None:
+    path = long_folder(bench) / "a siren that rises and falls.tnf"
+    path.write_bytes(file_of([(440, 100)]))
+    program = open_file(bench, driver, path)
+    try:
+        player = program.window()
+        wait_until_played(player)
+        user.activate(player)
+        user.point_at(next(c for c in player.controls() if c.id == 100 + PATH))
+        wait_for(lambda: any(w.kind == "tooltips_class32" and w.visible
+                             and w.title == bench.windows_path(path) for w in driver.windows()),
+                 "the tool tip")
+        bench.run("import", "-window", "root", str(SCREENS / "player-tip.png"))
+    finally:
+        program.finish()
+
+
 @pytest.mark.parametrize("dpi", [96, 144])
 def test_a_long_path_is_shortened_and_nothing_is_cut_off(
         bench: Bench, user: User, dpi: int) -> None:
-    from test_texts_fit import cut_off, set_dpi
-
     path = long_folder(bench) / "a siren that rises and falls.tnf"
     path.write_bytes(file_of([(32000, 3000), (880, 31000)]))
     set_dpi(bench, dpi)
