@@ -182,10 +182,19 @@ class Bench:
         template = self._prefix_template()
         subprocess.run(["cp", "-a", "--reflink=auto", template, self.prefix], check=True)
         (self.prefix / "wineserver").unlink(missing_ok=True)
+        self._make_user_folders()
         # Ends every process of the prefix, then waits until the server is gone.
         self._stack.callback(self._end_wine)
         # A server that outlives its programs keeps later starts short and alike.
         self.run("wineserver", "-p")
+
+    def _make_user_folders(self) -> None:
+        """The desktop and the like are links into the home of the bench that made the template.
+        Without a desktop the system's file dialog shows no files and opens none."""
+        for folder in (self.prefix / "drive_c" / "users").glob("*/*"):
+            if folder.is_symlink() and not folder.exists():
+                folder.unlink()
+                folder.mkdir()
 
     def _end_wine(self) -> None:
         for argument in ("-k", "-w"):

@@ -6,15 +6,13 @@ from pathlib import Path
 import numpy as np
 
 from bench import Bench
-from measuring import RATE, loud_stretches, short_pitch
+from measuring import RATE, loud_stretches, measure
 from program import GOOD_SETTINGS, Folders, Tonmira
 from window import Driver
 
 # Tones follow each other after a pause of some 15 ms.
 CHUNK = RATE // 500
 EXTRA_MS = 50
-# Shorter ones are no tones but what a busy sound card makes of their ends.
-SHORTEST_S = 0.06
 
 Entries = list[tuple[int, int]]  # pitch in Hz, duration in ms
 
@@ -52,9 +50,10 @@ def tones_in(samples: np.ndarray, chunk: int = CHUNK) -> list[Heard]:
     as one."""
     tones: list[Heard] = []
     for first, end in loud_stretches(samples, chunk):
-        if (end - first) / RATE < SHORTEST_S:
+        steady = measure(samples[first:end])
+        if steady is None:
             continue
-        tone = Heard(short_pitch(samples[first:end]), first / RATE, (end - first) / RATE)
+        tone = Heard(steady.frequency_hz, first / RATE, (end - first) / RATE)
         if tones and abs(tones[-1].pitch_hz / max(tone.pitch_hz, 1) - 1) < 5e-3:
             tones[-1].length_s = tone.start_s + tone.length_s - tones[-1].start_s
         else:
