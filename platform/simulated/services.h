@@ -42,9 +42,15 @@ class FixedClock : public Clock {
 
 class ScriptedRandom : public Random {
  public:
+  std::deque<double> first;  // these, and then always
   double next = 0.5;
 
-  double Next() override { return next; }
+  double Next() override {
+    if (first.empty()) return next;
+    const double number = first.front();
+    first.pop_front();
+    return number;
+  }
 };
 
 class FakeProcesses : public Processes {

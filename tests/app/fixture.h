@@ -44,6 +44,14 @@ class ProgramTest : public testing::Test {
 
   Form1& main() { return program->form1; }
 
+  // Calls Terminate with a state of its own. True when it ended the program.
+  bool RunTerminate(base::MainState& state) {
+    display::SineAnimation sine(sim.services, state, main().Picture1, program->Errors());
+    Program service(sim.services, state,
+                    Scene{main(), *program, main(), *program, *program, *program, sine});
+    return sim.Run([&] { service.Terminate(); });
+  }
+
   Lines Messages() const { return sim.journal.Texts({Kind::kMessage}); }
 
   // The log without its date, time and empty line.

@@ -80,9 +80,7 @@ TEST_F(ShutdownTest, TerminateStopsEverythingAndUnloadsEveryWindow) {
   Run();
   sim.journal.Clear();
   base::MainState state;
-  Program service(sim.services, state,
-                  Scene{main(), *program, main(), *program, *program, *program});
-  EXPECT_TRUE(sim.Run([&] { service.Terminate(); }));
+  EXPECT_TRUE(RunTerminate(state));
   EXPECT_EQ(state.stop_flag, 1);
   EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess}), (Lines{"Form1 hidden", "end"}));
 }

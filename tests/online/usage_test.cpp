@@ -99,9 +99,7 @@ TEST_F(UsageTest, TerminateHandsTheLogOverOnlyWithConsent) {
     sim.files.Delete(kHandOver);
     base::MainState state;
     state.SendData = flag;
-    Program service(sim.services, state,
-                    Scene{main(), *program, main(), *program, *program, *program});
-    EXPECT_TRUE(sim.Run([&] { service.Terminate(); }));
+    EXPECT_TRUE(RunTerminate(state));
     EXPECT_EQ(sim.files.Exists(kHandOver), flag == 1);
     EXPECT_EQ(Started(), flag == 1 ? (Lines{kUploadStarted, "end"}) : (Lines{"end"}));
   }
@@ -127,29 +125,16 @@ TEST_F(UsageTest, ANumberThatDoesNotFitGoesToTheErrorTrap) {
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
-// Too large at the first drawing, 1 from then on.
-class OnceTooLarge : public platform::Random {
- public:
-  double Next() override { return std::exchange(next_, 0.0); }
-
- private:
-  double next_ = 0.99;
-};
-
 TEST_F(UsageTest, ANumberThatDoesNotFitOnceIsReportedAndTheErrorDialogEndsTheProgram) {
   PutSettings("n", "y");
   sim.clock.now = {2026, 12, 31, 23, 59, 59};
-  OnceTooLarge random;
-  const platform::Platform& s = sim.services;
-  platform::Platform services{s.files,      s.code_page, s.environment, s.clock,        random,
-                              s.pump,       s.processes, s.waves,       s.direct_sound, s.beeper,
-                              s.downloader, s.screen,    s.version,     s.messages,     s.windows};
-  program = std::make_unique<Application>(services);
+  sim.random.first = {0.99};
+  sim.random.next = 0;
   CloseAt(1s);
   LeaveTheErrorDialogAt(2s);
   // Leaving the dialog unloads a main window whose shutdown has not finished.
   sim.messages.answers = {platform::kAnswerYes};
-  EXPECT_TRUE(sim.Run([this] { program->Run(); }));
+  EXPECT_TRUE(Run());
   EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  6,   Error value:  106");
   EXPECT_EQ(Messages(), (Lines{"critical yes/no [Error] Do you want to forcibly close tonmira?"}));
   // What went to the maker is the error, under the number that did fit.
