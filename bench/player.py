@@ -16,7 +16,7 @@ sys.path.insert(0, str(PROJECT / "tests" / "real"))
 
 from bench import Bench, wait_for  # noqa: E402
 from sound import Recorder  # noqa: E402
-from tone_programs import CHUNK, EXTRA_MS, Entries, Heard, file_of, open_file, tones_in  # noqa: E402
+from tone_programs import EXTRA_MS, Entries, Heard, file_of, open_file, tones_in  # noqa: E402
 from window import Driver  # noqa: E402
 
 PITCHES = [440, 880, 660, 1320, 550, 1100, 2200, 4400, 3300, 1650, 990, 495]
@@ -35,7 +35,7 @@ def play(bench: Bench, driver: Driver, recorder: Recorder, sound_bit: str,
         player = program.window()
         wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", 600)
         recorder.record(0.5)
-        return tones_in(recorder.samples(first), CHUNK)
+        return tones_in(recorder.samples(first))
     finally:
         program.finish()
 
@@ -60,7 +60,7 @@ def lengths(bench: Bench, driver: Driver, recorder: Recorder, sound_bit: str) ->
     period = 1000 * np.diff([tone.start_s for tone in heard]) - nominal
     pitch = max(abs(tone.pitch_hz / wanted - 1) for tone, wanted in zip(heard, PITCHES))
     print(f"sound mode {sound_bit}: nominal {nominal} ms; {spread('length median', length)}; "
-          f"{spread('beginning to beginning median', period)}; worst pitch {100 * pitch:.4f} %")
+          f"{spread('beginning to beginning median', period)}; pitch off by at most {1e6 * pitch:.1f} ppm")
 
 
 def drift(bench: Bench, driver: Driver, recorder: Recorder) -> None:
@@ -76,8 +76,8 @@ def drift(bench: Bench, driver: Driver, recorder: Recorder) -> None:
     late = starts[-1] - starts[0] - nominal * (len(heard) - 1)
     slope, begin = np.polyfit(np.arange(len(starts)), starts, 1)
     uneven = np.abs(starts - (begin + slope * np.arange(len(starts)))).max()
-    print(f"  last begins {late:+.0f} ms after its nominal moment, {late / (len(heard) - 1):+.2f} ms "
-          f"a tone; {spread('step median', steps - nominal)}; off an even pace by at most "
+    print(f"  last begins {late:+.0f} ms after its nominal moment, "
+          f"{late / (len(heard) - 1):+.2f} ms a tone; {spread('step median', steps - nominal)}; off an even pace by at most "
           f"{uneven:.1f} ms")
 
 

@@ -1,18 +1,23 @@
 """Tone program files, and what is heard of them."""
 
+from collections.abc import Callable
 from dataclasses import dataclass
 from pathlib import Path
 
 import numpy as np
 
-from bench import Bench
+from bench import Bench, wait_for
 from measuring import RATE, loud_stretches, measure
 from program import GOOD_SETTINGS, Folders, Tonmira
-from window import Driver
+from sound import Recorder
+from window import Driver, Window
 
 # Tones follow each other after a pause of some 15 ms.
 CHUNK = RATE // 500
 EXTRA_MS = 50
+
+# Labels of the player by their place in the tab order.
+PATH, PLAYED, TONES, PITCH, TIME = 1, 2, 4, 6, 8
 
 Entries = list[tuple[int, int]]  # pitch in Hz, duration in ms
 
@@ -59,3 +64,31 @@ def tones_in(samples: np.ndarray, chunk: int = CHUNK) -> list[Heard]:
         else:
             tones.append(tone)
     return tones
+
+
+def label(player: Window, number: int) -> str:
+    """The text of a label by its place in the tab order."""
+    return next(c for c in player.controls() if c.id == 100 + number).caption
+
+
+def wait_until_played(player: Window, seconds: float = 60) -> None:
+    wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", seconds)
+
+
+def hear(recorder: Recorder, wanted: list[int], play: Callable[[], None]) -> list[Heard]:
+    """What is heard while `play` runs; taken again when it is not what is wanted."""
+    heard: list[Heard] = []
+    for _ in range(3):
+        recorder.wait_for_silence()
+        first = recorder.frames()
+        play()
+        recorder.record(0.5)
+        heard = tones_in(recorder.samples(first))
+        if matches(heard, wanted):
+            break
+    return heard
+
+
+def matches(heard: list[Heard], wanted: list[int]) -> bool:
+    return len(heard) == len(wanted) and all(
+        abs(tone.pitch_hz / pitch - 1) < 1e-3 for tone, pitch in zip(heard, wanted))
