@@ -56,7 +56,8 @@ std::unique_ptr<RunningDownload> FakeDownloader::Begin(const std::string& link,
                                                        std::size_t most_bytes) {
   journal_.Add(Kind::kDownload, "download " + link + " to " + path);
   Answer answer = answers[link];
-  if (answer.content && answer.content->size() > most_bytes) answer.content.reset();
+  const std::size_t size = answer.content ? answer.content->size() : 0;
+  if (size == 0 || size > most_bytes) answer.content.reset();
   const auto state = std::make_shared<State>();
   const auto finish = [state, content = std::move(answer.content)] {
     state->over = true;

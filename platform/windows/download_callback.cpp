@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 #include <iterator>
+#include <utility>
 
 namespace platform::windows {
 namespace {
@@ -33,23 +34,27 @@ STDMETHODIMP DownloadCallback::QueryInterface(REFIID id, void** object) {
   return S_OK;
 }
 
-STDMETHODIMP DownloadCallback::OnStartBinding(DWORD, IBinding* binding) {
-  binding_ = Query<IBinding>(binding);
-  return S_OK;
+void DownloadCallback::End() {
+  if (std::exchange(ended_, true)) return;
+  if (binding_) binding_->Abort();
 }
 
-STDMETHODIMP DownloadCallback::OnStopBinding(HRESULT, LPCWSTR) {
+STDMETHODIMP DownloadCallback::OnStartBinding(DWORD, IBinding* binding) {
+  binding_ = Query<IBinding>(binding);
+  return ended_ ? E_ABORT : S_OK;
+}
+
+STDMETHODIMP DownloadCallback::OnStopBinding(HRESULT result, LPCWSTR) {
   binding_.reset();
+  if (ended_ || FAILED(result)) DeleteFileW(arrival_.c_str());
   return S_OK;
 }
 
 STDMETHODIMP DownloadCallback::OnProgress(ULONG progress, ULONG end, ULONG status, LPCWSTR text) {
   const bool astray = status == BINDSTATUS_REDIRECTING && text != nullptr && !IsWebAddress(text);
-  if (!given_up_ && !astray && std::max(progress, end) <= most_bytes_) return S_OK;
-  // Not every service heeds the answer.
-  if (!ended_ && binding_) binding_->Abort();
-  ended_ = true;
-  return E_ABORT;
+  // Not every service heeds the answer alone.
+  if (astray || std::max(progress, end) > most_bytes_) End();
+  return ended_ ? E_ABORT : S_OK;
 }
 
 STDMETHODIMP DownloadCallback::GetBindInfo(DWORD* flags, BINDINFO* info) {

@@ -7,26 +7,27 @@
 #include <servprov.h>
 #include <urlmon.h>
 
-#include <atomic>
 #include <cstddef>
+#include <string>
 
 #include "platform/windows/com_owner.h"
 
 namespace platform::windows {
 
 // Wants the newest version and no dialog: a certificate that is not trusted and a request for a
-// password end the download. It ends as well when more than `most_bytes` come, when it is sent to
-// anything but a web address, and when `given_up` is true, which must outlive the call of the
-// service.
+// password end the download. It ends as well when more than `most_bytes` come and when it is sent
+// to anything but a web address. What the service saves of a download that ended, the file
+// `arrival`, is deleted.
 class DownloadCallback final : public IBindStatusCallback,
                                public IHttpSecurity,
                                public IAuthenticate,
                                public IServiceProvider {
  public:
-  DownloadCallback(std::size_t most_bytes, const std::atomic<bool>& given_up)
-      : most_bytes_(most_bytes), given_up_(given_up) {}
+  DownloadCallback(std::wstring arrival, std::size_t most_bytes)
+      : arrival_(std::move(arrival)), most_bytes_(most_bytes) {}
 
-  // Whether it ended the download.
+  // Ends the download; to be called on the thread that downloads.
+  void End();
   bool ended() const { return ended_; }
 
   STDMETHODIMP QueryInterface(REFIID id, void** object) override;
@@ -38,7 +39,7 @@ class DownloadCallback final : public IBindStatusCallback,
   STDMETHODIMP GetPriority(LONG*) override { return E_NOTIMPL; }
   STDMETHODIMP OnLowResource(DWORD) override { return S_OK; }
   STDMETHODIMP OnProgress(ULONG progress, ULONG end, ULONG status, LPCWSTR text) override;
-  STDMETHODIMP OnStopBinding(HRESULT, LPCWSTR) override;
+  STDMETHODIMP OnStopBinding(HRESULT result, LPCWSTR) override;
   STDMETHODIMP GetBindInfo(DWORD* flags, BINDINFO* info) override;
   STDMETHODIMP OnDataAvailable(DWORD, DWORD, FORMATETC*, STGMEDIUM*) override { return S_OK; }
   STDMETHODIMP OnObjectAvailable(REFIID, IUnknown*) override { return S_OK; }
@@ -60,8 +61,8 @@ class DownloadCallback final : public IBindStatusCallback,
   friend class ReferenceCount;
 
   ReferenceCount references_;
+  std::wstring arrival_;
   std::size_t most_bytes_;
-  const std::atomic<bool>& given_up_;
   ComOwner<IBinding> binding_;
   bool ended_ = false;
 };

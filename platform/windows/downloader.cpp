@@ -19,6 +19,8 @@ using DownloadFunction = HRESULT(WINAPI*)(LPUNKNOWN, LPCWSTR, LPCWSTR, DWORD, LP
 
 enum class Stage { kRunning, kArrived, kFailed };
 
+constexpr UINT kEnd = WM_APP;
+
 // What the thread and whoever waits for it share.
 struct Job {
   std::wstring link;
@@ -28,10 +30,55 @@ struct Job {
   DWORD waiter = 0;  // thread
   std::atomic<Stage> stage{Stage::kRunning};
   std::atomic<bool> given_up{false};
+  std::atomic<HWND> ear{nullptr};  // kEnd to this window of the thread ends the download
 };
 using JobPointer = std::shared_ptr<Job>;
 
-bool Fetch(const Job& job) {
+LRESULT CALLBACK EarProcedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  if (message != kEnd) return DefWindowProcW(handle, message, wparam, lparam);
+  reinterpret_cast<DownloadCallback*>(GetWindowLongPtrW(handle, GWLP_USERDATA))->End();
+  return 0;
+}
+
+// A window that is nowhere on the screen. The service lets the messages of its thread be handled
+// while it waits for the host, so what is to happen on that thread can be sent there.
+class Ear {
+ public:
+  Ear(Job& job, DownloadCallback& callback) : job_(job) {
+    const HWND handle =
+        CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    if (handle == nullptr) return;
+    SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&callback));
+    SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EarProcedure));
+    job_.ear = handle;
+  }
+  ~Ear() {
+    if (const HWND handle = job_.ear.exchange(nullptr)) DestroyWindow(handle);
+  }
+  Ear(const Ear&) = delete;
+  Ear& operator=(const Ear&) = delete;
+
+ private:
+  Job& job_;
+};
+
+// Services differ on whether a host that says nothing at all and hangs up is a failure.
+bool HoldsSomething(const std::wstring& path) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  return GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) &&
+         (data.nFileSizeLow != 0 || data.nFileSizeHigh != 0);
+}
+
+bool Fetch(Job& job, DownloadFunction download) {
+  const ComOwner<DownloadCallback> callback(new DownloadCallback(job.arrival, job.most_bytes));
+  const Ear ear(job, *callback);
+  if (job.given_up) return false;
+  const HRESULT result =
+      download(nullptr, job.link.c_str(), job.arrival.c_str(), 0, callback.get());
+  return result == S_OK && !callback->ended() && HoldsSomething(job.arrival);
+}
+
+bool FetchWithService(Job& job) {
   const HMODULE ole = LoadSystemLibrary(L"ole32.dll");
   const HMODULE service = LoadSystemLibrary(L"urlmon.dll");
   const auto initialize = FunctionOf<InitializeFunction>(ole, "CoInitializeEx");
@@ -39,17 +86,15 @@ bool Fetch(const Job& job) {
   const auto download = FunctionOf<DownloadFunction>(service, "URLDownloadToFileW");
   if (initialize == nullptr || uninitialize == nullptr || download == nullptr) return false;
   if (FAILED(initialize(nullptr, COINIT_APARTMENTTHREADED))) return false;
-  const ComOwner<DownloadCallback> callback(new DownloadCallback(job.most_bytes, job.given_up));
-  const HRESULT result =
-      download(nullptr, job.link.c_str(), job.arrival.c_str(), 0, callback.get());
+  const bool arrived = Fetch(job, download);
   uninitialize();
-  return result == S_OK && !callback->ended() && !job.given_up;
+  return arrived;
 }
 
 DWORD WINAPI RunJob(void* parameter) noexcept {
   const std::unique_ptr<JobPointer> owner(static_cast<JobPointer*>(parameter));
   Job& job = **owner;
-  const bool arrived = Fetch(job);
+  const bool arrived = FetchWithService(job);
   if (!arrived) DeleteFileW(job.arrival.c_str());
   job.stage = arrived ? Stage::kArrived : Stage::kFailed;
   // Whichever of the two sides is later to say so deletes what nobody takes any more.
@@ -63,10 +108,15 @@ DWORD WINAPI RunJob(void* parameter) noexcept {
 
 class ThreadDownload final : public RunningDownload {
  public:
-  explicit ThreadDownload(JobPointer job) : job_(std::move(job)) {}
+  ThreadDownload(JobPointer job, DWORD thread) : job_(std::move(job)), thread_(thread) {}
 
   ~ThreadDownload() override {
     job_->given_up = true;
+    if (const HWND ear = job_->ear) {
+      SendNotifyMessageW(ear, kEnd, 0, 0);
+      // The service may sleep until a message is posted.
+      PostThreadMessageW(thread_, WM_NULL, 0, 0);
+    }
     if (job_->stage == Stage::kArrived) DeleteFileW(job_->arrival.c_str());
   }
 
@@ -79,6 +129,7 @@ class ThreadDownload final : public RunningDownload {
 
  private:
   JobPointer job_;
+  DWORD thread_;
 };
 
 }  // namespace
@@ -94,13 +145,14 @@ std::unique_ptr<RunningDownload> WindowsDownloader::Begin(const std::string& lin
   job->most_bytes = most_bytes;
   job->waiter = GetCurrentThreadId();
   auto owner = std::make_unique<JobPointer>(job);
-  const KernelHandle thread = Own(CreateThread(nullptr, 0, RunJob, owner.get(), 0, nullptr));
+  DWORD thread_id = 0;
+  const KernelHandle thread = Own(CreateThread(nullptr, 0, RunJob, owner.get(), 0, &thread_id));
   if (thread) {
     owner.release();
   } else {
     job->stage = Stage::kFailed;
   }
-  return std::make_unique<ThreadDownload>(job);
+  return std::make_unique<ThreadDownload>(job, thread_id);
 }
 
 }  // namespace platform::windows

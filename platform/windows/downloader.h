@@ -1,9 +1,9 @@
 // Downloads through the system's URL-to-file service (urlmon.dll), each on a thread of its own that
 // also loads what the service needs.
 //
-// The file arrives under another name, which is deleted by the thread unless it gets its own. A
-// download that is given up ends as soon as the service lets it: at the next byte, or when the
-// service itself has enough of a silent host.
+// The file arrives under another name and is deleted by the thread unless it gets its own. A
+// download that is given up ends on its own thread, as soon as the service lets messages be
+// handled there; nobody waits for that.
 #pragma once
 
 #include "platform/downloader.h"

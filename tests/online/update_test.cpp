@@ -218,7 +218,7 @@ TEST_P(StrangersFileTest, BringsNoDialogAndTheMainWindowComes) {
 
 INSTANTIATE_TEST_SUITE_P(
     Content, StrangersFileTest,
-    testing::Values("", "\r\n", "23", "abc", "-999\r\nhttp://a", std::string("\0\0\0", 3),
+    testing::Values("\r\n", "23", "abc", "-999\r\nhttp://a", std::string("\0\0\0", 3),
                     "<!DOCTYPE html><html><head><title>Log in</title></head></html>",
                     "<html>\n<head>\n<title>Log in</title>\n</head>\n<body>\n</body>\n</html>\n999",
                     "\xFF\xFE"

@@ -35,6 +35,7 @@ LOG_OF_START = [
     r"Microphone=1",
     r"MicrophoneON=y",
     r"> Bit: 128",
+    r"> Update error",
     r">> Program starting finished",
 ]
 
