@@ -3,10 +3,22 @@
 #include <algorithm>
 #include <cwchar>
 #include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace platform::windows {
 namespace {
+
+constexpr wchar_t kAsItIs[] = L"Accept-Encoding: identity\r\n";
+
+// The value of a header among the lines of an answer, or null.
+const wchar_t* HeaderValue(const wchar_t* headers, std::wstring_view name) {
+  const std::wstring line = L"\n" + std::wstring(name) + L":";
+  for (const wchar_t* at = headers; *at != L'\0'; ++at) {
+    if (_wcsnicmp(at, line.c_str(), line.size()) == 0) return at + line.size();
+  }
+  return nullptr;
+}
 
 bool IsWebAddress(const wchar_t* address) {
   const wchar_t* const schemes[] = {L"http://", L"https://"};
@@ -20,6 +32,8 @@ bool IsWebAddress(const wchar_t* address) {
 STDMETHODIMP DownloadCallback::QueryInterface(REFIID id, void** object) {
   if (id == __uuidof(IUnknown) || id == __uuidof(IBindStatusCallback)) {
     *object = static_cast<IBindStatusCallback*>(this);
+  } else if (id == __uuidof(IHttpNegotiate)) {
+    *object = static_cast<IHttpNegotiate*>(this);
   } else if (id == __uuidof(IHttpSecurity) || id == __uuidof(IWindowForBindingUI)) {
     *object = static_cast<IHttpSecurity*>(this);
   } else if (id == __uuidof(IAuthenticate)) {
@@ -54,6 +68,26 @@ STDMETHODIMP DownloadCallback::OnProgress(ULONG progress, ULONG end, ULONG statu
   const bool astray = status == BINDSTATUS_REDIRECTING && text != nullptr && !IsWebAddress(text);
   // Not every service heeds the answer alone.
   if (astray || std::max(progress, end) > most_bytes_) End();
+  return ended_ ? E_ABORT : S_OK;
+}
+
+// The service frees the text.
+STDMETHODIMP DownloadCallback::BeginningTransaction(LPCWSTR, LPCWSTR, DWORD, LPWSTR* headers) {
+  *headers = static_cast<LPWSTR>(allocate_(sizeof(kAsItIs)));
+  if (*headers != nullptr) std::copy(std::begin(kAsItIs), std::end(kAsItIs), *headers);
+  return S_OK;
+}
+
+STDMETHODIMP DownloadCallback::OnResponse(DWORD, LPCWSTR headers, LPCWSTR, LPWSTR* more) {
+  if (more != nullptr) *more = nullptr;
+  const wchar_t* const length =
+      headers == nullptr ? nullptr : HeaderValue(headers, L"Content-Length");
+  const unsigned long long bytes = length == nullptr ? 0 : std::wcstoull(length, nullptr, 10);
+  if (length == nullptr || bytes > most_bytes_) {
+    End();
+  } else if (HeaderValue(headers, L"Content-Encoding") == nullptr) {
+    length_ = bytes;
+  }
   return ended_ ? E_ABORT : S_OK;
 }
 

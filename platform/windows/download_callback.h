@@ -8,27 +8,37 @@
 #include <urlmon.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/windows/com_owner.h"
 
 namespace platform::windows {
 
 // Wants the newest version and no dialog: a certificate that is not trusted and a request for a
-// password end the download. It ends as well when more than `most_bytes` come and when it is sent
-// to anything but a web address. What the service saves of a download that ended, the file
-// `arrival`, is deleted.
+// password end the download. It ends as well when the host does not say how much it sends (only
+// then can an endless answer be told from a small file before it fills the disk), says more than
+// `most_bytes` or sends more, and when it sends on to anything but a web address. What the service
+// saves of a download that ended, the file `arrival`, is deleted.
 class DownloadCallback final : public IBindStatusCallback,
+                               public IHttpNegotiate,
                                public IHttpSecurity,
                                public IAuthenticate,
                                public IServiceProvider {
  public:
-  DownloadCallback(std::wstring arrival, std::size_t most_bytes)
-      : arrival_(std::move(arrival)), most_bytes_(most_bytes) {}
+  // Memory that the service can free (CoTaskMemAlloc).
+  using Allocator = void*(WINAPI*)(SIZE_T);
+
+  DownloadCallback(std::wstring arrival, std::size_t most_bytes, Allocator allocate)
+      : arrival_(std::move(arrival)), most_bytes_(most_bytes), allocate_(allocate) {}
 
   // Ends the download; to be called on the thread that downloads.
   void End();
   bool ended() const { return ended_; }
+
+  // Whether a file of `size` bytes is all that the host said it sends.
+  bool IsWhole(unsigned long long size) const { return !length_ || *length_ == size; }
 
   STDMETHODIMP QueryInterface(REFIID id, void** object) override;
   STDMETHODIMP_(ULONG) AddRef() override { return references_.Add(); }
@@ -43,6 +53,10 @@ class DownloadCallback final : public IBindStatusCallback,
   STDMETHODIMP GetBindInfo(DWORD* flags, BINDINFO* info) override;
   STDMETHODIMP OnDataAvailable(DWORD, DWORD, FORMATETC*, STGMEDIUM*) override { return S_OK; }
   STDMETHODIMP OnObjectAvailable(REFIID, IUnknown*) override { return S_OK; }
+
+  // IHttpNegotiate
+  STDMETHODIMP BeginningTransaction(LPCWSTR, LPCWSTR, DWORD, LPWSTR* headers) override;
+  STDMETHODIMP OnResponse(DWORD, LPCWSTR headers, LPCWSTR, LPWSTR* more) override;
 
   // IHttpSecurity
   STDMETHODIMP GetWindow(REFGUID, HWND* window) override;
@@ -63,8 +77,10 @@ class DownloadCallback final : public IBindStatusCallback,
   ReferenceCount references_;
   std::wstring arrival_;
   std::size_t most_bytes_;
+  Allocator allocate_;
   ComOwner<IBinding> binding_;
   bool ended_ = false;
+  std::optional<unsigned long long> length_;  // as the host said, of a file that is sent as it is
 };
 
 }  // namespace platform::windows

@@ -62,32 +62,52 @@ class Ear {
   Job& job_;
 };
 
-// Services differ on whether a host that says nothing at all and hangs up is a failure.
-bool HoldsSomething(const std::wstring& path) {
+// The functions of the system that a download needs.
+struct Service {
+  InitializeFunction initialize;
+  UninitializeFunction uninitialize;
+  DownloadCallback::Allocator allocate;
+  DownloadFunction download;
+
+  Service() {
+    const HMODULE ole = LoadSystemLibrary(L"ole32.dll");
+    initialize = FunctionOf<InitializeFunction>(ole, "CoInitializeEx");
+    uninitialize = FunctionOf<UninitializeFunction>(ole, "CoUninitialize");
+    allocate = FunctionOf<DownloadCallback::Allocator>(ole, "CoTaskMemAlloc");
+    download = FunctionOf<DownloadFunction>(LoadSystemLibrary(L"urlmon.dll"), "URLDownloadToFileW");
+  }
+
+  bool complete() const {
+    return initialize != nullptr && uninitialize != nullptr && allocate != nullptr &&
+           download != nullptr;
+  }
+};
+
+unsigned long long SizeOf(const std::wstring& path) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
-  return GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) &&
-         (data.nFileSizeLow != 0 || data.nFileSizeHigh != 0);
+  if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) return 0;
+  return (static_cast<unsigned long long>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;
 }
 
-bool Fetch(Job& job, DownloadFunction download) {
-  const ComOwner<DownloadCallback> callback(new DownloadCallback(job.arrival, job.most_bytes));
+// Services differ on whether a host that hangs up early, or at once, is a failure.
+bool Fetch(Job& job, const Service& service) {
+  const ComOwner<DownloadCallback> callback(
+      new DownloadCallback(job.arrival, job.most_bytes, service.allocate));
   const Ear ear(job, *callback);
   if (job.given_up) return false;
   const HRESULT result =
-      download(nullptr, job.link.c_str(), job.arrival.c_str(), 0, callback.get());
-  return result == S_OK && !callback->ended() && HoldsSomething(job.arrival);
+      service.download(nullptr, job.link.c_str(), job.arrival.c_str(), 0, callback.get());
+  const unsigned long long size = SizeOf(job.arrival);
+  return result == S_OK && !callback->ended() && size > 0 && callback->IsWhole(size);
 }
 
 bool FetchWithService(Job& job) {
-  const HMODULE ole = LoadSystemLibrary(L"ole32.dll");
-  const HMODULE service = LoadSystemLibrary(L"urlmon.dll");
-  const auto initialize = FunctionOf<InitializeFunction>(ole, "CoInitializeEx");
-  const auto uninitialize = FunctionOf<UninitializeFunction>(ole, "CoUninitialize");
-  const auto download = FunctionOf<DownloadFunction>(service, "URLDownloadToFileW");
-  if (initialize == nullptr || uninitialize == nullptr || download == nullptr) return false;
-  if (FAILED(initialize(nullptr, COINIT_APARTMENTTHREADED))) return false;
-  const bool arrived = Fetch(job, download);
-  uninitialize();
+  const Service service;
+  if (!service.complete() || FAILED(service.initialize(nullptr, COINIT_APARTMENTTHREADED))) {
+    return false;
+  }
+  const bool arrived = Fetch(job, service);
+  service.uninitialize();
   return arrived;
 }
 

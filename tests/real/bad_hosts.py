@@ -67,6 +67,13 @@ def endless(visit: Visit) -> None:
         visit.send(PIECE)
 
 
+def endless_in_pieces(visit: Visit) -> None:
+    """The same, as a server writes that does not know the length itself."""
+    visit.answer("200 OK", "Content-Type: text/plain", "Transfer-Encoding: chunked")
+    while visit.sent < GIGABYTE and not visit.over.is_set():
+        visit.send(f"{len(PIECE):x}\r\n".encode() + PIECE + b"\r\n")
+
+
 def a_gigabyte(visit: Visit) -> None:
     visit.answer("200 OK", "Content-Type: text/plain", f"Content-Length: {GIGABYTE}")
     while visit.sent < GIGABYTE and not visit.over.is_set():
@@ -76,6 +83,11 @@ def a_gigabyte(visit: Visit) -> None:
 def asking_for_a_password(visit: Visit) -> None:
     visit.answer("401 Unauthorized", 'WWW-Authenticate: Basic realm="Tonmira"',
                  "Content-Length: 0")
+
+
+def breaking_off(visit: Visit) -> None:
+    visit.answer("200 OK", "Content-Type: text/plain", "Content-Length: 1000",
+                 body=b"999\r\nhttp://a.example/set")
 
 
 def missing(visit: Visit) -> None:
