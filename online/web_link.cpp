@@ -21,6 +21,20 @@ std::string_view Authority(std::string_view link) {
   return link.substr(0, link.find_first_of("/?#\\"));
 }
 
+bool IsHexDigit(char c) {
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+}
+
+std::string WithWholeEscapes(std::string_view link) {
+  std::string whole;
+  for (std::size_t i = 0; i < link.size(); ++i) {
+    whole += link[i];
+    if (link[i] != '%') continue;
+    if (i + 2 >= link.size() || !IsHexDigit(link[i + 1]) || !IsHexDigit(link[i + 2])) whole += "25";
+  }
+  return whole;
+}
+
 }  // namespace
 
 bool IsWebAddress(std::string_view link) {
@@ -32,13 +46,15 @@ bool IsWebAddress(std::string_view link) {
          authority.find('@') == std::string_view::npos;
 }
 
-// The mark is a caret before the character. The value of a variable is put in before carets are
-// looked at, so the name after a percent sign gets one as well: no variable has such a name.
+// The mark is a caret before the character. Some interpreters put in the values of variables before
+// they look at carets: the name after a percent sign gets one as well, for no variable is called
+// that. Others do it afterwards: no name between two percent signs stands in the address then, as
+// each of them begins an escape sequence.
 std::string StartCommand(std::string_view link) {
   constexpr std::string_view kActedOn = "&|<>^()%!";
   std::string command = "cmd /c start ";
   bool in_name = false;
-  for (const char c : link) {
+  for (const char c : WithWholeEscapes(link)) {
     if (in_name || kActedOn.find(c) != std::string_view::npos) command += '^';
     command += c;
     in_name = c == '%';
