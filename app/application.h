@@ -63,7 +63,7 @@ class Application : public OtherWindows,
   void LoadMorseCaptions(const std::string& language) override;
 
   // program_files::PlayerScene
-  void UnloadNewsWindow() override {}
+  void UnloadNewsWindow() override { form3.Unload(); }
   void UnloadEveryWindow() override { UnloadAll(); }
 
   // settings::ErrorScene

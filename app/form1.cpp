@@ -60,7 +60,7 @@ std::shared_ptr<ExFunctions> Form1::NewExFunctions() {
 
 void Form1::Hide() {
   stays_hidden_ = true;
-  sine_animation_.Stop();
+  if (sine_animation_.Running()) sine_animation_.Stop();
   Form1Controls::Hide();
 }
 

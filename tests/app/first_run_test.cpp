@@ -134,6 +134,8 @@ struct Choice {
   std::string written;
 };
 
+const std::string kUploadStarted = "start hidden cmd /c \"C:\\Tonmira\\upsend.exe\"";
+
 class AcceptTest : public FirstRunTest, public testing::WithParamInterface<Choice> {};
 
 TEST_P(AcceptTest, WritesTheSettingsAndStartsAnew) {
@@ -144,7 +146,10 @@ TEST_P(AcceptTest, WritesTheSettingsAndStartsAnew) {
   });
   EXPECT_TRUE(Run());
   EXPECT_EQ(sim.files.Get(kSettings), GetParam().written);
-  EXPECT_EQ(Processes(), (Lines{"start \"C:\\Tonmira\\tonmira.exe\"", "end"}));
+  // Who has just agreed to it sends the log of this run at its end.
+  Lines processes{"start \"C:\\Tonmira\\tonmira.exe\"", kUploadStarted, "end"};
+  if (GetParam().refuses) processes.erase(processes.begin() + 1);
+  EXPECT_EQ(Processes(), processes);
   EXPECT_EQ(main().State().SendData, GetParam().refuses ? 0 : 1);
 }
 
@@ -295,7 +300,8 @@ TEST_F(FirstRunTest, AFailingRestartIsReportedAndTheSettingsStand) {
   EXPECT_TRUE(Run());
   EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  53,   Error value:  502");
   EXPECT_EQ(sim.files.Get(kSettings), Settings("EN", "y"));
-  EXPECT_EQ(Processes(), (Lines{"end"}));
+  // The error log, and the activity log at the end.
+  EXPECT_EQ(Processes(), (Lines{kUploadStarted, kUploadStarted, "end"}));
 }
 
 // What is in the settings file before, and the two states that may come after.

@@ -276,7 +276,8 @@ TEST_F(MicrophoneTest, ClosingTheProgramEndsCaptureBeforeItsFilesGo) {
 }
 
 TEST_F(MicrophoneTest, WithAFileOnTheCommandLineCaptureStartsAllTheSame) {
-  sim.files.Put("C:\\Tonmira\\song.tnf", "");
+  sim.files.Put("C:\\Tonmira\\song.tnf",
+                "%valid%\r\n[info]\r\n{236}\r\n{}\r\n{visible}\r\n[sound]\r\n{50}\r\n");
   sim.environment.arguments = "C:\\Tonmira\\song.tnf";
   Run();
   const Lines calls = sim.journal.Texts({Kind::kSound});

@@ -310,5 +310,16 @@ TEST_F(PlayerTest, AnInvisibleFileShowsNoWindowAndTheProgramEndsAfterTheLastTone
   }
 }
 
+TEST_F(PlayerTest, LoadingUnloadsTheNewsWindow) {
+  sim.files.Put(app::kSettings, app::GoodSettings());
+  sim.At(1s, [this] {
+    program->form3.Show();
+    player().SetFilePath("C:\\gone.tnf");
+    player().Load();
+    EXPECT_FALSE(program->form3.Loaded());
+  });
+  Run();
+}
+
 }  // namespace
 }  // namespace program_files
