@@ -10,7 +10,9 @@ from pathlib import Path
 import pytest
 
 from bench import PROGRAM, PROJECT, Bench, command_of
+from microphone import Microphone
 from program import Folders, Tonmira
+from screen import Screen
 from served_site import ServedSite, served_site
 from sound import Recorder
 from uploading import ACTIVITY, ERROR, Upsend
@@ -52,6 +54,19 @@ def user(bench: Bench) -> User:
 @pytest.fixture(scope="session")
 def recorder(bench: Bench) -> Recorder:
     return Recorder(bench)
+
+
+@pytest.fixture(scope="session")
+def screen(bench: Bench) -> Iterator[Screen]:
+    with Screen(bench) as screen:
+        yield screen
+
+
+@pytest.fixture
+def microphone(bench: Bench) -> Iterator[Microphone]:
+    microphone = Microphone(bench)
+    yield microphone
+    microphone.silence()
 
 
 @pytest.fixture

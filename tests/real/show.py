@@ -42,7 +42,7 @@ def show(bench: Bench) -> bool:
         begin = recorder.frames()
         tone = measure(recorder.record(3))
         save_wav(TONE, recorder.stereo(begin))
-        user.screenshot(window, PICTURE)
+        user.screenshot(window, PICTURE, moving=True)
         user.click_button(window, "Stop Sound")
         recorder.wait_for_silence()
         program.wait_for_buttons(window, playing=False)

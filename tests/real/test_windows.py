@@ -63,7 +63,7 @@ def test_the_main_window(started: Tonmira, user: User) -> None:
 def test_the_main_window_while_it_plays(started: Tonmira, user: User, recorder: Recorder) -> None:
     window = play_once(started, user, "Average pitch")
     recorder.wait_for_tone()
-    user.screenshot(window, SCREENS / "playing.png")
+    user.screenshot(window, SCREENS / "playing.png", moving=True)
     assert_shows_something(SCREENS / "playing.png", 600, 450)
     assert not window.button("Play Sound").enabled
     assert window.button("Stop Sound").enabled

@@ -208,8 +208,9 @@ class User:
     def move(self, window: Window, x: int, y: int) -> None:
         self.xdotool("windowmove", "--sync", self.x_window(window), str(x), str(y))
 
-    def screenshot(self, window: Window, path: Path) -> None:
-        """The window as it stands on the screen, with its frame, once it is drawn to the end."""
+    def screenshot(self, window: Window, path: Path, moving: bool = False) -> None:
+        """The window as it stands on the screen, with its frame, once it is drawn to the end; at
+        once where something in it is `moving` all the time."""
         path.parent.mkdir(parents=True, exist_ok=True)
         x_window = self.x_window(window)
 
@@ -222,7 +223,8 @@ class User:
             return pictures[0] == pictures[1]
 
         try:
-            wait_for(is_settled, f"a finished picture of {window.title!r}", 10)
+            if not moving:
+                wait_for(is_settled, f"a finished picture of {window.title!r}", 10)
         finally:
             self.bench.run("import", "-window", x_window, "-frame", "png:" + str(path))
 

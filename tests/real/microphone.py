@@ -1,0 +1,50 @@
+"""The bench's microphone: what is played into it is recorded by the program."""
+
+import subprocess
+
+import numpy as np
+
+from bench import Bench, end_process, wait_for
+from measuring import RATE
+from sound import save_wav
+
+SECONDS = 120
+
+
+class Microphone:
+    def __init__(self, bench: Bench):
+        self._bench = bench
+        self._player: subprocess.Popen | None = None
+
+    def feed(self, left_hz: float, right_hz: float, amplitude: int = 8000) -> None:
+        """Sounds a tone on each channel for two minutes; a frequency of 0 is silence."""
+        self.silence()
+        moments = np.arange(SECONDS * RATE) / RATE
+        channels = [np.sin(2 * np.pi * hz * moments) for hz in (left_hz, right_hz)]
+        path = self._bench.folder / "microphone.wav"
+        save_wav(path, (amplitude * np.stack(channels, axis=1)).astype("<i2"))
+        self._player = self._bench.start("paplay", "--device=mic", str(path),
+                                         stderr=subprocess.DEVNULL)
+        wait_for(lambda: "paplay" in self._bench.run("pactl", "list", "clients"), "the feed")
+
+    def silence(self) -> None:
+        if self._player:
+            end_process(self._player)
+        self._player = None
+
+    def unplug(self) -> None:
+        """The sound server's device goes while others may be using it."""
+        self.silence()
+        self._bench.run("pactl", "unload-module", self._module())
+
+    def plug_in(self) -> None:
+        self._bench.run("pactl", "load-module", "module-null-sink", "sink_name=mic",
+                        f"rate={RATE}", "channels=2", "format=s16le")
+        self._bench.run("pactl", "set-default-source", "mic.monitor")
+        # The new device must not become the one that tones are played to.
+        self._bench.run("pactl", "set-default-sink", "out")
+
+    def _module(self) -> str:
+        modules = self._bench.run("pactl", "list", "short", "modules").splitlines()
+        return next(line.split("\t")[0] for line in modules if "sink_name=mic" in line)
+

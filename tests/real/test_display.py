@@ -1,0 +1,282 @@
+"""The moving pictures of the main window: what the microphone hears, and the sine preview."""
+
+import time
+from collections.abc import Callable, Iterator
+
+import numpy as np
+import pytest
+
+from bench import PROGRAM, Bench, wait_for
+from conftest import SCREENS
+from microphone import Microphone
+from program import GOOD_SETTINGS, MODES, Folders, Tonmira, hear_tone
+from screen import Screen, drawn, periods
+from sound import Recorder
+from window import Driver, Place, User, Window, wait_for_window
+
+MICROPHONE_MENU = 1015
+FIXED_MODES = MODES[:5]
+
+
+def inside(window: Window, picture: str) -> Place:
+    """Where a picture stands on the screen, without its border."""
+    place = window.control("TonmiraPicture", picture).place
+    return Place(place.x + 1, place.y + 1, place.width - 2, place.height - 2)
+
+
+def marks_of(screen: Screen, window: Window, picture: str) -> np.ndarray:
+    return drawn(screen.look(inside(window, picture)))
+
+
+def start(launch: Callable[..., Tonmira], folders: Folders, user: User, *,
+          microphone_on: str = "y") -> tuple[Tonmira, Window]:
+    folders.write_settings([*GOOD_SETTINGS[:5], f"MicrophoneON={microphone_on}"])
+    program = launch(folders)
+    program.wait_for_log(">> Program starting finished")
+    window = program.window()
+    user.activate(window)
+    return program, window
+
+
+def halves(marks: np.ndarray) -> tuple[np.ndarray, np.ndarray]:
+    middle = marks.shape[0] // 2
+    return marks[:middle], marks[middle:]
+
+
+def is_flat(marks: np.ndarray) -> bool:
+    """Two lines, one in the middle of each half, from edge to edge."""
+    rows = np.flatnonzero(marks.any(axis=1))
+    wanted = [marks.shape[0] // 4, marks.shape[0] * 3 // 4]
+    return rows.tolist() == wanted and bool(marks[rows, :-2].all())
+
+
+def shows_tones(marks: np.ndarray) -> bool:
+    """Half a block, 50 ms: 25 periods of 500 Hz above, 75 of 1500 Hz below."""
+    upper, lower = halves(marks)
+    return abs(periods(upper) - 25) < 0.5 and abs(periods(lower) - 75) < 1
+
+
+def test_both_channels_are_seen_the_left_one_above(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen,
+        microphone: Microphone) -> None:
+    microphone.feed(500, 1500)
+    _, window = start(launch, folders, user)
+    wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces", 15)
+    user.screenshot(window, SCREENS / "microphone.png", moving=True)
+    before = screen.look(inside(window, "picWave"))
+    wait_for(lambda: not np.array_equal(screen.look(inside(window, "picWave")), before),
+             "a new block", 5)
+
+
+def test_silence_is_two_flat_lines(launch: Callable[..., Tonmira], folders: Folders, user: User,
+                                   screen: Screen) -> None:
+    _, window = start(launch, folders, user)
+    wait_for(lambda: is_flat(marks_of(screen, window, "picWave")), "two flat lines", 15)
+    user.screenshot(window, SCREENS / "silence.png")
+
+
+def test_the_sensitivity_buttons_change_picture_caption_and_settings(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen,
+        microphone: Microphone) -> None:
+    microphone.feed(500, 500, amplitude=2000)
+    _, window = start(launch, folders, user)
+
+    def height() -> int:
+        upper, _ = halves(marks_of(screen, window, "picWave"))
+        return int(upper.any(axis=1).sum())
+
+    # 2000 of 20000 half-heights of 44 pixels, up and down from the middle.
+    wait_for(lambda: 8 <= height() <= 10, "a small wave", 15)
+    for level in (2, 3):
+        user.click_button(window, "+")
+        wait_for(lambda: f"Microphone input, sensitivity: {level}" in window.texts(), "its caption")
+    wait_for(lambda: 25 <= height() <= 28, "a wave three times as high", 15)
+    assert folders.settings_file.read_text().split("\n")[4] == "Microphone= 3"
+    user.screenshot(window, SCREENS / "sensitivity-3.png", moving=True)
+    user.click_button(window, "-")
+    wait_for(lambda: 16 <= height() <= 19, "a wave twice as high", 15)
+    assert "Microphone input, sensitivity: 2" in window.texts()
+    assert folders.settings_file.read_text().split("\n")[4] == "Microphone= 2"
+
+
+def test_the_menu_turns_it_off_and_on(launch: Callable[..., Tonmira], folders: Folders, user: User,
+                                      screen: Screen, microphone: Microphone) -> None:
+    microphone.feed(500, 1500)
+    _, window = start(launch, folders, user)
+    wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces", 15)
+    window.choose(MICROPHONE_MENU)
+    wait_for(lambda: not marks_of(screen, window, "picWave").any(), "an empty picture")
+    assert not window.button("+").enabled and not window.button("-").enabled
+    assert folders.settings_file.read_text().split("\n")[5] == "MicrophoneON=n"
+    window.choose(MICROPHONE_MENU)
+    wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces again", 15)
+    assert window.button("+").enabled and window.button("-").enabled
+    assert folders.settings_file.read_text().split("\n")[5] == "MicrophoneON=y"
+
+
+def test_turning_it_on_and_off_a_hundred_times_leaves_no_handles(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, driver: Driver,
+        screen: Screen) -> None:
+    program, window = start(launch, folders, user)
+
+    def toggle(times: int) -> int:
+        for _ in range(times):
+            window.choose(MICROPHONE_MENU)
+        wait_for(lambda: window.button("+").enabled, "the last one", 60)
+        wait_for(lambda: is_flat(marks_of(screen, window, "picWave")), "two flat lines", 15)
+        return driver.handles(program.process)
+
+    before = toggle(10)
+    after = toggle(190)
+    assert after <= before + 5, f"{before} handles, then {after}"
+    assert program.titles() == [window.title]
+
+
+def test_without_a_recording_device_it_says_so_and_stays_off(
+        bench: Bench, folders: Folders, driver: Driver, user: User) -> None:
+    folders.write_settings(GOOD_SETTINGS)
+    process = bench.start("wine", str(PROGRAM), env={
+        **bench.env, "PULSE_SERVER": "unix:/nowhere", "WINEPATH": "",
+        "TEMP": bench.windows_path(folders.temp), "APPDATA": bench.windows_path(folders.appdata)})
+    message = wait_for_window(driver, "DirectSound Error")
+    assert "No recording device was found." in message.texts()
+    user.screenshot(message, SCREENS / "no-microphone.png")
+    message.press("OK")
+    window = wait_for_window(driver, "Tonmira")
+    assert folders.settings_file.read_text().split("\n")[5] == "MicrophoneON=n"
+    window.close()
+    process.wait(timeout=20)
+
+
+def test_a_tone_goes_on_when_the_microphone_is_unplugged(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen,
+        microphone: Microphone, recorder: Recorder) -> None:
+    microphone.feed(500, 1500)
+    program, window = start(launch, folders, user)
+    wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces", 15)
+    window.press("High pitch")
+    window.press("Play Sound")
+    recorder.wait_for_tone()
+    microphone.unplug()
+    try:
+        tone = hear_tone(recorder, 2, lambda t: t.length_s > 1)
+        assert tone and tone.frequency_hz == pytest.approx(10000, rel=1e-4)
+        assert tone.length_s > 1
+    finally:
+        microphone.plug_in()
+    window.press("Stop Sound")
+    recorder.wait_for_silence()
+    program.wait_for_buttons(window, playing=False)
+    microphone.feed(500, 1500)
+    for _ in range(2):
+        window.choose(MICROPHONE_MENU)
+    wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces again", 15)
+    assert program.titles() == [window.title]
+
+
+@pytest.mark.parametrize(("mode", "pitch", "wanted"), [
+    # 4170 twips of pitch / 500000 radians each.
+    ("Low pitch", 1000, 1.33), ("High pitch", 10000, 13.27)])
+def test_the_preview_of_a_mode_moves(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen, mode: str,
+        pitch: int, wanted: float) -> None:
+    _, window = start(launch, folders, user)
+    user.click_button(window, mode)
+    wait_for(lambda: marks_of(screen, window, "Picture1").any(), "a wave")
+    place = inside(window, "Picture1")
+    first = screen.look(place)
+    time.sleep(0.2)
+    assert not np.array_equal(screen.look(place), first)
+    user.screenshot(window, SCREENS / f"preview-{pitch}.png", moving=True)
+    if wanted > 5:
+        assert abs(periods(without_line(marks_of(screen, window, "Picture1"))) - wanted) < 0.5
+
+
+@pytest.mark.parametrize(("value", "wanted"), [(4, 0), (32000, 42.5)])
+def test_the_preview_of_the_slider_stands_still(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen, value: int,
+        wanted: float) -> None:
+    _, window = start(launch, folders, user)
+    user.click_button(window, "Custom pitch")
+    wait_for(lambda: window.is_checked("Custom pitch"), "the mode")
+    assert not without_line(marks_of(screen, window, "Picture1")).any()
+    window.slide(value)
+    wait_for(lambda: f" {value}" in window.texts(), "the pitch")
+    wait_for(lambda: without_line(marks_of(screen, window, "Picture1")).any(), "a wave")
+    user.screenshot(window, SCREENS / f"preview-{value}.png")
+    marks = without_line(marks_of(screen, window, "Picture1"))
+    time.sleep(0.2)
+    assert np.array_equal(without_line(marks_of(screen, window, "Picture1")), marks)
+    if wanted:
+        assert abs(periods(marks) - wanted) < 1
+    else:
+        rows = np.flatnonzero(marks.any(axis=1))
+        assert rows.min() >= 43 and rows.max() <= 46
+
+
+def without_line(marks: np.ndarray) -> np.ndarray:
+    """The preview without the line that stands across its middle."""
+    left = marks.copy()
+    left[marks.all(axis=1)] = False
+    return left
+
+
+def test_the_preview_moves_on_while_its_tone_plays_and_ends_with_another_mode(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen,
+        recorder: Recorder) -> None:
+    program, window = start(launch, folders, user)
+    window.press("Average pitch")
+    window.press("Play Sound")
+    recorder.wait_for_tone()
+    place = inside(window, "Picture1")
+    assert screen.frames(place, 2) > 20
+    window.press("Stop Sound")
+    program.wait_for_buttons(window, playing=False)
+    assert screen.frames(place, 2) > 20
+    window.press("Low to high")
+    wait_for(lambda: not without_line(marks_of(screen, window, "Picture1")).any(), "nothing")
+    assert screen.frames(place, 1) == 0
+    recorder.wait_for_silence()
+
+
+def test_a_thousand_choices_leave_one_animation_and_a_program_that_answers(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, driver: Driver,
+        screen: Screen) -> None:
+    program, window = start(launch, folders, user)
+    options = [window.button(mode).handle for mode in FIXED_MODES]
+
+    def choose(times: int) -> int:
+        driver.ask("clicks", str(times), *options)
+        wait_for(lambda: window.is_checked(FIXED_MODES[-1]), "the last choice", 60)
+        return driver.handles(program.process)
+
+    before = choose(50)
+    after = choose(1000)
+    assert after <= before + 5, f"{before} handles, then {after}"
+    assert screen.frames(inside(window, "Picture1"), 2) <= 2 * 21
+    window.close()
+    program.wait_for_end()
+
+
+@pytest.fixture
+def high_contrast(bench: Bench) -> Iterator[None]:
+    """White text on black windows."""
+    key = "HKCU\\Control Panel\\Colors"
+    colours = {"Window": "0 0 0", "WindowText": "255 255 255"}
+    for name, colour in colours.items():
+        bench.run("wine", "reg", "add", key, "/v", name, "/f", "/d", colour)
+    yield
+    for name in colours:
+        bench.run("wine", "reg", "delete", key, "/v", name, "/f")
+
+
+def test_the_pictures_take_the_systems_colours(
+        high_contrast: None, launch: Callable[..., Tonmira], folders: Folders, user: User,
+        screen: Screen) -> None:
+    _, window = start(launch, folders, user)
+    user.click_button(window, "Low pitch")
+    wait_for(lambda: marks_of(screen, window, "picWave").any(), "the microphone's picture", 15)
+    user.screenshot(window, SCREENS / "high-contrast.png", moving=True)
+    for picture in ("picWave", "Picture1"):
+        colours = set(np.unique(screen.look(inside(window, picture))).tolist())
+        assert {0x000000, 0xFFFFFF} <= colours
