@@ -41,8 +41,13 @@ class Microphone:
         self._bench.run("pactl", "load-module", "module-null-sink", "sink_name=mic",
                         f"rate={RATE}", "channels=2", "format=s16le")
         self._bench.run("pactl", "set-default-source", "mic.monitor")
-        # The new device must not become the one that tones are played to.
-        self._bench.run("pactl", "set-default-sink", "out")
+        # The server lets every recording follow the default source; the bench's own one hears what
+        # is played.
+        outputs = self._bench.run("pactl", "list", "source-outputs").split("Source Output #")[1:]
+        for output in outputs:
+            if 'application.name = "parec"' in output:
+                self._bench.run("pactl", "move-source-output", output.split("\n")[0],
+                                "out.monitor")
 
     def _module(self) -> str:
         modules = self._bench.run("pactl", "list", "short", "modules").splitlines()
