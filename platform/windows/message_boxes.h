@@ -8,13 +8,13 @@ namespace platform::windows {
 
 class WindowsMessageBoxes final : public MessageBoxes {
  public:
-  explicit WindowsMessageBoxes(const OpenWindows& open) : open_(open) {}
+  explicit WindowsMessageBoxes(OpenWindows& open) : open_(open) {}
 
   std::int16_t Show(const std::string& text, const std::string& title, MessageIcon icon,
                     MessageButtons buttons) override;
 
  private:
-  const OpenWindows& open_;
+  OpenWindows& open_;
 };
 
 }  // namespace platform::windows

@@ -23,7 +23,7 @@ class Microphone:
         channels = [np.sin(2 * np.pi * hz * moments) for hz in (left_hz, right_hz)]
         path = self._bench.folder / "microphone.wav"
         save_wav(path, (amplitude * np.stack(channels, axis=1)).astype("<i2"))
-        self._player = self._bench.start("paplay", "--device=mic", str(path),
+        self._player = self._bench.start("paplay", "--device=mic", "--latency-msec=20", str(path),
                                          stderr=subprocess.DEVNULL)
         wait_for(lambda: "paplay" in self._bench.run("pactl", "list", "clients"), "the feed")
 

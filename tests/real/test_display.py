@@ -133,7 +133,8 @@ def test_turning_it_on_and_off_a_hundred_times_leaves_no_handles(
 
 
 def test_without_a_recording_device_it_says_so_and_stays_off(
-        bench: Bench, folders: Folders, user: User, monkeypatch: pytest.MonkeyPatch) -> None:
+        bench: Bench, folders: Folders, user: User, screen: Screen,
+        monkeypatch: pytest.MonkeyPatch) -> None:
     # What this driver starts finds no sound server, so neither a loudspeaker nor a microphone.
     monkeypatch.setitem(bench.env, "PULSE_SERVER", "unix:/nowhere")
     folders.write_settings(GOOD_SETTINGS)
@@ -141,7 +142,9 @@ def test_without_a_recording_device_it_says_so_and_stays_off(
     try:
         message = program.window("DirectSound Error")
         assert "No recording device was found." in message.texts()
+        assert program.titles() == ["DirectSound Error"]
         user.screenshot(message, SCREENS / "no-microphone.png")
+        assert len(np.unique(screen.look(message.place()))) >= 8
         message.press("OK")
         window = program.window()
         assert folders.settings_file.read_text().split("\n")[5] == "MicrophoneON=n"
