@@ -102,7 +102,9 @@ void NativeWindow::CreateFrame(const Appearance& appearance) {
   const int width = outer.right - outer.left;
   const int height = outer.bottom - outer.top;
   const int left = std::max<int>(work.left, (work.left + work.right - width) / 2);
-  const int top = std::max<int>(work.top, (work.top + work.bottom - height) / 2);
+  // What is only to be looked at stands above the middle, where dialogs that come meanwhile open.
+  const int middle = (work.top + work.bottom - height) / 2;
+  const int top = std::max<int>(work.top, TakesFocus() ? middle : middle / 3);
   handle_ = CreateWindowExW(frame.extended_style, kWindowClass, Widen(window_.Caption()).c_str(),
                             frame.style, left, top, width, height, nullptr, menu_.handle(),
                             appearance.instance(), nullptr);

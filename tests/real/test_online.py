@@ -1,5 +1,8 @@
 """The online services of the real program, against good and bad hosts on this machine."""
 
+import contextlib
+import re
+import shutil
 import subprocess
 import time
 from collections.abc import Callable, Iterator
@@ -9,9 +12,10 @@ import pytest
 
 import bad_hosts
 from bad_hosts import closed_port, host, make_certificate
-from bench import CACHE, Bench, wait_for
+from bench import CACHE, PROGRAM, Bench, wait_for
 from conftest import SCREENS
 from program import GOOD_SETTINGS, MAIN_TITLE, Folders, Tonmira
+from test_texts_fit import cut_off, driver_at_dpi  # noqa: F401
 from window import Driver, User, Window
 
 PATIENCE_S = 60  # for a busy machine; how long it took is printed
@@ -216,10 +220,17 @@ def browser(bench: Bench) -> Iterator[str]:
     exe = bench.windows_path(build_link_taker())
     assert " " not in exe
 
-    def use(program: str) -> None:
-        for scheme in ("http", "https"):
+    def add(scheme: str, program: str) -> bool:
+        # Starting a program by its bare name fails once in a while.
+        with contextlib.suppress(subprocess.CalledProcessError):
             bench.run("wine", "reg", "add", rf"HKCR\{scheme}\shell\open\command", "/ve", "/d",
                       f'"{program}" "%1"', "/f")
+            return True
+        return False
+
+    def use(program: str) -> None:
+        for scheme in ("http", "https"):
+            wait_for(lambda scheme=scheme: add(scheme, program), "a registry entry")
 
     use(exe)
     yield exe
@@ -314,3 +325,68 @@ def test_the_menus_open_the_pages_of_the_site(
         assert opened(folders)[-1] == f'<"{site}{page}">'
     assert program.folders.log()[-3:] == ["> Visiting site", "> Visiting donation page",
                                   "> Visiting donation page"]
+
+
+@pytest.mark.parametrize("language", ["EN", "NL"])
+def test_the_update_dialog_and_the_news_window_show_all_of_their_texts(
+        bench: Bench, user: User, driver_at_dpi: tuple[Driver, int], language: str) -> None:
+    driver, dpi = driver_at_dpi
+    folders = Folders(bench)
+    settings = list(GOOD_SETTINGS)
+    settings[2] = f"Language={language}"
+    folders.write_settings(settings)
+    title = {"EN": "Update found", "NL": "Update gevonden"}[language]
+    decline = {"EN": "Don't update", "NL": "Niet updaten"}[language]
+    with host(good_site(b"237\r\nhttp://a.example/tonmira-2.3.7.exe\r\n")) as good:
+        driver.ask("set", "TONMIRA_SITE", good.site)
+        program = Tonmira(bench, driver, folders)
+        try:
+            if dpi != 96:
+                program.window("Warning").press("OK")
+            dialog = program.window(title, seconds=PATIENCE_S)
+            user.activate(dialog)
+            user.screenshot(dialog, SCREENS / f"update-{language.lower()}-{dpi}.png")
+            assert cut_off(driver, dialog) == []
+            dialog.press(decline)
+            news = program.window(NEWS_TITLES[language], seconds=PATIENCE_S)
+            program.wait_for_log(">> Program starting finished")
+            user.activate(news)
+            user.screenshot(news, SCREENS / f"news-{language.lower()}-{dpi}.png")
+            place = news.control("TonmiraBrowser").place
+            assert (place.width, place.height) == (800 * dpi // 96, 560 * dpi // 96)
+        finally:
+            program.finish()
+
+
+@pytest.fixture
+def copy_with_noting_upload_program(bench: Bench) -> Path:
+    """A copy of the program in a folder whose name the command interpreter acts on; in place of
+    the upload program stands one that takes note of its start."""
+    folder = bench.new_folder("Tom & (Jerry)") / "Tonmira"
+    shutil.copytree(PROGRAM.parent, folder)
+    shutil.copy(build_link_taker(), folder / "upsend.exe")
+    return folder / PROGRAM.name
+
+
+@pytest.mark.parametrize(("send", "starts"), [("y", ["<>"]), ("n", [])])
+def test_the_log_is_handed_to_the_upload_program_at_the_end_only_with_consent(
+        launch: Launch, folders: Folders, copy_with_noting_upload_program: Path, send: str,
+        starts: list[str]) -> None:
+    settings = list(GOOD_SETTINGS)
+    settings[3] = f"SendData={send}"
+    folders.write_settings(settings)
+    program = launch(folders, exe=copy_with_noting_upload_program)
+    window = program.window(seconds=PATIENCE_S)
+    program.wait_for_log(">> Program starting finished")
+    assert not (folders.temp / "snd.ini").exists()
+    window.close()
+    program.wait_for_end()
+    time.sleep(2)
+    assert opened(folders) == starts
+    if send == "y":
+        temp = program.bench.windows_path(folders.temp)
+        lines = (folders.temp / "snd.ini").read_bytes().decode().split("\r\n")
+        assert lines[0] == temp + "\\userdata.txt"
+        assert re.fullmatch(r"\d+\.txt", lines[1]) and lines[2:] == [""]
+    else:
+        assert not (folders.temp / "snd.ini").exists()
