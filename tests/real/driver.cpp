@@ -152,19 +152,6 @@ class Programs {
   std::map<DWORD, UniqueHandle> processes_;
 };
 
-// This program's own environment with some variables replaced.
-std::wstring EnvironmentWith(const std::map<std::wstring, std::wstring>& replaced) {
-  std::wstring block;
-  wchar_t* const own = GetEnvironmentStringsW();
-  for (const wchar_t* entry = own; *entry != L'\0'; entry += std::wcslen(entry) + 1) {
-    const std::wstring text(entry);
-    if (!replaced.contains(text.substr(0, text.find(L'=', 1)))) block += text + L'\0';
-  }
-  FreeEnvironmentStringsW(own);
-  for (const auto& [name, value] : replaced) block += name + L'=' + value + L'\0';
-  return block + L'\0';
-}
-
 std::wstring EnvironmentOfUser(const std::string& temp, const std::string& appdata) {
   return EnvironmentWith(
       {{L"TEMP", Wide(temp)}, {L"TMP", Wide(temp)}, {L"APPDATA", Wide(appdata)}});

@@ -1,6 +1,7 @@
 #include "tests/real/driver_system.h"
 
 #include <algorithm>
+#include <cwchar>
 #include <stdexcept>
 #include <vector>
 
@@ -59,4 +60,16 @@ void StoreValue(const std::wstring& key, const std::wstring& name, DWORD type,
 
 void ForgetKey(const std::wstring& key) {
   RegDeleteKeyW(HKEY_LOCAL_MACHINE, key.c_str());
+}
+
+std::wstring EnvironmentWith(const std::map<std::wstring, std::wstring>& replaced) {
+  std::wstring block;
+  wchar_t* const own = GetEnvironmentStringsW();
+  for (const wchar_t* entry = own; *entry != L'\0'; entry += std::wcslen(entry) + 1) {
+    const std::wstring text(entry);
+    if (!replaced.contains(text.substr(0, text.find(L'=', 1)))) block += text + L'\0';
+  }
+  FreeEnvironmentStringsW(own);
+  for (const auto& [name, value] : replaced) block += name + L'=' + value + L'\0';
+  return block + L'\0';
 }

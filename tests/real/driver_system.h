@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <map>
 #include <string>
 
 // How many handles a process has open.
@@ -15,3 +16,7 @@ void StoreValue(const std::wstring& key, const std::wstring& name, DWORD type,
 
 // Deletes a key under the machine's root; nothing happens when there is none.
 void ForgetKey(const std::wstring& key);
+
+// The variables of this program's own environment, some of them replaced, as CreateProcessW wants
+// them.
+std::wstring EnvironmentWith(const std::map<std::wstring, std::wstring>& replaced);
