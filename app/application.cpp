@@ -31,6 +31,8 @@ void Application::Run() {
   form1.Handle([this] {
     form1.Load();
     if (!form1.StaysHidden()) form1.Show();
+    // The news have come up over it.
+    if (form5.Visible() && form3.Visible()) form5.Show();
   });
   platform_.pump.Run();
   // Nothing is left to be seen or used.

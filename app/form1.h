@@ -73,7 +73,7 @@ class Form1 : public Form1Controls,
   void HideMainWindow() override { Hide(); }
 
   // tone::PlayScene
-  bool MainWindowVisible() const override { return Visible(); }
+  bool MainWindowVisible() const override { return OnScreen(); }
   ui::WindowView& MainWindowView() override { return *View(); }
   void ShowStatus(const std::string& text) override { StatusBar1.SetCaption(text); }
   void DrawSine(std::int16_t pitch, std::int16_t mode) override;
@@ -128,7 +128,7 @@ class Form1 : public Form1Controls,
   void PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch);
   void Stop(const ProgramPtr& program);
   void RefreshStatus() { ShowStatus(texts_.status); }
-  bool PlayingEnds() const { return !Visible() || state_.stop_flag == 1; }
+  bool PlayingEnds() const { return !OnScreen() || state_.stop_flag == 1; }
   void WaitTick();
 
   // The microphone display (form1_microphone.cpp).

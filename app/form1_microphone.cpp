@@ -50,6 +50,8 @@ void Form1::EndCapture() {
 
 void Form1::DirectSoundRecord_GotWaveData(std::span<const std::uint8_t> block,
                                           std::int16_t bits_per_sample, std::int16_t channels) {
+  // Nobody sees it; and a drawing that fails is not tried again while its error is shown.
+  if (!Visible()) return;
   settings::TrapErrors(*ProgramPtr(program_), 35, [&] {
     const bool stereo = channels == 2;
     if (bits_per_sample == 8) Draw8(block, stereo);

@@ -139,7 +139,7 @@ void Form4::SoundCharacter(const std::string& character) {
 }
 
 void Form4::UnloadIfHidden() {
-  if (play_scene_.MainWindowVisible() && Visible()) return;
+  if (play_scene_.MainWindowVisible() && OnScreen()) return;
   Unload();
   // Also for a play that this one began in the tail of.
   stop_flag = 1;

@@ -14,7 +14,7 @@ namespace online {
 inline constexpr int kPatienceMs = 3000;
 
 // What the program downloads is smaller by far.
-inline constexpr std::size_t kLargestDownload = 64 * 1024;  // bytes
+inline constexpr std::size_t kLargestDownload = 1024 * 1024;  // bytes
 
 class Downloads {
  public:

@@ -26,8 +26,8 @@ class Downloader {
   virtual ~Downloader() = default;
 
   // Begins to download what `link` has now, not an older copy, to the file `path`. More than
-  // `most_bytes` are a failure, and so are none at all and everything that the service would ask
-  // the user about. No call throws.
+  // `most_bytes` are a failure, and so are any answer but success and everything that the service
+  // would ask the user about. No call throws.
   virtual std::unique_ptr<RunningDownload> Begin(const std::string& link, const std::string& path,
                                                  std::size_t most_bytes) = 0;
 };

@@ -128,8 +128,8 @@ void Form9::KillHelpers() {
 
 void Form9::Form_Unload() {
   tone::Quietly([this] {
-    // A helper may be about to sound, as it is started without waiting for it.
-    if (playing_) support_.KillAll();
+    // A helper may just have begun to sound, as it is started without waiting for it.
+    if (playing_ && (sound_mode_ == "16" || sound_mode_ == "32")) EndHelper();
     scene_.UnloadEveryWindow();
   });
 }

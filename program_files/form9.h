@@ -3,7 +3,8 @@
 //
 // Its load routine does everything: it reads and checks the file, shows the window unless the file
 // is marked invisible, and plays. Play returns when the last tone is over or after Stop; the user's
-// input is handled before each tone and takes effect when the tone that sounds then is over.
+// input is handled before and after each tone, so a stop takes effect when the tone that sounds is
+// over.
 // Unloading the window ends the program. Handlers and procedures trap their errors and end quietly.
 #pragma once
 
@@ -84,7 +85,7 @@ class Form9 : public ui::Window {
   void StartHelper();
   void SoundTone();
   void EndHelper();
-  void ShowPlayed(std::int16_t tones);
+  void ShowAllPlayed();
   std::int16_t ToneCount() const { return program_.tone_count; }
 
   platform::Platform& platform_;

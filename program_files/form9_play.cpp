@@ -61,13 +61,16 @@ void Form9::Play() {
     stop_flag_ = 0;
     tone_number_ = 0;
     table_index_ = 0;
-    do {
-      PlayTone();
-      // What the user did meanwhile: a stop ends the play with the tone that sounded.
-      platform_.pump.ProcessPending();
-    } while (tone_number_ < ToneCount() && stop_flag_ != 1);
+    // A tone that fails is the last one.
+    tone::Quietly([this] {
+      do {
+        PlayTone();
+        // What the user did meanwhile: a stop ends the play with the tone that sounded.
+        platform_.pump.ProcessPending();
+      } while (tone_number_ < ToneCount() && stop_flag_ != 1);
+    });
     if (program_.hidden_flag == 1) Unload();
-    ShowPlayed(ToneCount());
+    ShowAllPlayed();
     Command1.SetEnabled(true);
     Label6.SetCaption("");
     Label8.SetCaption("");
@@ -117,9 +120,9 @@ void Form9::EndHelper() {
   }
 }
 
-void Form9::ShowPlayed(std::int16_t tones) {
-  Label1.SetCaption(base::BareNumber(tones));
-  ProgressBar1.SetValue(tones);
+void Form9::ShowAllPlayed() {
+  Label1.SetCaption(base::BareNumber(ToneCount()));
+  ProgressBar1.SetValue(ToneCount());
 }
 
 }  // namespace program_files

@@ -27,6 +27,7 @@ void Window::Load() {
 
 void Window::Show() {
   Load();
+  if (!Loaded()) return;  // loading it has unloaded it
   visible_ = true;
   view_->ShowWindow(true);
 }

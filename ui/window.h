@@ -49,6 +49,9 @@ class Window {
   bool Loaded() const { return view_ != nullptr; }
   bool Visible() const { return visible_; }
 
+  // Visible, and not hidden by another program either.
+  bool OnScreen() const { return visible_ && view_->IsShown(); }
+
   void Load();
   // Loads it first where needed; a visible window comes to the front.
   void Show();

@@ -29,6 +29,9 @@ class WindowView {
   virtual ~WindowView() = default;
 
   virtual void ShowWindow(bool visible) = 0;
+
+  // Whether it is shown now: other programs can hide a window, too.
+  virtual bool IsShown() const = 0;
   virtual void CaptionChanged() = 0;
   virtual void Changed(const Control& control, Property property) = 0;
   virtual void Changed(const MenuItem& item, Property property) = 0;

@@ -85,6 +85,11 @@ class JournalView : public ui::WindowView {
     Note(visible ? " shown" : " hidden");
   }
 
+  bool IsShown() const override {
+    return windows_.visible_.contains(window_.Name()) &&
+           !windows_.hidden_by_others.contains(window_.Name());
+  }
+
   void CaptionChanged() override { Note(" caption: " + window_.Caption()); }
 
   void Changed(const ui::Control& control, ui::Property property) override {

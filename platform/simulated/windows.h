@@ -16,6 +16,8 @@ class Windows : public ui::WindowSystem {
 
   std::unique_ptr<ui::WindowView> Open(ui::Window& window) override;
 
+  std::set<std::string> hidden_by_others;  // names of windows that another program has hidden
+
   bool AnyVisible() const { return !visible_.empty(); }
 
   // Windows opened so far and not dropped.

@@ -4,15 +4,37 @@
 #include <exdispid.h>
 #include <mshtmdid.h>
 
+#include <algorithm>
+#include <cwchar>
+#include <iterator>
+
 namespace platform::windows {
 namespace {
 
 // As documented for the ambient property DISPID_AMBIENT_DLCONTROL.
 constexpr LONG kShowImages = 0x10;       // DLCTL_DLIMAGES
+constexpr LONG kNoScripts = 0x80;        // DLCTL_NO_SCRIPTS
 constexpr LONG kNoJava = 0x100;          // DLCTL_NO_JAVA
 constexpr LONG kRunNoControls = 0x200;   // DLCTL_NO_RUNACTIVEXCTLS
 constexpr LONG kLoadNoControls = 0x400;  // DLCTL_NO_DLACTIVEXCTLS
-constexpr LONG kAllowed = kShowImages | kNoJava | kRunNoControls | kLoadNoControls;
+constexpr LONG kAllowed = kShowImages | kNoScripts | kNoJava | kRunNoControls | kLoadNoControls;
+
+// What NewWindow3 says of a window that the user's own click asked for (NWMF_USERINITED).
+constexpr LONG kAskedByUser = 0x4;
+
+bool IsWebAddress(const wchar_t* address) {
+  const wchar_t* const beginnings[] = {L"http://", L"https://", L"about:blank"};
+  return std::any_of(std::begin(beginnings), std::end(beginnings), [address](const wchar_t* text) {
+    return _wcsnicmp(address, text, std::wcslen(text)) == 0;
+  });
+}
+
+// The text of a parameter that may be given by reference, or null.
+const wchar_t* TextOf(const VARIANT& parameter) {
+  const VARIANT* const value =
+      parameter.vt == (VT_BYREF | VT_VARIANT) ? parameter.pvarVal : &parameter;
+  return value != nullptr && value->vt == VT_BSTR ? value->bstrVal : nullptr;
+}
 
 // Parameters stand in reverse order.
 void Cancel(const DISPPARAMS& parameters, UINT from_last) {
@@ -94,13 +116,18 @@ STDMETHODIMP BrowserSite::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* 
       result->vt = VT_I4;
       result->lVal = kAllowed;
       return S_OK;
+    case DISPID_BEFORENAVIGATE2: {
+      if (parameters->cArgs < 7) return S_OK;
+      const wchar_t* const address = TextOf(parameters->rgvarg[5]);
+      if (address == nullptr || !IsWebAddress(address)) Cancel(*parameters, 0);
+      return S_OK;
+    }
     case DISPID_NEWWINDOW3: {
       Cancel(*parameters, 3);
-      const VARIANT* const address = parameters->cArgs >= 5 ? &parameters->rgvarg[0] : nullptr;
-      if (address != nullptr && address->vt == VT_BSTR && address->bstrVal != nullptr &&
-          new_window_) {
-        new_window_(address->bstrVal);
-      }
+      if (parameters->cArgs < 5) return S_OK;
+      const wchar_t* const address = TextOf(parameters->rgvarg[0]);
+      const bool asked = (parameters->rgvarg[2].lVal & kAskedByUser) != 0;
+      if (address != nullptr && asked && new_window_) new_window_(address);
       return S_OK;
     }
     case DISPID_NEWWINDOW2:

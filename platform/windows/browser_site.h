@@ -12,8 +12,9 @@
 
 namespace platform::windows {
 
-// Fills the client area of `window`. Pages get no windows of their own (`new_window` is told what
-// they asked for), run no ActiveX controls or Java, and download no files.
+// Fills the client area of `window`. Pages come from the web only, get no windows of their own
+// (`new_window` is told what the user asked for), run no scripts, ActiveX controls or Java, and
+// download no files.
 class BrowserSite final : public IOleClientSite,
                           public IOleInPlaceSite,
                           public IOleInPlaceFrame,

@@ -20,6 +20,12 @@ const wchar_t* HeaderValue(const wchar_t* headers, std::wstring_view name) {
   return nullptr;
 }
 
+// Whether any line follows the first: what is not HTTP at all is reported as an answer without.
+bool HasHeaders(const wchar_t* answer) {
+  const wchar_t* const end = answer == nullptr ? nullptr : std::wcschr(answer, L'\n');
+  return end != nullptr && end[1] != L'\0' && end[1] != L'\r' && end[1] != L'\n';
+}
+
 bool IsWebAddress(const wchar_t* address) {
   const wchar_t* const schemes[] = {L"http://", L"https://"};
   return std::any_of(std::begin(schemes), std::end(schemes), [address](const wchar_t* scheme) {
@@ -68,6 +74,7 @@ STDMETHODIMP DownloadCallback::OnProgress(ULONG progress, ULONG end, ULONG statu
   const bool astray = status == BINDSTATUS_REDIRECTING && text != nullptr && !IsWebAddress(text);
   // Not every service heeds the answer alone.
   if (astray || std::max(progress, end) > most_bytes_) End();
+  if (status == BINDSTATUS_REDIRECTING && text != nullptr) link_ = text;
   return ended_ ? E_ABORT : S_OK;
 }
 
@@ -78,12 +85,14 @@ STDMETHODIMP DownloadCallback::BeginningTransaction(LPCWSTR, LPCWSTR, DWORD, LPW
   return S_OK;
 }
 
-STDMETHODIMP DownloadCallback::OnResponse(DWORD, LPCWSTR headers, LPCWSTR, LPWSTR* more) {
+STDMETHODIMP DownloadCallback::OnResponse(DWORD status, LPCWSTR headers, LPCWSTR, LPWSTR* more) {
   if (more != nullptr) *more = nullptr;
   const wchar_t* const length =
       headers == nullptr ? nullptr : HeaderValue(headers, L"Content-Length");
   const unsigned long long bytes = length == nullptr ? 0 : std::wcstoull(length, nullptr, 10);
-  if (length == nullptr || bytes > most_bytes_) {
+  good_ = status >= 200 && status < 300 && HasHeaders(headers) && !ended_;
+  if (!good_ || length == nullptr || bytes > most_bytes_) {
+    unsized_ = good_ && length == nullptr;
     End();
   } else if (HeaderValue(headers, L"Content-Encoding") == nullptr) {
     length_ = bytes;

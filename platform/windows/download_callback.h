@@ -17,10 +17,10 @@
 namespace platform::windows {
 
 // Wants the newest version and no dialog: a certificate that is not trusted and a request for a
-// password end the download. It ends as well when the host does not say how much it sends (only
-// then can an endless answer be told from a small file before it fills the disk), says more than
-// `most_bytes` or sends more, and when it sends on to anything but a web address. What the service
-// saves of a download that ended, the file `arrival`, is deleted.
+// password end the download, and so does any answer but success. It ends as well when the host does
+// not say how much it sends (the service would follow an endless answer until the disk is full),
+// says more than `most_bytes` or sends more, and when it sends on to anything but a web address.
+// What the service saves of a download that ended, the file `arrival`, is deleted.
 class DownloadCallback final : public IBindStatusCallback,
                                public IHttpNegotiate,
                                public IHttpSecurity,
@@ -30,15 +30,25 @@ class DownloadCallback final : public IBindStatusCallback,
   // Memory that the service can free (CoTaskMemAlloc).
   using Allocator = void*(WINAPI*)(SIZE_T);
 
-  DownloadCallback(std::wstring arrival, std::size_t most_bytes, Allocator allocate)
-      : arrival_(std::move(arrival)), most_bytes_(most_bytes), allocate_(allocate) {}
+  DownloadCallback(std::wstring link, std::wstring arrival, std::size_t most_bytes,
+                   Allocator allocate)
+      : link_(std::move(link)),
+        arrival_(std::move(arrival)),
+        most_bytes_(most_bytes),
+        allocate_(allocate) {}
 
   // Ends the download; to be called on the thread that downloads.
   void End();
   bool ended() const { return ended_; }
 
   // Whether a file of `size` bytes is all that the host said it sends.
-  bool IsWhole(unsigned long long size) const { return !length_ || *length_ == size; }
+  bool IsWhole(unsigned long long size) const {
+    return good_ && (length_ ? *length_ == size : size > 0);
+  }
+
+  // Whether it ended because a good answer had no length, and the address that gave this answer.
+  bool unsized() const { return unsized_; }
+  const std::wstring& link() const { return link_; }
 
   STDMETHODIMP QueryInterface(REFIID id, void** object) override;
   STDMETHODIMP_(ULONG) AddRef() override { return references_.Add(); }
@@ -75,11 +85,14 @@ class DownloadCallback final : public IBindStatusCallback,
   friend class ReferenceCount;
 
   ReferenceCount references_;
+  std::wstring link_;
   std::wstring arrival_;
   std::size_t most_bytes_;
   Allocator allocate_;
   ComOwner<IBinding> binding_;
   bool ended_ = false;
+  bool good_ = false;  // the host has answered with success
+  bool unsized_ = false;
   std::optional<unsigned long long> length_;  // as the host said, of a file that is sent as it is
 };
 

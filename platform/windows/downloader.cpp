@@ -6,8 +6,11 @@
 #include <utility>
 
 #include "platform/windows/download_callback.h"
+#include "base/errors.h"
+#include "platform/windows/file_system.h"
 #include "platform/windows/handles.h"
 #include "platform/windows/system_library.h"
+#include "platform/windows/unsized_answer.h"
 #include "platform/windows/wide_text.h"
 
 namespace platform::windows {
@@ -89,16 +92,30 @@ unsigned long long SizeOf(const std::wstring& path) {
   return (static_cast<unsigned long long>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;
 }
 
+bool ReadUnsized(const Job& job, const std::wstring& link) {
+  const auto content = FetchUnsized(link, job.most_bytes, job.given_up);
+  if (!content) return false;
+  try {
+    WindowsFileSystem files;
+    const auto file = files.OpenForWriting(Narrow(job.arrival));
+    file->Write(*content);
+    file->Close();
+  } catch (const base::RuntimeError&) {
+    return false;
+  }
+  return true;
+}
+
 // Services differ on whether a host that hangs up early, or at once, is a failure.
 bool Fetch(Job& job, const Service& service) {
   const ComOwner<DownloadCallback> callback(
-      new DownloadCallback(job.arrival, job.most_bytes, service.allocate));
+      new DownloadCallback(job.link, job.arrival, job.most_bytes, service.allocate));
   const Ear ear(job, *callback);
   if (job.given_up) return false;
   const HRESULT result =
       service.download(nullptr, job.link.c_str(), job.arrival.c_str(), 0, callback.get());
-  const unsigned long long size = SizeOf(job.arrival);
-  return result == S_OK && !callback->ended() && size > 0 && callback->IsWhole(size);
+  if (callback->unsized()) return ReadUnsized(job, callback->link());
+  return result == S_OK && !callback->ended() && callback->IsWhole(SizeOf(job.arrival));
 }
 
 bool FetchWithService(Job& job) {

@@ -29,6 +29,7 @@ class NativeWindow final : public ui::WindowView {
   bool TakesFocus() const { return window_.design().takes_focus; }
 
   void ShowWindow(bool visible) override;
+  bool IsShown() const override { return IsWindowVisible(handle_) != FALSE; }
   void CaptionChanged() override;
   void Changed(const ui::Control& control, ui::Property property) override;
   void Changed(const ui::MenuItem& item, ui::Property property) override;

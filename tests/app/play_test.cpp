@@ -187,6 +187,17 @@ TEST_F(PlayTest, HidingTheMainWindowEndsTheWaitLoopWithinOneTick) {
   EXPECT_FALSE(sim.files.Exists(kWave));
 }
 
+TEST_F(PlayTest, AnotherProgramThatHidesTheMainWindowEndsTheWaitLoopToo) {
+  At(1s, [this](Form1& form1) {
+    form1.Option1.Click();
+    form1.Command2.Click();
+    EXPECT_LE(sim.pump.now_ms(), 1500 + 208);
+  });
+  At(1500ms, [this](Form1&) { sim.windows.hidden_by_others = {"Form1"}; });
+  EXPECT_FALSE(Run());
+  EXPECT_EQ(LogEntries().back(), "#Sound stopped");
+}
+
 TEST_F(PlayTest, ClosingWhilePlayingEndsTheProcess) {
   At(1s, [](Form1& form1) {
     form1.Option1.Click();

@@ -36,6 +36,21 @@ TEST_F(NewsTest, TheNewsComeBeforeTheStatusWindowGoesAndTheMainWindowComes) {
                    "Form8 unloaded", "Form1 shown"}));
 }
 
+TEST_F(NewsTest, OnAFirstRunTheAgreementsStandBeforeTheNews) {
+  sim.files.Delete(kSettings);
+  GoOnline();
+  Run();
+  EXPECT_TRUE(News().Visible());
+  EXPECT_EQ(sim.journal.Texts({Kind::kWindow}).back(), "Form5 shown");
+  EXPECT_FALSE(main().Visible());
+}
+
+TEST_F(NewsTest, AnEmptyTestFileIsAnAnswer) {
+  Answer(kTestAddress, "");
+  Run();
+  EXPECT_TRUE(News().Visible());
+}
+
 TEST_F(NewsTest, InDutchTheTitleIsDutch) {
   PutSettings("n", "n", "NL");
   GoOnline();

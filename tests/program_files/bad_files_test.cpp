@@ -213,7 +213,8 @@ TEST_F(BadFileTest, AHelperThatCannotStartEndsThePlayQuietly) {
   At(5s, [this](Form9& player) {
     EXPECT_EQ(TonesPlayed(), 1u);
     sim.processes.missing_commands.clear();
-    player.Command2.Click();
+    EXPECT_TRUE(player.Command1.Enabled());
+    EXPECT_EQ(player.Label6.Caption(), "");
     player.Command1.Click();
   });
   EXPECT_FALSE(Open(kTune, "32"));

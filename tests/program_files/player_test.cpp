@@ -311,14 +311,28 @@ TEST_F(PlayerTest, AnInvisibleFileShowsNoWindowAndTheProgramEndsAfterTheLastTone
 }
 
 TEST_F(PlayerTest, LoadingUnloadsTheNewsWindow) {
-  sim.files.Put(app::kSettings, app::GoodSettings());
+  sim.files.Put("C:\\a.tnf", FileOf(ProgramWith(kTwo)));
+  bool loaded_later = true;
   sim.At(1s, [this] {
     program->form3.Show();
-    player().SetFilePath("C:\\gone.tnf");
-    player().Load();
-    EXPECT_FALSE(program->form3.Loaded());
+    player().SetFilePath("C:\\a.tnf");
+    player().SetSoundMode("256");
+    player().Show();
   });
+  sim.At(1500ms, [&, this] { loaded_later = program->form3.Loaded(); });
   Run();
+  EXPECT_FALSE(loaded_later);
+}
+
+TEST_F(PlayerTest, TheHandOverFileOfTheLastToneStaysWhenThePlayerEnds) {
+  sim.processes.running = {{77, "tone32.dll"}};
+  sim.At(100ms, [this] { sim.processes.running.push_back({78, "tone32.dll"}); });
+  Lines invisible = ProgramWith(kTwo);
+  invisible[4] = "{invisible}";
+  EXPECT_TRUE(Open(invisible, "256"));
+  EXPECT_EQ(sim.files.Get(kHandOver), " 880 \r\n");
+  // A helper of another copy, which came later than the load routine, goes on.
+  EXPECT_EQ(sim.processes.running.size(), 1u);
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ from pathlib import Path
 ADDRESS = "127.0.0.1"
 PIECE = b"x" * 65536
 GIGABYTE = 1 << 30
+# What would be an update if the answer were a good one.
+UPDATE = b"999\r\nhttp://a.example/\r\n"
 
 
 class Visit:
@@ -82,7 +84,7 @@ def a_gigabyte(visit: Visit) -> None:
 
 def asking_for_a_password(visit: Visit) -> None:
     visit.answer("401 Unauthorized", 'WWW-Authenticate: Basic realm="Tonmira"',
-                 "Content-Length: 0")
+                 f"Content-Length: {len(UPDATE)}", body=UPDATE)
 
 
 def breaking_off(visit: Visit) -> None:
@@ -91,7 +93,11 @@ def breaking_off(visit: Visit) -> None:
 
 
 def missing(visit: Visit) -> None:
-    visit.answer("404 Not Found", "Content-Length: 0")
+    visit.answer("404 Not Found", f"Content-Length: {len(UPDATE)}", body=UPDATE)
+
+
+def failing(visit: Visit) -> None:
+    visit.answer("500 Internal Server Error", body=UPDATE)
 
 
 def talking_nonsense(visit: Visit) -> None:

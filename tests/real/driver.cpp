@@ -10,6 +10,7 @@
 //   running PID                       1 or 0
 //   exit PID                          the exit code of a program that has ended
 //   handles PID                       number of open handles
+//   hide WINDOW                       hides a window, as other programs can
 //   end PID                           ends a process that this program started
 //   windows                           handle, process, class, visible, x, y, width, height, title
 //   controls WINDOW                   handle, id, class, enabled, visible, x, y, width, height,
@@ -336,6 +337,7 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
          GetExitCodeProcess(programs.Get(f.at(1)), &code);
          std::cout << code << '\n';
        }},
+      {"hide", [](const Fields& f) { ShowWindow(Window(f.at(1)), SW_HIDE); }},
       {"end", [&](const Fields& f) { TerminateProcess(programs.Get(f.at(1)), 1); }},
       {"windows", [](const Fields&) { EnumWindows(PrintWindow, 0); }},
       {"controls", [](const Fields& f) { EnumChildWindows(Window(f.at(1)), PrintControl, 0); }},

@@ -131,6 +131,16 @@ def test_closing_the_window_while_it_plays_silences_and_ends(
     recorder.wait_for_silence()
 
 
+def test_another_program_that_hides_the_main_window_ends_the_tone(
+        started: Tonmira, user: User, driver: Driver, recorder: Recorder) -> None:
+    window = play_once(started, user, "Average pitch")
+    recorder.wait_for_tone()
+    driver.ask("hide", window.handle)
+    started.wait_for_log("#Sound stopped")
+    recorder.wait_for_silence()
+    assert started.running()
+
+
 def test_exit_in_the_menu_ends_the_program(started: Tonmira) -> None:
     started.window().choose(1003)
     started.wait_for_end()

@@ -28,6 +28,7 @@ inline const std::string kHandOver = "C:\\Temp\\sound.ini";
 class NoView : public ui::WindowView {
  public:
   void ShowWindow(bool) override {}
+  bool IsShown() const override { return true; }
   void CaptionChanged() override {}
   void Changed(const ui::Control&, ui::Property) override {}
   void Changed(const ui::MenuItem&, ui::Property) override {}
