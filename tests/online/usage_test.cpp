@@ -12,14 +12,10 @@ const std::string kUploadStarted = "start hidden cmd /c \"C:\\Tonmira\\upsend.ex
 
 class UsageTest : public OnlineTest {
  protected:
-  // 0.5 * 5 s * 14 h * 20th of the month + 1 = 701
-  static constexpr char kNumber[] = "701";
-
   void CloseAt(std::chrono::milliseconds moment) {
     At(moment, [](Form1& form1) { form1.Close(); });
   }
 
-  // A time of day at which every number fits, while `random` in the simulation is 0.99.
   void LeaveTheErrorDialogAt(std::chrono::milliseconds moment) {
     At(moment, [this](Form1&) { program->form6.Command1.Click(); });
   }
@@ -29,6 +25,7 @@ TEST_F(UsageTest, WithConsentTheLogIsHandedOverWhenTheProgramEnds) {
   PutSettings("n", "y");
   CloseAt(1s);
   EXPECT_TRUE(Run());
+  // 0.5 * 5 s * 14 h * 20th of the month + 1 = 701
   EXPECT_EQ(sim.files.Get(kHandOver), "C:\\Temp\\userdata.txt\r\n701.txt\r\n");
   EXPECT_EQ(Started(), (Lines{kUploadStarted, "end"}));
 }
