@@ -32,4 +32,10 @@ std::string_view Arguments(std::string_view command_line, std::string_view progr
   return command_line.substr(at);
 }
 
+std::string InterpreterCommand(const std::string& folder, const std::string& name) {
+  const std::string program = "\"" + folder + "\\" + name + "\"";
+  const bool loses_quotes = folder.find_first_of("&<>()@^|") != std::string::npos;
+  return "cmd /c " + (loses_quotes ? "\"" + program + "\"" : program);
+}
+
 }  // namespace base

@@ -1,4 +1,4 @@
-// What of a process's command line are its arguments.
+// Command lines: which part of one are the arguments, and how one is made for the interpreter.
 #pragma once
 
 #include <string>
@@ -10,5 +10,9 @@ namespace base {
 // at the first blank outside quotes; but when the line begins with the whole of `program_path`,
 // without quotes, that is the name, whatever blanks it holds.
 std::string_view Arguments(std::string_view command_line, std::string_view program_path);
+
+// The command that has cmd start the program `name` in `folder`: quoted, and with a second pair of
+// quotes where cmd takes the outermost ones away ("cmd /?" tells when).
+std::string InterpreterCommand(const std::string& folder, const std::string& name);
 
 }  // namespace base

@@ -12,9 +12,6 @@
 
 namespace online {
 
-// The command that starts the upload program of `program_folder`.
-std::string UploadCommand(const std::string& program_folder);
-
 class UploadHandOver : public settings::LogUpload {
  public:
   UploadHandOver(platform::Platform& platform, settings::ErrorNotes& errors)

@@ -1,7 +1,7 @@
 // Playing the tone program.
+#include "base/command_line.h"
 #include "base/numbers.h"
 #include "program_files/form9.h"
-#include "program_files/helper_command.h"
 #include "tone/quietly.h"
 
 namespace program_files {
@@ -96,7 +96,8 @@ void Form9::PlayTone() {
 
 void Form9::StartHelper() {
   if (sound_mode_ == "16") {
-    platform_.processes.StartHidden(ClassicHelperCommand(platform_.environment.ProgramFolder()));
+    platform_.processes.StartHidden(
+        base::InterpreterCommand(platform_.environment.ProgramFolder(), "play16.exe"));
   }
   if (sound_mode_ == "32") platform_.processes.StartHidden("tone32.dll");
 }

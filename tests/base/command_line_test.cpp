@@ -28,5 +28,21 @@ TEST(Arguments, TheWholePathIsTheNameEvenWithBlanksAndWithoutQuotes) {
             "Files\\Tonmira\\tonmira.exes x");
 }
 
+TEST(InterpreterCommand, QuotesTheProgram) {
+  EXPECT_EQ(InterpreterCommand("C:\\Tonmira", "play16.exe"), "cmd /c \"C:\\Tonmira\\play16.exe\"");
+  EXPECT_EQ(InterpreterCommand("C:\\My Tones", "upsend.exe"),
+            "cmd /c \"C:\\My Tones\\upsend.exe\"");
+}
+
+TEST(InterpreterCommand, HasQuotesToSpareWhereCmdTakesAPairAway) {
+  EXPECT_EQ(InterpreterCommand("C:\\Program Files (x86)\\T", "play16.exe"),
+            "cmd /c \"\"C:\\Program Files (x86)\\T\\play16.exe\"\"");
+  for (const char c : {'&', '<', '>', '(', ')', '@', '^', '|'}) {
+    const std::string folder = std::string("C:\\Tom ") + c;
+    EXPECT_EQ(InterpreterCommand(folder, "upsend.exe"),
+              "cmd /c \"\"" + folder + "\\upsend.exe\"\"");
+  }
+}
+
 }  // namespace
 }  // namespace base

@@ -174,19 +174,5 @@ TEST_F(UsageTest, AHandOverFileThatCannotBeWrittenIsReportedOnceAndNotItselfHand
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
-TEST(UploadCommand, HoldsTheProgramsFolderInQuotes) {
-  EXPECT_EQ(online::UploadCommand("C:\\Tonmira"), "cmd /c \"C:\\Tonmira\\upsend.exe\"");
-  EXPECT_EQ(online::UploadCommand("C:\\Program Files\\Tonmira"),
-            "cmd /c \"C:\\Program Files\\Tonmira\\upsend.exe\"");
-}
-
-// The command interpreter takes the outer quotes away when one of these stands between them.
-TEST(UploadCommand, HasASecondPairOfQuotesWhereTheFirstIsTakenAway) {
-  for (const char c : std::string("&<>()@^|")) {
-    const std::string folder = std::string("C:\\Tom ") + c;
-    EXPECT_EQ(online::UploadCommand(folder), "cmd /c \"\"" + folder + "\\upsend.exe\"\"");
-  }
-}
-
 }  // namespace
 }  // namespace app
