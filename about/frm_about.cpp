@@ -9,7 +9,7 @@
 namespace about {
 namespace {
 
-constexpr std::int16_t kErrorValue = 1;  // of the main window's handler
+constexpr base::ErrorValue kErrorValue = base::ErrorValue::kAbout;  // of the main window's handler
 constexpr char kDutchDescription[] =
     "Maak de meest vervelende geluiden met Tonmira! Problemen? Mail dan naar: "
     "support@tonmira.example";
@@ -23,7 +23,7 @@ constexpr char kTool[] = "\\MSINFO32.EXE";
 
 }  // namespace
 
-frmAbout::frmAbout(platform::Platform& platform, settings::ErrorNotes& errors,
+frmAbout::frmAbout(platform::Platform& platform, base::ErrorReporter& errors,
                    std::function<void()> load_captions)
     : ui::Window(platform.windows, {"frmAbout", "", 420, 198}),
       platform_(platform),
@@ -31,7 +31,7 @@ frmAbout::frmAbout(platform::Platform& platform, settings::ErrorNotes& errors,
       load_captions_(std::move(load_captions)) {
   cmdOK.OnClick = [this] { Unload(); };
   cmdSysInfo.OnClick = [this] {
-    settings::TrapErrors(errors_, kErrorValue, [this] { StartSysInfo(); });
+    base::TrapErrors(errors_, kErrorValue, [this] { StartSysInfo(); });
   };
   SetDefaultButton(&cmdOK);
   SetCancelButton(&cmdOK);
@@ -74,7 +74,7 @@ bool frmAbout::StartTool(const std::string& path) {
   const std::string bare = base::RemoveAll(path, '"');
   if (bare.empty()) return false;
   // Quoted, so that no program whose name is the path's beginning up to a blank starts instead.
-  return !settings::Caught([&] { platform_.processes.Start('"' + bare + '"'); });
+  return !base::Caught([&] { platform_.processes.Start('"' + bare + '"'); });
 }
 
 }  // namespace about

@@ -11,7 +11,7 @@
 
 #include "lang/language_loader.h"
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace about {
@@ -19,7 +19,7 @@ namespace about {
 class frmAbout : public ui::Window {
  public:
   // `load_captions` loads this window's captions in the current language.
-  frmAbout(platform::Platform& platform, settings::ErrorNotes& errors,
+  frmAbout(platform::Platform& platform, base::ErrorReporter& errors,
            std::function<void()> load_captions);
 
   ui::PictureBox picIcon{*this, "picIcon", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};
@@ -35,7 +35,7 @@ class frmAbout : public ui::Window {
   ui::Button cmdSysInfo{*this, "cmdSysInfo", {152, 152, 120, 30}, "&System Info..."};
 
   // The captions of this window, by slot of a language file.
-  std::vector<lang::CaptionSlot> Captions() { return {{72, &cmdSysInfo}}; }
+  std::vector<lang::CaptionSlot> Captions() { return {{lang::Slot::kSystemInfo, &cmdSysInfo}}; }
 
   // Starts the system's information tool, or says that there is none.
   void StartSysInfo();
@@ -53,7 +53,7 @@ class frmAbout : public ui::Window {
   bool StartTool(const std::string& path);
 
   platform::Platform& platform_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
   std::function<void()> load_captions_;
 };
 

@@ -5,21 +5,22 @@
 
 namespace app {
 
-Application::Application(platform::Platform& platform)
-    : form1(platform, *this, CommandLine(platform)),
-      form2(platform.windows, [this] { LoadHelpCaptions(); }),
-      form4(platform, form1.State(), form1, *this),
-      form5(platform, form1.State(), errors_, [this] { UnloadAll(); }),
+Application::Application(platform::Platform& platform, lang::Languages languages)
+    : platform_(platform),
+      errors_(platform, state_, *this, upload_),
+      upload_(platform, errors_),
+      form1(platform, state_, languages, errors_, Others(), CommandLine(platform)),
+      form2(platform.windows, [this] { Translate(lang::kHelpWindow); }),
+      form4(platform, state_, form1, [this] { Translate(lang::kMorseWindow); }),
+      form5(platform, state_, errors_, languages, [this] { UnloadAll(); }),
       form6(
           platform.windows, [this] { UnloadAll(); }, [this] { VisitSite(); }),
       form8(platform.windows),
-      form3(platform, form1.State(), errors_, form8),
+      form3(platform, state_, errors_, languages, form8),
       form7(platform, errors_),
-      form9(platform, form1.State(), form1, *this),
-      frm_about(platform, errors_, [this] { LoadAboutCaptions(); }),
-      platform_(platform),
-      upload_(platform, errors_),
-      errors_(platform, form1.State(), *this, upload_) {
+      form9(platform, state_, form1, {[this] { form3.Unload(); }, [this] { UnloadAll(); }}),
+      frm_about(platform, errors_,
+                [this] { form1.LoadCaptions(state_.language, lang::kAboutBox); }) {
   const std::initializer_list<ui::Window*> windows{&form1, &form2, &form3, &form4, &form5,
                                                    &form6, &form7, &form8, &form9, &frm_about};
   for (ui::Window* window : windows) {
@@ -51,7 +52,7 @@ void Application::HideOtherWindows() {
   frm_about.Hide();
 }
 
-void Application::UnloadOtherWindows() {
+void Application::UnloadOthers() {
   form2.Unload();
   form3.Unload();
   form4.Unload();
@@ -64,8 +65,6 @@ void Application::UnloadOtherWindows() {
 
 std::vector<lang::CaptionSlot> Application::CaptionsOf(std::int16_t formval) {
   switch (formval) {
-    case lang::kMainWindow:
-      return form1.Captions();
     case lang::kHelpWindow:
       return form2.Captions();
     case lang::kMorseWindow:
@@ -77,18 +76,22 @@ std::vector<lang::CaptionSlot> Application::CaptionsOf(std::int16_t formval) {
   }
 }
 
-void Application::LoadMorseCaptions(const std::string& language) {
-  form1.LoadCaptions(language, lang::kMorseWindow);
+void Application::Translate(std::int16_t formval) {
+  const std::string& language = state_.language;
+  if (lang::IsTranslated(language)) form1.LoadCaptions(language, formval);
 }
 
-// The help window is designed in English.
-void Application::LoadHelpCaptions() {
-  const std::string& language = form1.State().language;
-  if (language == "nl") form1.LoadCaptions(language, lang::kHelpWindow);
-}
-
-void Application::LoadAboutCaptions() {
-  form1.LoadCaptions(form1.State().language, lang::kAboutBox);
+OtherWindows Application::Others() {
+  return {.status = form8,
+          .help = form2,
+          .morse = form4,
+          .first_run = form5,
+          .about = frm_about,
+          .news = form3,
+          .update = form7,
+          .player = form9,
+          .captions = [this](std::int16_t formval) { return CaptionsOf(formval); },
+          .unload = [this] { UnloadOthers(); }};
 }
 
 // A path is resolved before the program's own folder becomes the current one: language files and
@@ -103,12 +106,12 @@ std::string Application::CommandLine(platform::Platform& platform) {
 
 void Application::UnloadAll() {
   form1.Unload();
-  UnloadOtherWindows();
+  UnloadOthers();
 }
 
 // Nobody could be told of a browser that does not start: this is the error dialog already.
 void Application::VisitSite() {
-  settings::Caught([this] {
+  base::Caught([this] {
     online::OpenInBrowser(platform_.processes, online::SiteAddresses(platform_.environment).Home());
   });
 }

@@ -13,16 +13,24 @@
 #include "online/upload_hand_over.h"
 #include "platform/platform.h"
 #include "program_files/form9.h"
+#include "settings/error_notes.h"
 #include "settings/form5.h"
 #include "settings/form6.h"
 
 namespace app {
 
-class Application : public OtherWindows,
-                    public morse::MorseScene,
-                    public program_files::PlayerScene {
+class Application : public settings::ErrorScene {
+  platform::Platform& platform_;
+
+  // For windows and services alike.
+  settings::MainState state_;
+  settings::ErrorNotes errors_;
+  online::UploadHandOver upload_;
+
  public:
-  explicit Application(platform::Platform& platform);
+  // The first language is the one that the windows are designed in.
+  explicit Application(platform::Platform& platform,
+                       lang::Languages languages = lang::ShippedLanguages());
 
   // Starts the program, handles its user's input and ends the process when no window is left.
   void Run();
@@ -38,56 +46,21 @@ class Application : public OtherWindows,
   program_files::Form9 form9;
   about::frmAbout frm_about;
 
-  // OtherWindows
-  ui::Window& StatusWindow() override { return form8; }
-  ui::Label& StatusLabel() override { return form8.Label2; }
-  ui::Window& HelpWindow() override { return form2; }
-  ui::Window& MorseWindow() override { return form4; }
-  ui::Window& FirstRun() override { return form5; }
-  ui::Window& AboutBox() override { return frm_about; }
-  program_files::Form9& PlayerWindow() override { return form9; }
-  online::Form3& NewsWindow() override { return form3; }
-  settings::ErrorNotes& Errors() override { return errors_; }
-
-  // online::UpdateScene
-  online::Form7& UpdateDialog() override { return form7; }
-  const lang::Texts& MessageTexts() const override { return form1.MessageTexts(); }
-
-  // lang::CaptionScene
-  std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval) override;
-  void UseTexts(const lang::Texts& texts, std::int16_t formval) override {
-    form1.UseTexts(texts, formval);
-  }
-
-  // morse::MorseScene
-  void LoadMorseCaptions(const std::string& language) override;
-
-  // program_files::PlayerScene
-  void UnloadNewsWindow() override { form3.Unload(); }
-  void UnloadEveryWindow() override { UnloadAll(); }
-
   // settings::ErrorScene
   settings::Form6& ErrorDialog() override { return form6; }
   void HideOtherWindows() override;
 
-  // WindowList
-  void UnloadOtherWindows() override;
-  void UnloadMainWindow() override { form1.Unload(); }
-
  private:
   static std::string CommandLine(platform::Platform& platform);
-  void LoadHelpCaptions();
-  void LoadAboutCaptions();
+  OtherWindows Others();
+  std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval);
+
+  // Loads a window's captions where the language is not the one it is designed in.
+  void Translate(std::int16_t formval);
+  void UnloadOthers();
   void UnloadAll();
   void EndAfter(const base::RuntimeError& error);
-
   void VisitSite();
-
-  platform::Platform& platform_;
-
-  // For the windows that report errors of their own.
-  online::UploadHandOver upload_;
-  settings::ErrorNotes errors_;
 };
 
 }  // namespace app

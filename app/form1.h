@@ -6,12 +6,17 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/form1_controls.h"
+#include "app/form8.h"
 #include "app/services.h"
-#include "base/main_state.h"
+#include "app/tone_modes.h"
+#include "base/numbers.h"
+#include "settings/main_state.h"
 #include "display/dx_record.h"
 #include "display/waveform.h"
 #include "lang/texts.h"
@@ -23,39 +28,43 @@
 namespace app {
 
 // The other windows of the program, as the main window reaches them.
-class OtherWindows : public WindowList,
-                     public settings::ErrorScene,
-                     public lang::CaptionScene,
-                     public online::UpdateScene {
- public:
-  virtual ui::Window& StatusWindow() = 0;  // Form8
-  virtual ui::Label& StatusLabel() = 0;    // Form8.Label2
-  virtual ui::Window& HelpWindow() = 0;    // Form2
-  virtual ui::Window& MorseWindow() = 0;   // Form4
-  virtual ui::Window& FirstRun() = 0;      // Form5
-  virtual ui::Window& AboutBox() = 0;      // frmAbout
-  virtual program_files::Form9& PlayerWindow() = 0;
-  virtual online::Form3& NewsWindow() = 0;
-  virtual settings::ErrorNotes& Errors() = 0;  // for objects that outlive a handler
+struct OtherWindows {
+  Form8& status;
+  ui::Window& help;
+  ui::Window& morse;
+  ui::Window& first_run;
+  ui::Window& about;
+  online::Form3& news;
+  online::Form7& update;
+  program_files::Form9& player;
+
+  // The captions of window `formval`; none for a number without a window.
+  std::function<std::vector<lang::CaptionSlot>(std::int16_t formval)> captions;
+  std::function<void()> unload;  // all of them, in the order of their numbers
 };
 
-class Form1 : public Form1Controls,
-              public settings::SettingsDisplay,
-              public tone::PlayScene,
-              public ModeDisplay {
+class Form1 : public Form1Controls, public settings::SettingsDisplay, public tone::PlayScene {
  public:
   // `command_line` is what followed the program's name, its path resolved.
-  Form1(platform::Platform& platform, OtherWindows& others, std::string command_line);
+  Form1(platform::Platform& platform, settings::MainState& state, lang::Languages languages,
+        base::ErrorReporter& errors, OtherWindows others, std::string command_line);
 
-  base::MainState& State() { return state_; }
+  settings::MainState& State() { return state_; }
+
+  const Context& Services() const { return context_; }
 
   // Whether something hid the window since it began to load.
   bool StaysHidden() const { return stays_hidden_; }
 
   // The captions of this window, by slot of a language file.
   std::vector<lang::CaptionSlot> Captions();
-  void UseTexts(const lang::Texts& texts, std::int16_t formval);
-  const lang::Texts& MessageTexts() const { return texts_; }
+
+  // kNone before one is chosen.
+  ToneMode SelectedMode();
+
+  // The button of a tone mode, and of all of them in their order.
+  ui::OptionButton& OptionOf(ToneMode mode) { return this->*FactsOf(mode).option; }
+  std::vector<ui::OptionButton*> Options();
 
   // Applies the language file of `language` to a window.
   void LoadCaptions(const std::string& language, std::int16_t formval);
@@ -64,12 +73,11 @@ class Form1 : public Form1Controls,
   void HelpRequested() override;
 
   // settings::SettingsDisplay
-  void ShowAutoUpdate(bool on) override;
+  void ShowChecked(const settings::Setting& setting, bool on) override;
   void ShowLanguage(const std::string& language) override;
   void LoadCaptions(const std::string& code) override { LoadCaptions(code, lang::kMainWindow); }
-  void ShowMicrophone(bool on) override;
   void ShowMicrophoneLevel(std::int16_t level) override;
-  void ShowFirstRun() override { others_.FirstRun().Show(); }
+  void ShowFirstRun() override { others_.first_run.Show(); }
   void HideMainWindow() override { Hide(); }
 
   // tone::PlayScene
@@ -79,9 +87,6 @@ class Form1 : public Form1Controls,
   void DrawSine(std::int16_t pitch, std::int16_t mode) override;
   std::string StatusCaption() const override { return texts_.status; }
 
-  // ModeDisplay
-  void ShowMode(int mode) override;
-
   std::int16_t mode_chosen_flag = 0;  // 1 once one of the modes 1 to 8 was chosen
 
  protected:
@@ -89,44 +94,43 @@ class Form1 : public Form1Controls,
   void Form_Unload() override;
 
  private:
-  using ProgramPtr = std::shared_ptr<Program>;
-
   void ConnectControls();
   void ConnectMenu();
 
-  // A handler that is interrupted by a nested one keeps the service objects that it began with.
-  ProgramPtr NewProgram();
-  std::shared_ptr<ExFunctions> NewExFunctions();
+  std::vector<lang::CaptionSlot> CaptionsOf(std::int16_t formval);
+  void UseTexts(const lang::LanguageFile& source, std::int16_t formval);
 
   // Start-up (form1_start.cpp).
-  void DeleteOldLog();
-  void StartUp();
+  void DeleteOldLog(ExFunctions& ex_functions);
+  void StartUp(Program& program, ExFunctions& ex_functions);
   void TakeCommandLine();
   void StartLog();
-  void CheckSystem();
-  void ReadSettings();
+  void CheckSystem(Program& program, ExFunctions& ex_functions);
+  void ReadSettings(Program& program);
   void ShowSoundMode();
-  void TestConnection();
-  void FinishStart();
+  void TestConnection(ExFunctions& ex_functions);
+  void FinishStart(Program& program);
   void ShowStep(const std::string& text);
 
   // Tone modes (form1_modes.cpp).
-  void OptionClick(int mode);
-  void ShowSine(Program& program, int mode);
-  void ReselectMode(const ProgramPtr& program);
+  void EnableToolModes(bool enabled);  // those that DirectSound does not have
+  void OptionClick(const ToneModeFacts& mode);
+  void ShowMode(ToneMode mode);
+  void ShowSine(Program& program, const ToneModeFacts& mode);
+  void ReselectMode(Program& program);
   void HScroll1_Change();
-  std::int16_t SelectedPitch() const;  // of the slider, as it is shown
+  std::int16_t SliderPitch() const { return base::ToInt16(HScroll1.Value()); }
 
   // Play and Stop (form1_play.cpp).
   void Command2_Click();
   void Command3_Click();
-  void Play(const ProgramPtr& program);
-  std::int16_t TakePitch();
+  void Play(Program& program);
+  std::int16_t TakePitch(const ToneModeFacts& mode);
   void StartHearingTest();
   void DisableForPlaying();
-  void PlaySweep(const ProgramPtr& program, sound& tone);
-  void PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch);
-  void Stop(const ProgramPtr& program);
+  void PlaySweep(Program& program, sound& tone);
+  void PlayTone(Program& program, sound& tone, ToneKind kind, std::int16_t pitch);
+  void Stop(Program& program);
   void RefreshStatus() { ShowStatus(texts_.status); }
   bool PlayingEnds() const { return !OnScreen() || state_.stop_flag == 1; }
   void WaitTick();
@@ -146,25 +150,23 @@ class Form1 : public Form1Controls,
   // Menus and the other buttons (form1_menus.cpp).
   void openfile_Click();
   void Command1_Click();
-  void ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item, const std::string& code);
-  void ChooseLanguage(std::int16_t error_value, const std::string& code,
-                      const std::string& setting);
-  void ToggleAutoUpdate();
+  void ChooseSoundMode(const SoundModeItem& chosen);
+  void ChooseLanguage(const lang::Language& chosen);
+  void Turn(const CheckMark& mark);
   void ToggleMicrophone();
-  void ChangeSensitivity(std::int16_t error_value, int step);
+  void ChangeSensitivity(base::ErrorValue error_value, int step);
   void ShowAboutBox();
   void Exit();
   online::Addresses Site() const { return online::SiteAddresses(platform_.environment); }
-  void VisitPage(std::int16_t error_value, const std::string& entry, const std::string& address);
+  void VisitPage(base::ErrorValue error_value, const std::string& entry,
+                 const std::string& address);
 
   platform::Platform& platform_;
-  OtherWindows& others_;
-  base::MainState state_;
-  lang::Texts texts_;
-  display::SineAnimation sine_animation_{platform_, state_, Picture1, others_.Errors()};
-  Scene scene_;
-  ProgramPtr program_;
-  std::shared_ptr<ExFunctions> ex_functions_;
+  settings::MainState& state_;
+  OtherWindows others_;
+  lang::Texts texts_ = DesignTexts();
+  display::SineAnimation sine_animation_;
+  Context context_;
 
   std::unique_ptr<display::frmDX_Record> DirectSoundRecord;
 
@@ -177,9 +179,8 @@ class Form1 : public Form1Controls,
   std::int16_t last_close_answer_ = 0;
   bool stays_hidden_ = false;
 
-  std::string mode_number_;
-  std::array<std::int16_t, 10> disabled_modes_{};  // index N: mode N, 1 = disabled before a play
-  std::int16_t option_index_ = 0;
+  // In the order of the tone modes: whether one was disabled already when a play began.
+  std::array<bool, kToneModes.size()> disabled_modes_{};
 };
 
 }  // namespace app

@@ -4,46 +4,44 @@
 namespace app {
 
 std::vector<lang::CaptionSlot> Form1::Captions() {
+  using lang::Slot;
   std::vector<lang::CaptionSlot> captions;
-  for (std::size_t i = 0; i < Options().size(); ++i) captions.push_back({4 + i, Options()[i]});
-  const std::vector<lang::CaptionSlot> rest{{13, &Frame1},
-                                            {14, &Command2},
-                                            {15, &Command3},
-                                            {16, &Label9},
-                                            {17, &Label3},
-                                            {18, &Frame3},
-                                            {19, &file},
-                                            {20, &exit},
-                                            {21, &settings},
-                                            {22, &soundmode},
-                                            {23, &language},
-                                            {24, &microinputonoff},
-                                            {25, &autoupdate},
-                                            {26, &about},
-                                            {27, &contact},
-                                            {28, &donate},
-                                            {29, &StatusBar1},
-                                            {74, &Label8, true},
-                                            {75, &Frame2, true},
-                                            {76, &Command1, true},
-                                            {77, &sndclassic, true},
-                                            {78, &sndautomatic, true},
-                                            {80, &openfile, true},
-                                            {81, &webpage, true},
-                                            {82, &help, true}};
+  for (const ToneModeFacts& mode : kToneModes) {
+    captions.push_back({mode.caption, &OptionOf(mode.mode)});
+  }
+  const std::vector<lang::CaptionSlot> rest{
+      {Slot::kChoices, &Frame1},        {Slot::kPlay, &Command2},
+      {Slot::kStop, &Command3},         {Slot::kCustomPitch, &Label9},
+      {Slot::kSelectedPitch, &Label3},  {Slot::kSoundWaves, &Frame3},
+      {Slot::kFileMenu, &file},         {Slot::kExit, &exit},
+      {Slot::kSettingsMenu, &settings}, {Slot::kSoundModeMenu, &soundmode},
+      {Slot::kLanguageMenu, &language}, {Slot::kMicrophoneMenu, &microinputonoff},
+      {Slot::kAutoUpdate, &autoupdate}, {Slot::kAbout, &about},
+      {Slot::kContact, &contact},       {Slot::kDonate, &donate},
+      {Slot::kStatus, &StatusBar1},     {Slot::kNoInformation, &Label8},
+      {Slot::kInfo, &Frame2},           {Slot::kHelpButton, &Command1},
+      {Slot::kClassic, &sndclassic},    {Slot::kAutomatic, &sndautomatic},
+      {Slot::kOpenFile, &openfile},     {Slot::kWebPage, &webpage},
+      {Slot::kHelpMenu, &help},
+  };
   captions.insert(captions.end(), rest.begin(), rest.end());
   // Once a mode is selected, its description stands there.
-  if (SelectedMode() == 0) captions.push_back({73, &Label1, true});
+  if (SelectedMode() == ToneMode::kNone) captions.push_back({Slot::kSelectAMode, &Label1});
   return captions;
 }
 
-void Form1::UseTexts(const lang::Texts& texts, std::int16_t formval) {
-  texts_ = texts;
+std::vector<lang::CaptionSlot> Form1::CaptionsOf(std::int16_t formval) {
+  return formval == lang::kMainWindow ? Captions() : others_.captions(formval);
+}
+
+void Form1::UseTexts(const lang::LanguageFile& source, std::int16_t formval) {
+  texts_ = DesignTexts();
+  texts_.Take(source);
   if (formval == lang::kMainWindow) ShowMicrophoneLevel(state_.Microphone);
 }
 
 void Form1::LoadCaptions(const std::string& code, std::int16_t formval) {
-  Program(platform_, state_, scene_).LanguageAPI(code, formval);
+  Program(context_).LanguageAPI(code, formval);
 }
 
 }  // namespace app

@@ -1,18 +1,16 @@
 #include "app/form1_controls.h"
 
+#include <string>
+
 namespace app {
 
-int Form1Controls::SelectedMode() const {
-  for (std::size_t i = 0; i < options_.size(); ++i) {
-    if (options_[i]->Value()) return static_cast<int>(i) + 1;
+std::vector<std::unique_ptr<ui::MenuItem>> Form1Controls::LanguageItems() {
+  std::vector<std::unique_ptr<ui::MenuItem>> items;
+  for (const lang::Language& row : languages_) {
+    items.push_back(std::make_unique<ui::MenuItem>(language, std::string(row.menu_name),
+                                                   std::string(row.menu_caption)));
   }
-  return 0;
-}
-
-void Form1Controls::EnableToolModes(bool enabled) {
-  Option9.SetEnabled(enabled);
-  Option8.SetEnabled(enabled);
-  Option6.SetEnabled(enabled);
+  return items;
 }
 
 void Form1Controls::DesignState() {

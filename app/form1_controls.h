@@ -1,16 +1,26 @@
-// The main window's controls, menu and layout.
+// The main window's controls, menu and layout, and which of them belong to which row of the tables
+// of languages, sound modes and settings.
 #pragma once
 
 #include <array>
+#include <memory>
+#include <vector>
 
+#include "base/error_value.h"
+#include "base/sound_mode.h"
+#include "lang/languages.h"
+#include "settings/settings.h"
 #include "ui/window.h"
 
 namespace app {
 
 class Form1Controls : public ui::Window {
+ protected:
+  const lang::Languages languages_;
+
  public:
-  explicit Form1Controls(ui::WindowSystem& system)
-      : ui::Window(system, {"Form1", "Tonmira", 640, 486}) {
+  Form1Controls(ui::WindowSystem& system, lang::Languages languages)
+      : ui::Window(system, {"Form1", "Tonmira", 640, 486}), languages_(languages) {
     Option1.StartGroup();
     HScroll1.StartGroup();
   }
@@ -64,8 +74,9 @@ class Form1Controls : public ui::Window {
   ui::MenuItem sndautomatic{soundmode, "sndautomatic", "Automatic"};
   ui::MenuItem sndwinmm{soundmode, "sndwinmm", "Winmm"};
   ui::MenuItem language{settings, "language", "Language"};
-  ui::MenuItem english{language, "english", "English"};
-  ui::MenuItem dutch{language, "dutch", "Nederlands"};
+  std::vector<std::unique_ptr<ui::MenuItem>> language_items = LanguageItems();  // as the languages
+  ui::MenuItem& english = *language_items[0];
+  ui::MenuItem& dutch = *language_items[1];
   ui::MenuItem separator{settings, "-", ""};
   ui::MenuItem microinputonoff{settings, "microinputonoff", "Display Microphone Input"};
   ui::MenuItem autoupdate{settings, "autoupdate", "Check for updates at start"};
@@ -76,14 +87,29 @@ class Form1Controls : public ui::Window {
   ui::MenuItem help_separator{help, "-", ""};
   ui::MenuItem about{help, "about", "About Tonmira"};
 
-  // Option1 to Option9 at indexes 0 to 8.
-  const std::array<ui::OptionButton*, 9>& Options() const { return options_; }
+  // Which menu item chooses a sound mode.
+  struct SoundModeItem {
+    base::SoundMode mode;
+    ui::MenuItem& item;
+    base::ErrorValue error_value;
+  };
+  const std::array<SoundModeItem, 5> sound_mode_items{{
+      {base::SoundMode::kClassic, sndclassic, base::ErrorValue::kClassic},
+      {base::SoundMode::kSound32, sndsound32, base::ErrorValue::kSound32},
+      {base::SoundMode::kDirectSound, snddirectsound, base::ErrorValue::kDirectSound},
+      {base::SoundMode::kAutomatic, sndautomatic, base::ErrorValue::kAutomatic},
+      {base::SoundMode::kWinmm, sndwinmm, base::ErrorValue::kWinmm},
+  }};
 
-  // The number of the selected tone mode, 1 to 9, or 0.
-  int SelectedMode() const;
-
-  // The tone modes that DirectSound cannot play: Option9, Option8 and Option6.
-  void EnableToolModes(bool enabled);
+  // Settings that are nothing but a check mark: choosing the item turns it and writes it down.
+  struct CheckMark {
+    ui::MenuItem& item;
+    const settings::Setting& setting;
+    base::ErrorValue error_value;
+  };
+  const std::array<CheckMark, 1> check_marks{{
+      {autoupdate, settings::kAutoUpdate, base::ErrorValue::kAutoUpdate},
+  }};
 
  protected:
   void DesignState() override;
@@ -92,8 +118,7 @@ class Form1Controls : public ui::Window {
   void EnableCustomPitch(bool enabled);
 
  private:
-  std::array<ui::OptionButton*, 9> options_{&Option1, &Option2, &Option3, &Option4, &Option5,
-                                            &Option6, &Option7, &Option8, &Option9};
+  std::vector<std::unique_ptr<ui::MenuItem>> LanguageItems();
 };
 
 }  // namespace app

@@ -2,13 +2,14 @@
 #include "app/form1.h"
 
 #include "base/numbers.h"
+#include "base/text.h"
 
 namespace app {
 
 // This copy does not play files: another one does, which shows the player instead of this window.
 void Form1::openfile_Click() {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, 16, [&] {
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kOpenFile, [&] {
     const std::string path = platform_.file_dialogs.Open(
         {"Select File", "Tonmira file (*.tnf)|*.tnf|All files (*.*)|*.*", "tnf"});
     if (!path.empty() && platform_.files.Exists(path)) {
@@ -21,7 +22,8 @@ void Form1::openfile_Click() {
 }
 
 void Form1::Command1_Click() {
-  settings::TrapErrors(*NewProgram(), 3, [this] { others_.HelpWindow().Show(); });
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kHelp, [this] { others_.help.Show(); });
 }
 
 void Form1::HelpRequested() {
@@ -29,67 +31,70 @@ void Form1::HelpRequested() {
 }
 
 void Form1::ShowAboutBox() {
-  settings::TrapErrors(*NewProgram(), 1, [this] { others_.AboutBox().Show(); });
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kAbout, [this] { others_.about.Show(); });
 }
 
 void Form1::Exit() {
-  settings::TrapErrors(*NewProgram(), 13, [this] { Unload(); });
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kExit, [this] { Unload(); });
 }
 
 // Contact and donations have the same entry.
-void Form1::VisitPage(std::int16_t error_value, const std::string& entry,
+void Form1::VisitPage(base::ErrorValue error_value, const std::string& entry,
                       const std::string& address) {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, error_value, [&] {
-    program->PrintFile(entry);
+  Program program(context_);
+  base::TrapErrors(program, error_value, [&] {
+    program.PrintFile(entry);
     online::OpenInBrowser(platform_.processes, address);
   });
 }
 
-void Form1::ChooseSoundMode(std::int16_t error_value, ui::MenuItem& item, const std::string& code) {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, error_value, [&] {
-    item.SetChecked(true);
+void Form1::ChooseSoundMode(const SoundModeItem& chosen) {
+  Program program(context_);
+  base::TrapErrors(program, chosen.error_value, [&] {
+    const base::SoundModeFacts& facts = base::FactsOf(chosen.mode);
+    chosen.item.SetChecked(true);
     for (ui::MenuItem* other : soundmode.Items()) {
-      if (other != &item) other->SetChecked(false);
+      if (other != &chosen.item) other->SetChecked(false);
     }
-    program->WriteLine(2, "SoundBit=" + code);
-    state_.SoundBit = code;
-    EnableToolModes(code != "64");
+    program.WriteLine(settings::kSoundBit, facts.code);
+    state_.SoundBit = chosen.mode;
+    EnableToolModes(facts.plays_tools);
     // Selecting from here counts as the user's choice, so that the Info frame tells of the mode
     // that is selected.
-    if ((code == "64" || code == "16") && !Option1.Value()) Option1.Click();
+    if (facts.selects_first_mode && !Option1.Value()) Option1.Click();
   });
 }
 
-void Form1::ChooseLanguage(std::int16_t error_value, const std::string& code,
-                           const std::string& setting) {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, error_value, [&] {
+void Form1::ChooseLanguage(const lang::Language& chosen) {
+  Program program(context_);
+  base::TrapErrors(program, chosen.error_value, [&] {
+    const std::string code(chosen.code);
     ShowLanguage(code);
-    program->WriteLine(3, setting);
+    program.WriteLine(settings::kLanguage, base::ToUpper(code));
     state_.language = code;
-    program->LanguageAPI(code, lang::kMainWindow);
-    const int mode = SelectedMode();
-    if (mode != 0) program->SelectRadio(static_cast<std::int16_t>(mode));
+    program.LanguageAPI(code, lang::kMainWindow);
+    const ToneMode mode = SelectedMode();
+    if (mode != ToneMode::kNone) program.SelectRadio(mode);
   });
 }
 
-void Form1::ToggleAutoUpdate() {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, 2, [&] {
-    const bool on = !autoupdate.Checked();
-    program->WriteLine(1, on ? "AutoUpdate=y" : "AutoUpdate=n");
-    autoupdate.SetChecked(on);
+void Form1::Turn(const CheckMark& mark) {
+  Program program(context_);
+  base::TrapErrors(program, mark.error_value, [&] {
+    const bool on = !mark.item.Checked();
+    program.WriteLine(mark.setting, settings::YesNo(on));
+    mark.item.SetChecked(on);
   });
 }
 
 void Form1::ToggleMicrophone() {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, 39, [&] {
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kMicrophoneOnOff, [&] {
     const bool on = !microinputonoff.Checked();
     microinputonoff.SetChecked(on);
-    program->WriteLine(6, on ? "MicrophoneON=y" : "MicrophoneON=n");
+    program.WriteLine(settings::kMicrophoneON, settings::YesNo(on));
     state_.MicrophoneON = on ? 1 : 0;
     if (on) {
       StartCapture();
@@ -102,14 +107,14 @@ void Form1::ToggleMicrophone() {
   });
 }
 
-void Form1::ChangeSensitivity(std::int16_t error_value, int step) {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, error_value, [&] {
+void Form1::ChangeSensitivity(base::ErrorValue error_value, int step) {
+  Program program(context_);
+  base::TrapErrors(program, error_value, [&] {
     const int level = state_.Microphone + step;
-    if (level < 1 || level > 20) return;
+    if (level < settings::kLowestSensitivity || level > settings::kHighestSensitivity) return;
     state_.Microphone = static_cast<std::int16_t>(level);
     ShowMicrophoneLevel(state_.Microphone);
-    program->WriteLine(5, "Microphone=" + base::SignedNumber(level));
+    program.WriteLine(settings::kMicrophone, base::SignedNumber(level));
   });
 }
 

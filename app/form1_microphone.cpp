@@ -1,5 +1,6 @@
 // The microphone display of the main window: what is recorded, drawn as it comes.
 #include "app/form1.h"
+#include "display/pictures.h"
 
 namespace app {
 namespace {
@@ -13,9 +14,8 @@ constexpr char kDefaultDevice[] = "";
 }  // namespace
 
 void Form1::StartCapture() {
-  const ProgramPtr program = program_;
-  settings::TrapErrors(*program, 33, [&] {
-    DirectSoundRecord = std::make_unique<display::frmDX_Record>(platform_, others_.Errors(), *this);
+  base::TrapErrors(context_.errors, base::ErrorValue::kStartCapture, [&] {
+    DirectSoundRecord = std::make_unique<display::frmDX_Record>(platform_, context_.errors, *this);
     DirectSoundRecord->GotWaveData = [this](auto block, auto bits_per_sample, auto channels) {
       DirectSoundRecord_GotWaveData(block, bits_per_sample, channels);
     };
@@ -29,13 +29,13 @@ void Form1::StartCapture() {
     platform_.messages.Show(failure, "DirectSound Error", platform::MessageIcon::kExclamation,
                             platform::MessageButtons::kOk);
     microinputonoff.SetChecked(false);
-    program->WriteLine(6, "MicrophoneON=n");
+    Program(context_).WriteLine(settings::kMicrophoneON, settings::YesNo(false));
     state_.MicrophoneON = 0;
   });
 }
 
 void Form1::StopCapture() {
-  settings::TrapErrors(*ProgramPtr(program_), 34, [this] {
+  base::TrapErrors(context_.errors, base::ErrorValue::kStopCapture, [this] {
     if (!DirectSoundRecord) return;
     DirectSoundRecord->SoundStop();
     DirectSoundRecord->UninitializeSound();
@@ -52,7 +52,7 @@ void Form1::DirectSoundRecord_GotWaveData(std::span<const std::uint8_t> block,
                                           std::int16_t bits_per_sample, std::int16_t channels) {
   // Nobody sees it; and a drawing that fails is not tried again while its error is shown.
   if (!Visible()) return;
-  settings::TrapErrors(*ProgramPtr(program_), 35, [&] {
+  base::TrapErrors(context_.errors, base::ErrorValue::kGotWaveData, [&] {
     const bool stereo = channels == 2;
     if (bits_per_sample == 8) Draw8(block, stereo);
     if (bits_per_sample == 16) Draw16(block, stereo);
@@ -60,18 +60,18 @@ void Form1::DirectSoundRecord_GotWaveData(std::span<const std::uint8_t> block,
 }
 
 void Form1::Draw16(std::span<const std::uint8_t> block, bool stereo) {
-  settings::TrapErrors(*ProgramPtr(program_), 36,
-                       [&] { DrawWave(display::Samples16(block), stereo); });
+  base::TrapErrors(context_.errors, base::ErrorValue::kDraw16,
+                   [&] { DrawWave(display::Samples16(block), stereo); });
 }
 
 void Form1::DrawWave(std::span<const std::int16_t> samples, bool stereo) {
-  settings::TrapErrors(*ProgramPtr(program_), 37,
-                       [&] { ShowWave(display::DrawSamples(samples, MicrophoneView(stereo))); });
+  base::TrapErrors(context_.errors, base::ErrorValue::kDrawWave,
+                   [&] { ShowWave(display::DrawSamples(samples, MicrophoneView(stereo))); });
 }
 
 void Form1::Draw8(std::span<const std::uint8_t> block, bool stereo) {
-  settings::TrapErrors(*ProgramPtr(program_), 38,
-                       [&] { ShowWave(display::DrawSamples8(block, MicrophoneView(stereo))); });
+  base::TrapErrors(context_.errors, base::ErrorValue::kDraw8,
+                   [&] { ShowWave(display::DrawSamples8(block, MicrophoneView(stereo))); });
 }
 
 display::WaveView Form1::MicrophoneView(bool stereo) const {

@@ -1,41 +1,58 @@
 // The tone modes of the main window.
-#include "app/form1.h"
+#include <ranges>
 
-#include "app/tone_modes.h"
-#include "base/numbers.h"
+#include "app/form1.h"
 
 namespace app {
 
-void Form1::OptionClick(int mode) {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, static_cast<std::int16_t>(16 + mode), [&] {
-    program->SelectRadio(static_cast<std::int16_t>(mode));
-    if (mode != kHearingMode) mode_chosen_flag = 1;
-    ShowSine(*program, mode);
+std::vector<ui::OptionButton*> Form1::Options() {
+  std::vector<ui::OptionButton*> options;
+  for (const ToneModeFacts& mode : kToneModes) options.push_back(&OptionOf(mode.mode));
+  return options;
+}
+
+ToneMode Form1::SelectedMode() {
+  for (const ToneModeFacts& mode : kToneModes) {
+    if (OptionOf(mode.mode).Value()) return mode.mode;
+  }
+  return ToneMode::kNone;
+}
+
+void Form1::EnableToolModes(bool enabled) {
+  for (const ToneModeFacts& mode : std::views::reverse(kToneModes)) {
+    if (!mode.in_direct_sound) OptionOf(mode.mode).SetEnabled(enabled);
+  }
+}
+
+void Form1::OptionClick(const ToneModeFacts& mode) {
+  Program program(context_);
+  base::TrapErrors(program, mode.error_value, [&] {
+    program.SelectRadio(mode.mode);
+    if (mode.kind != ToneKind::kHearingTest) mode_chosen_flag = 1;
+    ShowSine(program, mode);
   });
 }
 
 // The other modes show nothing until they draw themselves: the slider, the steps of a sweep.
-void Form1::ShowSine(Program& program, int mode) {
-  if (HasOwnPitch(mode)) {
-    program.DrawSine(ModePitch(mode), display::kAnimated);
+void Form1::ShowSine(Program& program, const ToneModeFacts& mode) {
+  if (mode.kind == ToneKind::kFixedPitch) {
+    program.DrawSine(mode.pitch_hz, display::kAnimated);
   } else {
     sine_animation_.Stop();
   }
 }
 
 void Form1::DrawSine(std::int16_t pitch, std::int16_t mode) {
-  const ProgramPtr program = program_;
-  program->DrawSine(pitch, mode);
+  Program(context_).DrawSine(pitch, mode);
 }
 
-void Form1::ReselectMode(const ProgramPtr& program) {
-  const int mode = SelectedMode();
-  if (mode == 0) return;
+void Form1::ReselectMode(Program& program) {
+  const ToneModeFacts& mode = FactsOf(SelectedMode());
+  if (mode.kind == ToneKind::kNone) return;
   const bool playing = Command3.Enabled();
   const bool slider = HScroll1.Enabled();
   const std::string status = StatusBar1.Caption();
-  program->SelectRadio(static_cast<std::int16_t>(mode));
+  program.SelectRadio(mode.mode);
   if (playing) {
     // Selecting a mode offers Play and the slider, and its captions clear the status panel. The
     // tone that sounds is still the one that was started: a second Play would run within the first.
@@ -43,34 +60,31 @@ void Form1::ReselectMode(const ProgramPtr& program) {
     HScroll1.SetEnabled(slider);
     ShowStatus(status);
   }
-  if (HasOwnPitch(mode)) ShowSine(*program, mode);
+  if (mode.kind == ToneKind::kFixedPitch) ShowSine(program, mode);
 }
 
-void Form1::ShowMode(int mode) {
-  for (int other = 1; other <= kModes; ++other) {
-    if (other != mode) Options()[static_cast<std::size_t>(other - 1)]->SetValue(false);
+void Form1::ShowMode(ToneMode mode) {
+  const ToneModeFacts& facts = FactsOf(mode);
+  for (const ToneModeFacts& other : kToneModes) {
+    if (other.mode != mode) OptionOf(other.mode).SetValue(false);
   }
-  Picture1.SetVisible(ShowsSine(mode));
-  Line1.SetVisible(ShowsSine(mode));
+  Picture1.SetVisible(!OpensTool(facts.kind));
+  Line1.SetVisible(!OpensTool(facts.kind));
   Command2.SetEnabled(true);
-  EnableCustomPitch(UsesSlider(mode));
-  Label1.SetCaption(texts_.messages[static_cast<std::size_t>(lang::kModeDescriptions + mode)]);
+  EnableCustomPitch(facts.kind == ToneKind::kSlider);
+  Label1.SetCaption(texts_.Of(facts.description));
   Label8.SetVisible(false);
-  Command2.SetCaption(texts_.messages[OpensTool(mode) ? lang::kPlayCaptionB : lang::kPlayCaptionA]);
+  Command2.SetCaption(texts_.Of(PlayCaption(facts.kind)));
   // Enter plays, but not before there is something to play.
   SetDefaultButton(&Command2);
 }
 
 void Form1::HScroll1_Change() {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, 26, [&] {
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kSlider, [&] {
     Label10.SetCaption(base::SignedNumber(HScroll1.Value()));
-    program->DrawSine(SelectedPitch(), display::kStillPicture);
+    program.DrawSine(SliderPitch(), display::kStillPicture);
   });
-}
-
-std::int16_t Form1::SelectedPitch() const {
-  return base::ToInt16(base::WholePart(base::NumberFromText(Label10.Caption())));
 }
 
 }  // namespace app

@@ -4,7 +4,6 @@
 // sets the stop flag that the loop reads.
 #include "app/form1.h"
 
-#include "app/tone_modes.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -16,59 +15,59 @@ constexpr std::int16_t kPlayTickMs = 208;
 }  // namespace
 
 void Form1::Command2_Click() {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, 4, [&] { Play(program); });
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kPlay, [&] { Play(program); });
 }
 
 void Form1::Command3_Click() {
-  const ProgramPtr program = NewProgram();
-  settings::TrapErrors(*program, 5, [&] { Stop(program); });
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kStop, [&] { Stop(program); });
 }
 
-void Form1::Play(const ProgramPtr& program) {
-  sound tone(platform_, state_, *this);
+void Form1::Play(Program& program) {
+  sound tone(context_);
   tone.setLang(state_.language);
   state_.temp_folder = platform_.environment.Get("TEMP");
   RefreshStatus();
-  program->PrintFile("#Pressed Button 2");
+  program.PrintFile("#Pressed Button 2");
 
-  const std::int16_t pitch = TakePitch();
-  if (Option9.Value()) {
+  const ToneModeFacts& mode = FactsOf(SelectedMode());
+  const std::int16_t pitch = TakePitch(mode);
+  if (mode.kind == ToneKind::kHearingTest) {
     StartHearingTest();
     return;
   }
-  program->PrintFile(base::SignedNumber(pitch));
-  if (pitch == kNoPitch) {
+  program.PrintFile(base::SignedNumber(PitchInLog(mode.kind, pitch)));
+  if (mode.kind == ToneKind::kNone) {
     platform_.messages.Show("Insoluble error, contact Zevrin Software!", "Error",
                             platform::MessageIcon::kCritical, platform::MessageButtons::kOk);
     platform_.processes.EndProcess();
   }
   state_.stop_flag = 0;
-  option_index_ = 0;
-  if (pitch != kUnusedMarker && pitch != kMorseMarker) DisableForPlaying();
-
-  if (pitch == kSweepMarker) {
-    PlaySweep(program, tone);
-  } else if (pitch == kMorseMarker) {
-    program->PrintFile("#Morse");
+  if (mode.kind == ToneKind::kMorseTool) {
+    program.PrintFile("#Morse");
     RefreshStatus();
-    others_.MorseWindow().Show();
+    others_.morse.Show();
+    return;
+  }
+  DisableForPlaying();
+  if (mode.kind == ToneKind::kSweep) {
+    PlaySweep(program, tone);
   } else {
-    PlayTone(program, tone, pitch);
+    PlayTone(program, tone, mode.kind, pitch);
   }
 }
 
-std::int16_t Form1::TakePitch() {
-  const int mode = SelectedMode();
-  if (HasOwnPitch(mode)) mode_number_ = base::BareNumber(mode);
-  if (!UsesSlider(mode)) return ModePitch(mode);
+std::int16_t Form1::TakePitch(const ToneModeFacts& mode) {
+  if (mode.kind != ToneKind::kSlider) return mode.pitch_hz;
   HScroll1.SetEnabled(false);
-  return SelectedPitch();
+  return SliderPitch();
 }
 
 void Form1::StartHearingTest() {
-  platform_.Texts().Write(state_.temp_folder + "\\testhearing.ini",
-                          base::Line(state_.SoundBit) + base::Line(state_.language));
+  platform_.Texts().Write(
+      state_.temp_folder + "\\testhearing.ini",
+      base::Line(base::FactsOf(state_.SoundBit).code) + base::Line(state_.language));
   platform_.processes.Start("hearage.dll");
 }
 
@@ -76,18 +75,17 @@ void Form1::DisableForPlaying() {
   Command2.SetEnabled(false);
   Command3.SetEnabled(true);
   settings.SetEnabled(false);
-  for (option_index_ = 1; option_index_ <= kModes; ++option_index_) {
-    const auto index = static_cast<std::size_t>(option_index_);
-    ui::OptionButton& option = *Options()[index - 1];
+  for (std::size_t i = 0; i < kToneModes.size(); ++i) {
+    ui::OptionButton& option = OptionOf(kToneModes[i].mode);
     if (option.Value()) continue;
-    if (!option.Enabled()) disabled_modes_[index] = 1;
+    if (!option.Enabled()) disabled_modes_[i] = true;
     option.SetEnabled(false);
   }
   for (ui::OptionButton* option : Options()) option->SetEnabled(false);
 }
 
-void Form1::PlaySweep(const ProgramPtr& program, sound& tone) {
-  if (RouteOf(kSweepMarker, state_.SoundBit) == Route::kSoundWinmmLTH) {
+void Form1::PlaySweep(Program& program, sound& tone) {
+  if (RouteOf(ToneKind::kSweep, state_.SoundBit) == Route::kSoundWinmmLTH) {
     tone.SoundWinmmLTH();
   } else {
     tone.LowToHigh(state_.SoundBit);
@@ -95,12 +93,12 @@ void Form1::PlaySweep(const ProgramPtr& program, sound& tone) {
   do {
     WaitTick();
   } while (!PlayingEnds());
-  program->PrintFile("#Sound stopped");
+  program.PrintFile("#Sound stopped");
 }
 
-void Form1::PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch) {
+void Form1::PlayTone(Program& program, sound& tone, ToneKind kind, std::int16_t pitch) {
   RefreshStatus();
-  switch (RouteOf(pitch, state_.SoundBit)) {
+  switch (RouteOf(kind, state_.SoundBit)) {
     case Route::kSound16:
       tone.Sound16(pitch);
       break;
@@ -117,28 +115,27 @@ void Form1::PlayTone(const ProgramPtr& program, sound& tone, std::int16_t pitch)
       break;
   }
   while (!PlayingEnds()) WaitTick();
-  program->PrintFile("#Sound stopped");
+  program.PrintFile("#Sound stopped");
   RefreshStatus();
 }
 
 void Form1::WaitTick() {
   const auto ends = [this] { return PlayingEnds(); };
   platform_.pump.ProcessPending(ends);
-  ex_functions_->Pause(kPlayTickMs, ends);
+  ExFunctions(context_).Pause(kPlayTickMs, ends);
 }
 
-void Form1::Stop(const ProgramPtr& program) {
-  sound tone(platform_, state_, *this);
+void Form1::Stop(Program& program) {
+  sound tone(context_);
   Command2.SetEnabled(true);
   Command3.SetEnabled(false);
   settings.SetEnabled(true);
-  for (option_index_ = 1; option_index_ <= kModes; ++option_index_) {
-    const auto index = static_cast<std::size_t>(option_index_);
-    if (disabled_modes_[index] != 1) Options()[index - 1]->SetEnabled(true);
+  for (std::size_t i = 0; i < kToneModes.size(); ++i) {
+    if (!disabled_modes_[i]) OptionOf(kToneModes[i].mode).SetEnabled(true);
   }
   if (Option7.Value()) HScroll1.SetEnabled(true);
   tone.KillAll();
-  program->PrintFile("#Pressed Button 3");
+  program.PrintFile("#Pressed Button 3");
   state_.stop_flag = 1;
 }
 

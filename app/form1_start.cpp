@@ -1,7 +1,6 @@
 // Start-up and shutdown of the main window.
 #include "app/form1.h"
 
-#include "app/tone_modes.h"
 #include "base/text.h"
 
 namespace app {
@@ -19,42 +18,42 @@ void Form1::Form_Load() {
   }
   start_up_flag_ = 1;
   platform_.pump.ProcessPending();
-  const ProgramPtr program = NewProgram();
-  NewExFunctions();
+  Program program(context_);
+  ExFunctions ex_functions(context_);
 
-  const auto error = settings::Caught([this] {
-    DeleteOldLog();
-    StartUp();
+  const auto error = base::Caught([&] {
+    DeleteOldLog(ex_functions);
+    StartUp(program, ex_functions);
   });
   if (error) {
-    program->ErrorNote(14, *error);
-    StartUp();
+    program.ErrorNote(base::ErrorValue::kMainWindowLoad, *error);
+    StartUp(program, ex_functions);
   }
 }
 
-void Form1::DeleteOldLog() {
+void Form1::DeleteOldLog(ExFunctions& ex_functions) {
   state_.temp_folder = platform_.environment.Get("TEMP");
   try {
     platform_.files.Delete(state_.temp_folder + "\\userdata.txt");
   } catch (const base::RuntimeError& error) {
     // Another running copy holds the log for a moment.
     if (error.code() != base::ErrorCode::kPermissionDenied) throw;
-    ex_functions_->delay(kBusyLogPauseMs);
+    ex_functions.delay(kBusyLogPauseMs);
   }
 }
 
-void Form1::StartUp() {
+void Form1::StartUp(Program& program, ExFunctions& ex_functions) {
   TakeCommandLine();
-  if (file_mode_flag_ == 0) others_.StatusWindow().Show();
+  if (file_mode_flag_ == 0) others_.status.Show();
   StartLog();
-  CheckSystem();
-  ReadSettings();
+  CheckSystem(program, ex_functions);
+  ReadSettings(program);
   ShowSoundMode();
   ShowStep("Checking for updates...");
-  if (state_.AutoUpdate == 1) program_->UpdateCheck();
-  TestConnection();
-  others_.StatusWindow().Unload();
-  FinishStart();
+  if (state_.AutoUpdate == 1) program.UpdateCheck();
+  TestConnection(ex_functions);
+  others_.status.Unload();
+  FinishStart(program);
 }
 
 void Form1::TakeCommandLine() {
@@ -70,60 +69,52 @@ void Form1::StartLog() {
       base::Line(platform_.clock.ShortDate()) + base::Line(platform_.clock.ShortTime()));
 }
 
-void Form1::CheckSystem() {
-  if (ex_functions_->DPIGet() != kExpectedDpi) {
+void Form1::CheckSystem(Program& program, ExFunctions& ex_functions) {
+  if (ex_functions.DPIGet() != kExpectedDpi) {
     platform_.messages.Show("DPI settings could cause problems!", "Warning",
                             platform::MessageIcon::kExclamation, platform::MessageButtons::kOk);
-    program_->PrintFile(">>> Bad DPI settings");
+    program.PrintFile(">>> Bad DPI settings");
   }
-  program_->PrintFile(">> Program started");
-  program_->PrintFile("> Windows version check");
+  program.PrintFile(">> Program started");
+  program.PrintFile("> Windows version check");
   ShowStep("Windows check...");
   // The check is made twice: once for its messages, once for the log.
-  ex_functions_->CheckVersion();
-  program_->PrintFile(ex_functions_->CheckVersion());
-  program_->PrintFile("> Write test");
+  ex_functions.CheckVersion();
+  program.PrintFile(ex_functions.CheckVersion());
+  program.PrintFile("> Write test");
   ShowStep("Write test...");
-  program_->WriteTest();
+  program.WriteTest();
 }
 
-void Form1::ReadSettings() {
-  program_->PrintFile("> Reading settings");
+void Form1::ReadSettings(Program& program) {
+  program.PrintFile("> Reading settings");
   ShowStep("Reading settings...");
-  program_->CheckSettings();
-  program_->LanguageAPI(state_.language, lang::kMainWindow);
-  program_->PrintFile("> Bit: " + state_.SoundBit);
+  program.CheckSettings();
+  program.LanguageAPI(state_.language, lang::kMainWindow);
+  program.PrintFile("> Bit: " + std::string(base::FactsOf(state_.SoundBit).code));
 }
 
 void Form1::ShowSoundMode() {
-  if (state_.SoundBit == "16") {
-    sndclassic.SetChecked(true);
-  } else if (state_.SoundBit == "32") {
-    sndsound32.SetChecked(true);
-  } else if (state_.SoundBit == "64") {
-    snddirectsound.SetChecked(true);
-    EnableToolModes(false);
-  } else if (state_.SoundBit == "128") {
-    sndautomatic.SetChecked(true);
-  } else if (state_.SoundBit == "256") {
-    sndwinmm.SetChecked(true);
-    Option6.SetEnabled(true);
+  for (const SoundModeItem& choice : sound_mode_items) {
+    if (choice.mode == state_.SoundBit) choice.item.SetChecked(true);
   }
+  if (!base::FactsOf(state_.SoundBit).plays_tools) EnableToolModes(false);
+  if (state_.SoundBit == base::SoundMode::kWinmm) Option6.SetEnabled(true);
 }
 
-void Form1::TestConnection() {
+void Form1::TestConnection(ExFunctions& ex_functions) {
   const std::string path = state_.temp_folder + "\\testcon.dat";
-  connection_flag_ = ex_functions_->Download(Site().ConnectionTest(), path) ? 1 : 0;
+  connection_flag_ = ex_functions.Download(Site().ConnectionTest(), path) ? 1 : 0;
   if (platform_.files.Exists(path) && file_mode_flag_ != 1 && connection_flag_ != 0) {
-    others_.NewsWindow().ShowPage(Site().News());
+    others_.news.ShowPage(Site().News());
   }
   platform_.files.Delete(path);
 }
 
-void Form1::FinishStart() {
+void Form1::FinishStart(Program& program) {
   if (file_mode_flag_ == 1) {
-    program_->PrintFile("> Starting tnf file");
-    program_files::Form9& player = others_.PlayerWindow();
+    program.PrintFile("> Starting tnf file");
+    program_files::Form9& player = others_.player;
     player.SetFilePath(command_line_file_);
     player.SetSoundMode(state_.SoundBit);
     // Loading shows it, unless the file is to be heard only, and returns when that has been played.
@@ -133,17 +124,18 @@ void Form1::FinishStart() {
     Hide();
   }
   if (state_.MicrophoneON == 1) StartCapture();
-  program_->PrintFile(">> Program starting finished");
+  program.PrintFile(">> Program starting finished");
   Command3.SetEnabled(false);
 }
 
 void Form1::ShowStep(const std::string& text) {
-  others_.StatusLabel().SetCaption(text);
+  others_.status.Label2.SetCaption(text);
   platform_.pump.ProcessPending();
 }
 
 void Form1::Form_Unload() {
-  settings::TrapErrors(*NewProgram(), 15, [this] {
+  Program program(context_);
+  base::TrapErrors(program, base::ErrorValue::kMainWindowUnload, [&] {
     if (close_attempts_ >= 1) {
       last_close_answer_ = platform_.messages.Show("Do you want to forcibly close tonmira?",
                                                    "Error", platform::MessageIcon::kCritical,
@@ -153,20 +145,17 @@ void Form1::Form_Unload() {
     close_attempts_ = 1;
     state_.stop_flag = 1;
     const bool playing = Command3.Enabled();
-    sound local_sound(platform_, state_, *this);
-    NewProgram();
-    NewExFunctions();
+    sound local_sound(context_);
     Hide();
-    others_.NewsWindow().Hide();
+    others_.news.Hide();
     if (state_.MicrophoneON == 1) EndCapture();
     DirectSoundRecord.reset();
     platform_.files.Delete(state_.temp_folder + "\\tnftmp.wav");
-    ex_functions_->WavPlay("0", false, true);
+    ExFunctions(context_).WavPlay("0", false, true);
     // The play that this ends never comes to release what it started.
     if (playing) local_sound.KillAll();
-    local_sound.online = 1;
-    if (state_.SendData == 1) program_->SendData();
-    others_.UnloadOtherWindows();
+    if (state_.SendData == 1) program.SendData();
+    others_.unload();
     platform_.processes.EndProcess();
   });
 }

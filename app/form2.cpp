@@ -12,8 +12,16 @@ Form2::Form2(ui::WindowSystem& system, std::function<void()> load_captions)
 }
 
 std::vector<lang::CaptionSlot> Form2::Captions() {
-  return {{31, &Label1}, {32, &Label2}, {33, &Label3}, {34, &Label4}, {35, &Label5},
-          {37, &Label6}, {38, &Label7}, {39, &Label8}, {40, &Label9}};
+  using lang::Slot;
+  return {{Slot::kHelpHeading, &Label1},
+          {Slot::kHelpPlay, &Label2},
+          {Slot::kHelpPitches, &Label3},
+          {Slot::kHelpSweep, &Label4},
+          {Slot::kHelpCustomPitch, &Label5},
+          {Slot::kHelpTools, &Label6},
+          {Slot::kHelpSoundModesHeading, &Label7},
+          {Slot::kHelpSoundModes, &Label8},
+          {Slot::kHelpVolume, &Label9}};
 }
 
 }  // namespace app

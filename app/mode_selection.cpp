@@ -4,11 +4,12 @@
 
 namespace app {
 
-void ModeSelection::SelectRadio(std::int16_t newselected) {
-  settings::TrapErrors(errors_, 1010, [&] {
+void ModeSelection::SelectRadio(ToneMode newselected) {
+  base::TrapErrors(errors_, base::ErrorValue::kSelectRadio, [&] {
     languages_.LanguageAPI(state_.language, lang::kMainWindow);
-    display_.ShowMode(newselected);
-    log_.PrintFile("#Option " + base::BareNumber(newselected) + " Clicked");
+    show_mode_(newselected);
+    log_.PrintFile("#Option " + base::BareNumber(static_cast<std::int16_t>(newselected)) +
+                   " Clicked");
   });
 }
 

@@ -1,39 +1,33 @@
 // SelectRadio: what choosing a tone mode does to the main window.
 #pragma once
 
-#include <cstdint>
+#include <functional>
 
-#include "base/main_state.h"
+#include "app/tone_modes.h"
+#include "base/error_trap.h"
 #include "lang/language_loader.h"
 #include "settings/activity_log.h"
-#include "settings/error_notes.h"
+#include "settings/main_state.h"
 
 namespace app {
 
-// The main window as the choice of a mode needs it.
-class ModeDisplay {
- public:
-  virtual ~ModeDisplay() = default;
-
-  // Shows mode `mode`, 1 to 9, as the one selected.
-  virtual void ShowMode(int mode) = 0;
-};
-
 class ModeSelection {
  public:
-  ModeSelection(const base::MainState& state, ModeDisplay& display, lang::LanguageLoader& languages,
-                settings::ActivityLog& log, settings::ErrorNotes& errors)
-      : state_(state), display_(display), languages_(languages), log_(log), errors_(errors) {}
+  // `show_mode` shows a mode as the one selected.
+  ModeSelection(const settings::MainState& state, const std::function<void(ToneMode)>& show_mode,
+                lang::LanguageLoader& languages, settings::ActivityLog& log,
+                base::ErrorReporter& errors)
+      : state_(state), show_mode_(show_mode), languages_(languages), log_(log), errors_(errors) {}
 
-  // Applies the choice of mode `newselected`, 1 to 9, with freshly loaded texts. Error value 1010.
-  void SelectRadio(std::int16_t newselected);
+  // Applies the choice of a mode, with freshly loaded texts. Error value kSelectRadio.
+  void SelectRadio(ToneMode newselected);
 
  private:
-  const base::MainState& state_;
-  ModeDisplay& display_;
+  const settings::MainState& state_;
+  const std::function<void(ToneMode)>& show_mode_;
   lang::LanguageLoader& languages_;
   settings::ActivityLog& log_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace app

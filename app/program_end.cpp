@@ -5,7 +5,7 @@
 namespace app {
 
 void ProgramEnd::WriteTest() {
-  settings::TrapErrors(errors_, 1012, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kWriteTest, [this] {
     const std::string app_data = platform_.environment.Get("APPDATA");
     const std::string temp = platform_.environment.Get("TEMP");
     for (const std::string& folder : {temp, app_data}) {
@@ -18,11 +18,11 @@ void ProgramEnd::WriteTest() {
 }
 
 void ProgramEnd::Terminate() {
-  settings::TrapErrors(errors_, 105, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kTerminate, [this] {
     state_.stop_flag = 1;
     usage_.SendData();
-    windows_.UnloadOtherWindows();
-    windows_.UnloadMainWindow();
+    windows_.unload_other_windows();
+    windows_.unload_main_window();
     platform_.processes.EndProcess();
   });
 }
@@ -31,7 +31,7 @@ bool ProgramEnd::CanWriteIn(const std::string& folder) {
   const std::string probe = folder + "\\test.txt";
   // Not being able to write is what the test is there to find out, no run-time error.
   const auto failure =
-      settings::Caught([&] { platform_.Texts().Write(probe, base::Line("Tonmira write test")); });
+      base::Caught([&] { platform_.Texts().Write(probe, base::Line("Tonmira write test")); });
   const bool there = platform_.files.Exists(probe);
   if (there) platform_.files.Delete(probe);
   return there && !failure;

@@ -25,16 +25,16 @@ bool IsWindows2000(const platform::VersionRecord& record) {
 
 std::int32_t SystemChecks::DPIGet() {
   std::int32_t dpi = 0;
-  settings::TrapErrors(errors_, 1026,
-                       [&] { dpi = platform_.screen.LogicalPixelsPerInch().horizontal; });
+  base::TrapErrors(errors_, base::ErrorValue::kDPIGet,
+                   [&] { dpi = platform_.screen.LogicalPixelsPerInch().horizontal; });
   return dpi;
 }
 
 std::string SystemChecks::CheckVersion() {
   std::string text;
-  const auto error = settings::Caught([&] { text = CheckOnce(); });
+  const auto error = base::Caught([&] { text = CheckOnce(); });
   if (error) {
-    errors_.ErrorNote(1027, *error);
+    errors_.ErrorNote(base::ErrorValue::kCheckVersion, *error);
     text = CheckOnce();
   }
   return text;

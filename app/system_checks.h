@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 
 namespace app {
 
@@ -19,10 +19,10 @@ bool IsWindows2000(const platform::VersionRecord& record);
 
 class SystemChecks {
  public:
-  SystemChecks(platform::Platform& platform, settings::ErrorNotes& errors)
+  SystemChecks(platform::Platform& platform, base::ErrorReporter& errors)
       : platform_(platform), errors_(errors) {}
 
-  // The screen's horizontal logical pixels per inch. Error value 1026; 0 after an error.
+  // The screen's horizontal logical pixels per inch. Error value kDPIGet; 0 after an error.
   std::int32_t DPIGet();
 
   // Warns on Windows 2000; ends the program at once on a system that is not supported. Error value
@@ -33,7 +33,7 @@ class SystemChecks {
   std::string CheckOnce();
 
   platform::Platform& platform_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace app

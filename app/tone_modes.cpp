@@ -1,51 +1,71 @@
 #include "app/tone_modes.h"
 
-namespace app {
+#include <string>
 
-std::int16_t ModePitch(int mode) {
-  switch (mode) {
-    case 1:
-      return 1000;
-    case 2:
-      return 4500;
-    case 3:
-      return 10000;
-    case 4:
-      return 16600;
-    case 5:
-      return 21000;
-    case kSweepMode:
-      return kSweepMarker;
-    case kMorseMode:
-      return kMorseMarker;
+namespace app {
+namespace {
+
+constexpr ToneModeFacts kNoMode{};
+
+constexpr std::int16_t kLoggedSweep = 1;
+constexpr std::int16_t kLoggedMorseTool = 3;
+
+}  // namespace
+
+const ToneModeFacts& FactsOf(ToneMode mode) {
+  for (const ToneModeFacts& facts : kToneModes) {
+    if (facts.mode == mode) return facts;
+  }
+  return kNoMode;
+}
+
+bool OpensTool(ToneKind kind) {
+  return kind == ToneKind::kMorseTool || kind == ToneKind::kHearingTest;
+}
+
+lang::Slot PlayCaption(ToneKind kind) {
+  return OpensTool(kind) ? lang::Slot::kPlayTool : lang::Slot::kPlayTone;
+}
+
+lang::Texts DesignTexts() {
+  lang::Texts texts;
+  for (const ToneModeFacts& facts : kToneModes) {
+    texts.Set(facts.description, std::string(facts.design_description));
+  }
+  texts.Set(lang::Slot::kPlayTone, "Play Sound");
+  texts.Set(lang::Slot::kPlayTool, "Start");
+  return texts;
+}
+
+std::int16_t PitchInLog(ToneKind kind, std::int16_t pitch_hz) {
+  switch (kind) {
+    case ToneKind::kSweep:
+      return kLoggedSweep;
+    case ToneKind::kMorseTool:
+      return kLoggedMorseTool;
     default:
-      return kNoPitch;
+      return pitch_hz;
   }
 }
 
-bool HasOwnPitch(int mode) {
-  return mode >= 1 && mode < kSweepMode;
-}
-
-bool UsesSlider(int mode) {
-  return mode == kCustomMode;
-}
-
-bool ShowsSine(int mode) {
-  return !OpensTool(mode);
-}
-
-bool OpensTool(int mode) {
-  return mode == kMorseMode || mode == kHearingMode;
-}
-
-Route RouteOf(std::int16_t pitch, const std::string& sound_bit) {
-  const bool winmm = sound_bit == "128" || sound_bit == "256";
-  if (pitch == kSweepMarker) return winmm ? Route::kSoundWinmmLTH : Route::kLowToHigh;
-  if (sound_bit == "16") return Route::kSound16;
-  if (sound_bit == "32") return Route::kSound32;
-  if (sound_bit == "64") return Route::kToneDXRND;
-  return winmm ? Route::kSoundWinmmRND : Route::kNone;
+Route RouteOf(ToneKind kind, base::SoundMode sound_mode) {
+  const base::Output output = base::OutputOf(sound_mode);
+  if (kind == ToneKind::kSweep) {
+    return output == base::Output::kPlayer ? Route::kSoundWinmmLTH : Route::kLowToHigh;
+  }
+  switch (output) {
+    case base::Output::kHelper16:
+      return Route::kSound16;
+    case base::Output::kHelper32:
+      return Route::kSound32;
+    case base::Output::kDirectSound:
+      return Route::kToneDXRND;
+    case base::Output::kPlayer:
+      return Route::kSoundWinmmRND;
+    case base::Output::kNone:
+      break;
+  }
+  return Route::kNone;
 }
 
 }  // namespace app

@@ -10,6 +10,14 @@ std::string ToLower(std::string_view text) {
   return lower;
 }
 
+std::string ToUpper(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return upper;
+}
+
 std::string RemoveAll(std::string_view text, char marker) {
   std::string rest;
   for (const char c : text) {

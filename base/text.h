@@ -7,8 +7,9 @@
 
 namespace base {
 
-// A to Z become a to z.
+// A to Z become a to z, or the other way round.
 std::string ToLower(std::string_view text);
+std::string ToUpper(std::string_view text);
 
 // `text` without any occurrence of `marker`.
 std::string RemoveAll(std::string_view text, char marker);

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "display/pictures.h"
 #include "display/sine_preview.h"
 #include "display/twips.h"
 #include "display/waveform.h"

@@ -5,8 +5,6 @@
 namespace display {
 namespace {
 
-constexpr std::int16_t kCallbackError = 9901;
-
 // What went wrong when a step of Initialize fails.
 constexpr char kNoDirectSound[] = "DirectSound is not available on this computer.";
 constexpr char kNoDevice[] = "No recording device was found.";
@@ -22,7 +20,7 @@ std::string frmDX_Record::Initialize(std::int32_t samples_per_second, std::int16
                                      const std::string& device) {
   UninitializeSound();
   std::string failure;
-  const auto error = settings::Caught([&] {
+  const auto error = base::Caught([&] {
     failure = kNoDirectSound;
     root_ = capture_.Create();
     failure = device.empty() ? kNoDevice : kDeviceRefused;
@@ -99,7 +97,7 @@ void frmDX_Record::UninitializeSound() {
 }
 
 void frmDX_Record::DirectXEvent8_DXCallback(std::int32_t event) {
-  settings::TrapErrors(errors_, kCallbackError, [&] {
+  base::TrapErrors(errors_, base::ErrorValue::kCaptureCallback, [&] {
     if (!buffer_) return;
     const auto half = static_cast<std::uint32_t>(half_buffer_size_);
     std::vector<std::uint8_t> block(half);

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace display {
@@ -34,7 +34,7 @@ struct CaptureFormat {
 class frmDX_Record {
  public:
   // Notifications are handled as events of `owner`.
-  frmDX_Record(platform::Platform& platform, settings::ErrorNotes& errors, ui::Window& owner)
+  frmDX_Record(platform::Platform& platform, base::ErrorReporter& errors, ui::Window& owner)
       : capture_(platform.sound_capture), errors_(errors), owner_(owner) {}
   ~frmDX_Record() { Form_QueryUnload(); }
   frmDX_Record(const frmDX_Record&) = delete;
@@ -74,7 +74,7 @@ class frmDX_Record {
   void CreateEvents();
 
   platform::SoundCapture& capture_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
   ui::Window& owner_;
 
   std::unique_ptr<platform::CaptureRoot> root_;

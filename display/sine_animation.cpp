@@ -1,7 +1,6 @@
 #include "display/sine_animation.h"
 
-#include <utility>
-
+#include "display/pictures.h"
 #include "display/sine_preview.h"
 #include "display/twips.h"
 #include "ui/window.h"
@@ -10,7 +9,6 @@ namespace display {
 namespace {
 
 constexpr int kFrameMs = 50;
-constexpr std::int16_t kDrawSineError = 1014;
 
 TwipSize SizeOf(const ui::PictureBox& picture) {
   return {picture.Bounds().width * kTwipsPerPixel, picture.Bounds().height * kTwipsPerPixel};
@@ -18,13 +16,13 @@ TwipSize SizeOf(const ui::PictureBox& picture) {
 
 }  // namespace
 
-void SineAnimation::Start(float angular_step, std::shared_ptr<std::int32_t> phase) {
+void SineAnimation::Start(float angular_step, std::int32_t phase) {
   angular_step_ = angular_step;
-  phase_ = std::move(phase);
+  phase_ = phase;
   if (!timer_) {
     timer_ = timers_.Start(kFrameMs, [this] {
       picture_.Owner().Handle(
-          [this] { settings::TrapErrors(errors_, kDrawSineError, [this] { Tick(); }); });
+          [this] { base::TrapErrors(errors_, base::ErrorValue::kDrawSine, [this] { Tick(); }); });
     });
   }
   Tick();
@@ -41,8 +39,8 @@ void SineAnimation::Tick() {
     Stop();
     return;
   }
-  *phase_ = NextPhase(*phase_);
-  DrawFrame(angular_step_, *phase_);
+  phase_ = NextPhase(phase_);
+  DrawFrame(angular_step_, phase_);
 }
 
 void SineAnimation::DrawFrame(float angular_step, std::int32_t phase) {
@@ -52,11 +50,11 @@ void SineAnimation::DrawFrame(float angular_step, std::int32_t phase) {
 }
 
 void SineDrawing::DrawSine(std::int16_t pitch, std::int16_t mode) {
-  settings::TrapErrors(errors_, kDrawSineError, [&] {
+  base::TrapErrors(errors_, base::ErrorValue::kDrawSine, [&] {
     const float angular_step = AngularStep(pitch);
     state_.sine_stop_flag = 0;
-    if (mode == kAnimated) animation_.Start(angular_step, phase_);
-    if (mode == kStillPicture) animation_.DrawFrame(angular_step, *phase_);
+    if (mode == kAnimated) animation_.Start(angular_step, kFirstPhase);
+    if (mode == kStillPicture) animation_.DrawFrame(angular_step, kFirstPhase);
   });
 }
 

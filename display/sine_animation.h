@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <memory>
 
-#include "base/main_state.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "ui/controls.h"
 
 namespace display {
@@ -21,13 +21,13 @@ inline constexpr std::int16_t kStillPicture = 930;
 // Belongs to the main window, like the picture box that it draws into.
 class SineAnimation {
  public:
-  SineAnimation(platform::Platform& platform, base::MainState& state, ui::PictureBox& picture,
-                settings::ErrorNotes& errors)
+  SineAnimation(platform::Platform& platform, settings::MainState& state, ui::PictureBox& picture,
+                base::ErrorReporter& errors)
       : timers_(platform.timers), state_(state), picture_(picture), errors_(errors) {}
 
   // Moves the wave on from `phase` from now on, a step every frame; in place of the one that moves
   // already. It ends, and the picture is cleared, when the sine-stop flag is 1.
-  void Start(float angular_step, std::shared_ptr<std::int32_t> phase);
+  void Start(float angular_step, std::int32_t phase);
 
   // Sets the sine-stop flag and ends at once.
   void Stop();
@@ -41,29 +41,29 @@ class SineAnimation {
   void Tick();
 
   platform::Timers& timers_;
-  base::MainState& state_;
+  settings::MainState& state_;
   ui::PictureBox& picture_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
   float angular_step_ = 0;
-  std::shared_ptr<std::int32_t> phase_;
+  std::int32_t phase_ = 0;
   std::unique_ptr<platform::Timer> timer_;
 };
 
 class SineDrawing {
  public:
-  SineDrawing(base::MainState& state, SineAnimation& animation, settings::ErrorNotes& errors)
+  SineDrawing(settings::MainState& state, SineAnimation& animation, base::ErrorReporter& errors)
       : state_(state), animation_(animation), errors_(errors) {}
 
   // Shows the sine wave of `pitch` Hz: moving (kAnimated), as one still picture (kStillPicture), or
-  // in any other mode not at all. Sets the sine-stop flag to 0. Error value 1014.
+  // in any other mode not at all. Sets the sine-stop flag to 0. Error value kDrawSine.
   void DrawSine(std::int16_t pitch, std::int16_t mode);
 
  private:
-  base::MainState& state_;
+  static constexpr std::int32_t kFirstPhase = 0;
+
+  settings::MainState& state_;
   SineAnimation& animation_;
-  settings::ErrorNotes& errors_;
-  // The animation that this object began goes on after it.
-  std::shared_ptr<std::int32_t> phase_ = std::make_shared<std::int32_t>(0);
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace display

@@ -1,10 +1,8 @@
 #include "display/sine_preview.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "base/numbers.h"
-#include "display/twips.h"
 
 namespace display {
 namespace {
@@ -33,19 +31,6 @@ std::vector<TwipPoint> SineFrame(float angular_step, std::int32_t phase, TwipSiz
     points.push_back({x, static_cast<std::int32_t>(amplitude + y) + kMargin});
   }
   return points;
-}
-
-void Draw(const std::vector<TwipPoint>& points, TwipSize size, ui::Canvas& canvas) {
-  const double across = static_cast<double>(canvas.width()) / size.width;
-  const double down = static_cast<double>(canvas.height()) / size.height;
-  const double dot = std::max(1.0, base::RoundToEven(across * kTwipsPerPixel));
-  for (const TwipPoint point : points) {
-    for (double x = 0; x < dot; ++x) {
-      for (double y = 0; y < dot; ++y) {
-        canvas.DrawPoint({point.x * across + x, point.y * down + y});
-      }
-    }
-  }
 }
 
 }  // namespace display

@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "ui/canvas.h"
-
 namespace display {
 
 struct TwipSize {
@@ -28,8 +26,5 @@ float AngularStep(std::int16_t pitch);
 std::int32_t NextPhase(std::int32_t phase);
 
 std::vector<TwipPoint> SineFrame(float angular_step, std::int32_t phase, TwipSize size);
-
-// Draws the points of a picture of `size` on the whole of a canvas, on a fine one as larger dots.
-void Draw(const std::vector<TwipPoint>& points, TwipSize size, ui::Canvas& canvas);
 
 }  // namespace display

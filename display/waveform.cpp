@@ -108,13 +108,4 @@ WaveDrawing DrawSamples8(std::span<const std::uint8_t> samples, const WaveView& 
           StereoLines(samples, view.width_twips, kFullScale8 / 2, upper, lower)};
 }
 
-void Draw(const WaveDrawing& drawing, ui::Canvas& canvas) {
-  const auto place = [&](WavePoint point) {
-    return ui::Canvas::Point{
-        point.x / drawing.right * canvas.width(),
-        (drawing.top - point.y) / (drawing.top - drawing.bottom) * canvas.height()};
-  };
-  for (const WaveLine& line : drawing.lines) canvas.DrawLine(place(line.from), place(line.to));
-}
-
 }  // namespace display

@@ -14,7 +14,6 @@
 #include <vector>
 
 #include "display/twips.h"
-#include "ui/canvas.h"
 
 namespace display {
 
@@ -50,8 +49,5 @@ WaveDrawing DrawSamples(std::span<const std::int16_t> samples, const WaveView& v
 
 // Unsigned samples of 8 bits, on a scale from +256 to -256.
 WaveDrawing DrawSamples8(std::span<const std::uint8_t> samples, const WaveView& view);
-
-// Draws the lines on the whole of a canvas.
-void Draw(const WaveDrawing& drawing, ui::Canvas& canvas);
 
 }  // namespace display

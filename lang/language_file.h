@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "lang/slots.h"
+
 namespace lang {
 
 inline constexpr std::size_t kSlots = 101;
@@ -21,6 +23,7 @@ class LanguageFile {
 
   // The text of a slot, 1 to 99; empty where the file has none.
   const std::string& Text(std::size_t slot) const { return slots_[slot]; }
+  const std::string& Text(Slot slot) const { return Text(static_cast<std::size_t>(slot)); }
 
  private:
   LanguageFile() = default;

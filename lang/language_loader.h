@@ -3,23 +3,23 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "base/error_trap.h"
 #include "lang/language_file.h"
-#include "lang/texts.h"
+#include "lang/slots.h"
 #include "platform/platform.h"
-#include "settings/error_notes.h"
 #include "ui/window.h"
 
 namespace lang {
 
 // Which caption takes the text of a slot.
 struct CaptionSlot {
-  std::size_t slot = 0;
+  Slot slot;
   std::variant<ui::Control*, ui::MenuItem*, ui::Window*> target;
-  bool optional = false;  // an empty slot leaves the caption as it is
 };
 
 // Window numbers.
@@ -28,35 +28,30 @@ inline constexpr std::int16_t kHelpWindow = 2;
 inline constexpr std::int16_t kMorseWindow = 4;
 inline constexpr std::int16_t kAboutBox = 99;
 
-class CaptionScene {
- public:
-  virtual ~CaptionScene() = default;
-
+// Where the texts of a file go.
+struct Captions {
   // The captions of window `formval`, in the order in which they are set; none for a number without
   // a window.
-  virtual std::vector<CaptionSlot> CaptionsOf(std::int16_t formval) = 0;
+  std::function<std::vector<CaptionSlot>(std::int16_t formval)> of_window;
 
-  // Takes over the message texts, which came with the captions of window `formval`.
-  virtual void UseTexts(const Texts& texts, std::int16_t formval) = 0;
+  // Takes over the message texts of a file that was loaded for window `formval`.
+  std::function<void(const LanguageFile& file, std::int16_t formval)> take_texts;
 };
 
 class LanguageLoader {
  public:
-  LanguageLoader(platform::Platform& platform, CaptionScene& scene, settings::ErrorNotes& errors)
-      : platform_(platform), scene_(scene), errors_(errors) {}
+  LanguageLoader(platform::Platform& platform, const Captions& captions,
+                 base::ErrorReporter& errors)
+      : platform_(platform), captions_(captions), errors_(errors) {}
 
   // Loads "lng_" + language + ".dll" and applies it to window `formval`. A missing or invalid file
-  // changes nothing. Error value 1015.
+  // changes nothing. Error value kLanguageAPI.
   void LanguageAPI(const std::string& language, std::int16_t formval);
-
-  // Stores the language code of this object.
-  void setLang(const std::string& newlang) { language_ = newlang; }
 
  private:
   platform::Platform& platform_;
-  CaptionScene& scene_;
-  settings::ErrorNotes& errors_;
-  std::string language_;
+  const Captions& captions_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace lang

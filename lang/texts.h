@@ -1,25 +1,32 @@
 // The texts that are not captions of one control: what the windows show as the user goes on.
-//
-// Message texts 10 to 18 describe the tone modes 1 to 9, 19 and 20 are the play button's captions.
-// A fresh object holds the English texts the program is designed with; message texts without a
-// design are empty.
 #pragma once
 
 #include <array>
 #include <string>
+#include <utility>
+
+#include "lang/language_file.h"
+#include "lang/slots.h"
 
 namespace lang {
 
-inline constexpr std::size_t kModeDescriptions = 9;  // message text 9 + N describes mode N
-inline constexpr std::size_t kPlayCaptionA = 19;     // for modes that sound here
-inline constexpr std::size_t kPlayCaptionB = 20;     // for modes that open a tool
+// A fresh object holds the English texts the program is designed with, as far as no window has
+// them; all others are empty.
+class Texts {
+ public:
+  const std::string& Of(Slot slot) const { return texts_[static_cast<std::size_t>(slot)]; }
+  void Set(Slot slot, std::string text) {
+    texts_[static_cast<std::size_t>(slot)] = std::move(text);
+  }
 
-struct Texts {
-  std::array<std::string, 21> messages;  // message text N at index N, from 1
+  // Takes over all texts of a file. One that may be missing, and is, stays as it was.
+  void Take(const LanguageFile& file);
+
   std::string microphone_prefix = "Microphone input, sensitivity:";
   std::string status = "Actual pitch (Hertz):";
 
-  Texts();
+ private:
+  std::array<std::string, kSlots> texts_;
 };
 
 }  // namespace lang

@@ -1,9 +1,11 @@
 #include "morse/form4.h"
 
+#include <utility>
+
 #include "base/numbers.h"
 #include "base/text.h"
 #include "morse/morse_code.h"
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 
 namespace morse {
 namespace {
@@ -13,13 +15,13 @@ constexpr char32_t kBackspace = 8;
 
 }  // namespace
 
-Form4::Form4(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
-             MorseScene& morse_scene)
+Form4::Form4(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
+             std::function<void()> load_captions)
     : ui::Window(platform.windows, {"Form4", "Morse tool", 480, 328}),
       platform_(platform),
       state_(state),
       play_scene_(play_scene),
-      morse_scene_(morse_scene),
+      load_captions_(std::move(load_captions)),
       tones_(platform, state, play_scene),
       waves_(platform) {
   Command1.OnClick = [this] { Command1_Click(); };
@@ -36,18 +38,21 @@ Form4::Form4(platform::Platform& platform, base::MainState& state, tone::PlaySce
 }
 
 std::vector<lang::CaptionSlot> Form4::Captions() {
-  return {{42, &Label1},   {43, &Label2},   {44, &Check1}, {45, &Label3},
-          {46, &Command1}, {47, &Command2}, {48, this},    {79, &Text1, true}};
+  using lang::Slot;
+  return {{Slot::kMorseSpeed, &Label1},  {Slot::kMorsePitch, &Label2},
+          {Slot::kMorseHide, &Check1},   {Slot::kMorseText, &Label3},
+          {Slot::kMorsePlay, &Command1}, {Slot::kMorseStop, &Command2},
+          {Slot::kMorseTitle, this},     {Slot::kMorseMessage, &Text1}};
 }
 
 void Form4::Form_Load() {
   if (loading_ == 1) return;
   loading_ = 1;
-  tone::Quietly([this] {
+  base::Quietly([this] {
     stop_flag = 1;
     Check1.SetValue(false);
     Text1.SetText("Type your message here...");
-    if (state_.language == "nl") morse_scene_.LoadMorseCaptions(state_.language);
+    load_captions_();
   });
   loading_ = 0;
 }
@@ -57,7 +62,7 @@ void Form4::Form_Unload() {
 }
 
 void Form4::Command1_Click() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     ReadFields();
     TakeMessage();
     position_ = 1;
@@ -69,7 +74,7 @@ void Form4::Command1_Click() {
 }
 
 void Form4::Command2_Click() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     tone::RouteSupport(platform_, state_, play_scene_).KillAll();
     Command1.SetEnabled(true);
     Command2.SetEnabled(false);
@@ -78,7 +83,7 @@ void Form4::Command2_Click() {
 }
 
 void Form4::Check1_Click() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     const bool shown = !Check1.Value();
     Text1.SetVisible(shown);
     Label3.SetVisible(shown);

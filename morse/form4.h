@@ -6,10 +6,11 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
-#include "base/main_state.h"
+#include "settings/main_state.h"
 #include "lang/language_loader.h"
 #include "platform/platform.h"
 #include "tone/route_support.h"
@@ -18,19 +19,11 @@
 
 namespace morse {
 
-// What the Morse tool needs of the program around it.
-class MorseScene {
- public:
-  virtual ~MorseScene() = default;
-
-  // Translates this window's captions.
-  virtual void LoadMorseCaptions(const std::string& language) = 0;
-};
-
 class Form4 : public ui::Window {
  public:
-  Form4(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
-        MorseScene& morse_scene);
+  // `load_captions` translates this window where the language asks for it.
+  Form4(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
+        std::function<void()> load_captions);
 
   ui::Label Label3{*this, "Label3", {16, 14, 448, 18}, "Text:"};
   ui::TextBox Text1{*this, "Text1", {16, 34, 448, 112}, "", ui::TextBox::Lines::kMany};
@@ -72,9 +65,9 @@ class Form4 : public ui::Window {
   void Wait(std::int16_t milliseconds) { waves_.delay(milliseconds); }
 
   platform::Platform& platform_;
-  base::MainState& state_;
+  settings::MainState& state_;
   tone::PlayScene& play_scene_;
-  MorseScene& morse_scene_;
+  std::function<void()> load_captions_;
   tone::ShortTones tones_;
   tone::WaveOutput waves_;
 

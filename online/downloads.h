@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 
 namespace online {
 
@@ -18,16 +18,16 @@ inline constexpr std::size_t kLargestDownload = 1024 * 1024;  // bytes
 
 class Downloads {
  public:
-  Downloads(platform::Platform& platform, settings::ErrorNotes& errors)
+  Downloads(platform::Platform& platform, base::ErrorReporter& errors)
       : platform_(platform), errors_(errors) {}
 
   // Saves what `Link` has now as the file `SaveLocation`; true exactly when that succeeded.
-  // Messages are handled meanwhile. A failure leaves no part of the file. Error value 1024.
+  // Messages are handled meanwhile. A failure leaves no part of the file. Error value kDownload.
   bool Download(const std::string& Link, const std::string& SaveLocation);
 
  private:
   platform::Platform& platform_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace online

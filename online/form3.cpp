@@ -5,12 +5,13 @@
 
 namespace online {
 
-Form3::Form3(platform::Platform& platform, const base::MainState& state,
-             settings::ErrorNotes& errors, ui::Window& status_window)
+Form3::Form3(platform::Platform& platform, const settings::MainState& state,
+             base::ErrorReporter& errors, lang::Languages languages, ui::Window& status_window)
     : ui::Window(platform.windows, {"Form3", "Tonmira online news", 800, 560, true, true}),
       platform_(platform),
       state_(state),
       errors_(errors),
+      languages_(languages),
       status_window_(status_window) {
   WebBrowser1.OnNewWindow = [this](const std::string& address) { OpenOutside(address); };
 }
@@ -22,10 +23,13 @@ void Form3::ShowPage(const std::string& address) {
 }
 
 void Form3::Form_Load() {
-  settings::TrapErrors(errors_, 301, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kNewsLoad, [this] {
     if (loading_flag_ == 1) return;
     loading_flag_ = 1;
-    if (state_.language == "nl") SetCaption("Tonmira online nieuws (engels)");
+    const lang::Language* language = lang::Find(languages_, state_.language);
+    if (language != nullptr && !language->news_title.empty()) {
+      SetCaption(std::string(language->news_title));
+    }
     loading_flag_ = 0;
   });
 }
@@ -37,7 +41,7 @@ void Form3::Form_Unload() {
 // What a page opens is for the user's own browser. One that does not start is its own affair.
 void Form3::OpenOutside(const std::string& address) {
   if (!IsWebAddress(address)) return;
-  settings::Caught([&] { OpenInBrowser(platform_.processes, address); });
+  base::Caught([&] { OpenInBrowser(platform_.processes, address); });
 }
 
 }  // namespace online

@@ -4,9 +4,10 @@
 #include <cstdint>
 #include <string>
 
-#include "base/main_state.h"
+#include "lang/languages.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace online {
@@ -14,8 +15,8 @@ namespace online {
 class Form3 : public ui::Window {
  public:
   // `status_window` goes with this one.
-  Form3(platform::Platform& platform, const base::MainState& state, settings::ErrorNotes& errors,
-        ui::Window& status_window);
+  Form3(platform::Platform& platform, const settings::MainState& state, base::ErrorReporter& errors,
+        lang::Languages languages, ui::Window& status_window);
 
   ui::WebBrowser WebBrowser1{*this, "WebBrowser1", {0, 0, 800, 560}};
 
@@ -30,8 +31,9 @@ class Form3 : public ui::Window {
   void OpenOutside(const std::string& address);
 
   platform::Platform& platform_;
-  const base::MainState& state_;
-  settings::ErrorNotes& errors_;
+  const settings::MainState& state_;
+  base::ErrorReporter& errors_;
+  lang::Languages languages_;
   ui::Window& status_window_;
   std::int16_t loading_flag_ = 0;  // 1 while it loads
 };

@@ -5,7 +5,7 @@
 
 namespace online {
 
-Form7::Form7(platform::Platform& platform, settings::ErrorNotes& errors)
+Form7::Form7(platform::Platform& platform, base::ErrorReporter& errors)
     : ui::Window(platform.windows, {"Form7", "Update found", 500, 198}),
       platform_(platform),
       errors_(errors) {
@@ -18,7 +18,7 @@ Form7::Form7(platform::Platform& platform, settings::ErrorNotes& errors)
 // The link was written by whoever answered for the site. One that is no web address is not
 // started; the program then goes on as after a check that failed.
 void Form7::Command1_Click() {
-  settings::TrapErrors(errors_, 701, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kUpdateAccept, [this] {
     if (IsWebAddress(download_link)) {
       OpenInBrowser(platform_.processes, download_link);
       platform_.processes.EndProcess();
@@ -29,7 +29,7 @@ void Form7::Command1_Click() {
 }
 
 void Form7::Command2_Click() {
-  settings::TrapErrors(errors_, 702, [this] { Unload(); });
+  base::TrapErrors(errors_, base::ErrorValue::kUpdateDecline, [this] { Unload(); });
 }
 
 }  // namespace online

@@ -5,14 +5,14 @@
 
 #include "platform/platform.h"
 #include "settings/activity_log.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace online {
 
 class Form7 : public ui::Window {
  public:
-  Form7(platform::Platform& platform, settings::ErrorNotes& errors);
+  Form7(platform::Platform& platform, base::ErrorReporter& errors);
 
   std::string download_link;  // set before the dialog is shown
 
@@ -29,7 +29,7 @@ class Form7 : public ui::Window {
   void Command2_Click();
 
   platform::Platform& platform_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace online

@@ -12,7 +12,7 @@ constexpr int kTickMs = 5;
 }  // namespace
 
 void UpdateChecker::UpdateCheck() {
-  settings::TrapErrors(errors_, 1013, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kUpdateCheck, [this] {
     const auto update = Fetch();
     if (!update) {
       log_.PrintFile("> Update error");
@@ -35,23 +35,23 @@ std::optional<UpdateFile> UpdateChecker::Fetch() {
 }
 
 void UpdateChecker::Offer(const UpdateFile& update) {
-  Form7& dialog = scene_.UpdateDialog();
-  const auto& messages = scene_.MessageTexts().messages;
+  using lang::Slot;
   const std::string link = platform_.code_page.Decode(update.link);
-  dialog.Load();
-  dialog.Label1.SetCaption(messages[1]);
-  dialog.SetCaption(messages[2]);
-  dialog.Command1.SetCaption(messages[3]);
-  dialog.Command2.SetCaption(messages[4]);
-  dialog.List1.SetItems(
-      {messages[5] + kOwnVersion, messages[6] + DottedVersion(update.version), "Link: " + link});
-  dialog.download_link = link;
-  dialog.Show();
+  dialog_.Load();
+  dialog_.Label1.SetCaption(texts_.Of(Slot::kUpdateQuestion));
+  dialog_.SetCaption(texts_.Of(Slot::kUpdateTitle));
+  dialog_.Command1.SetCaption(texts_.Of(Slot::kUpdateAccept));
+  dialog_.Command2.SetCaption(texts_.Of(Slot::kUpdateDecline));
+  dialog_.List1.SetItems({texts_.Of(Slot::kUpdateCurrent) + kOwnVersion,
+                          texts_.Of(Slot::kUpdateNew) + DottedVersion(update.version),
+                          "Link: " + link});
+  dialog_.download_link = link;
+  dialog_.Show();
   do {
-    platform_.pump.ProcessPending([&dialog] { return !dialog.Visible(); });
+    platform_.pump.ProcessPending([this] { return !dialog_.Visible(); });
     platform_.pump.Sleep(kTickMs);
-  } while (dialog.Visible());
-  dialog.Unload();
+  } while (dialog_.Visible());
+  dialog_.Unload();
 }
 
 }  // namespace online

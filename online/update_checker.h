@@ -9,29 +9,19 @@
 #include "online/update_file.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 
 namespace online {
 
-// What the check needs of the program around it.
-class UpdateScene {
- public:
-  virtual ~UpdateScene() = default;
-
-  virtual Form7& UpdateDialog() = 0;
-
-  // The message texts of the loaded language; 1 to 6 are the dialog's.
-  virtual const lang::Texts& MessageTexts() const = 0;
-};
-
 class UpdateChecker {
  public:
-  UpdateChecker(platform::Platform& platform, UpdateScene& scene, settings::ActivityLog& log,
-                settings::ErrorNotes& errors)
-      : platform_(platform), scene_(scene), log_(log), errors_(errors) {}
+  // `texts` are those of the loaded language; the dialog's are among them.
+  UpdateChecker(platform::Platform& platform, Form7& dialog, const lang::Texts& texts,
+                settings::ActivityLog& log, base::ErrorReporter& errors)
+      : platform_(platform), dialog_(dialog), texts_(texts), log_(log), errors_(errors) {}
 
   // Returns when the user has declined or there is nothing to offer. Problems go to the activity
-  // log as "> Update error". Error value 1013.
+  // log as "> Update error". Error value kUpdateCheck.
   void UpdateCheck();
 
  private:
@@ -40,9 +30,10 @@ class UpdateChecker {
   void Offer(const UpdateFile& update);
 
   platform::Platform& platform_;
-  UpdateScene& scene_;
+  Form7& dialog_;
+  const lang::Texts& texts_;
   settings::ActivityLog& log_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace online

@@ -6,7 +6,7 @@
 namespace online {
 
 void UploadHandOver::FTPSend(const std::string& LocalFileName, const std::string& FileName) {
-  settings::TrapErrors(errors_, settings::kUploadErrorValue, [&] {
+  base::TrapErrors(errors_, base::ErrorValue::kFTPSend, [&] {
     platform_.Texts().Write(platform_.environment.Get("TEMP") + "\\snd.ini",
                             base::Line(LocalFileName) + base::Line(FileName));
     platform_.processes.StartHidden(

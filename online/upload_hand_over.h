@@ -7,22 +7,22 @@
 #include <string>
 
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "settings/log_upload.h"
 
 namespace online {
 
 class UploadHandOver : public settings::LogUpload {
  public:
-  UploadHandOver(platform::Platform& platform, settings::ErrorNotes& errors)
+  UploadHandOver(platform::Platform& platform, base::ErrorReporter& errors)
       : platform_(platform), errors_(errors) {}
 
-  // Does not wait for the upload. Error value 1025.
+  // Does not wait for the upload. Error value kFTPSend.
   void FTPSend(const std::string& LocalFileName, const std::string& FileName) override;
 
  private:
   platform::Platform& platform_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace online

@@ -6,7 +6,7 @@
 namespace online {
 
 void UsageData::SendData() {
-  settings::TrapErrors(errors_, 106, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kSendData, [this] {
     const std::string log = platform_.environment.Get("TEMP") + "\\userdata.txt";
     // Drawn whether or not the log is sent: a number that does not fit is an error in either case.
     const std::int16_t number =

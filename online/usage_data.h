@@ -1,9 +1,9 @@
 // SendData: sends the activity log to the maker, when the user has agreed to that.
 #pragma once
 
-#include "base/main_state.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "settings/log_upload.h"
 #include "settings/usage_upload.h"
 
@@ -11,18 +11,18 @@ namespace online {
 
 class UsageData : public settings::UsageUpload {
  public:
-  UsageData(platform::Platform& platform, const base::MainState& state, settings::LogUpload& upload,
-            settings::ErrorNotes& errors)
+  UsageData(platform::Platform& platform, const settings::MainState& state,
+            settings::LogUpload& upload, base::ErrorReporter& errors)
       : platform_(platform), state_(state), upload_(upload), errors_(errors) {}
 
-  // Nothing is sent unless the SendData flag is 1 and there is a log. Error value 106.
+  // Nothing is sent unless the SendData flag is 1 and there is a log. Error value kSendData.
   void SendData() override;
 
  private:
   platform::Platform& platform_;
-  const base::MainState& state_;
+  const settings::MainState& state_;
   settings::LogUpload& upload_;
-  settings::ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
 };
 
 }  // namespace online

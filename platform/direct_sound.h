@@ -6,18 +6,15 @@
 #include <memory>
 #include <string>
 
+#include "base/wave_format.h"
+
 namespace ui {
 class WindowView;
 }
 
 namespace platform {
 
-// PCM, as the format block of a WAV file says it.
-struct WaveFormat {
-  std::int32_t sample_rate = 0;  // frames per second
-  std::int16_t channels = 0;
-  std::int16_t bits_per_sample = 0;
-};
+using base::WaveFormat;
 
 // Flags of a DirectSound buffer and of its Play call, and the normal cooperative level, as
 // documented for DirectX 8.

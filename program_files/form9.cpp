@@ -4,7 +4,7 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "program_files/line_reader.h"
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 
 namespace program_files {
 namespace {
@@ -17,12 +17,12 @@ constexpr std::int32_t kMostLines = 32774;
 
 }  // namespace
 
-Form9::Form9(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
-             PlayerScene& player_scene)
+Form9::Form9(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
+             Surroundings around)
     : ui::Window(platform.windows, {"Form9", "Tonmira", 480, 160}),
       platform_(platform),
       state_(state),
-      scene_(player_scene),
+      around_(std::move(around)),
       support_(platform, state, play_scene) {
   Command1.OnClick = [this] { Command1_Click(); };
   Command2.OnClick = [this] { Command2_Click(); };
@@ -32,12 +32,12 @@ Form9::Form9(platform::Platform& platform, base::MainState& state, tone::PlaySce
 }
 
 void Form9::Form_Load() {
-  tone::Quietly([this] { LoadProgram(); });
+  base::Quietly([this] { LoadProgram(); });
   if (closes_after_loading_) Unload();
 }
 
 void Form9::LoadProgram() {
-  scene_.UnloadNewsWindow();
+  around_.unload_news_window();
   if (loading_guard_ == 1) return;
   loading_guard_ = 1;
   state_.stop_flag = 0;
@@ -75,7 +75,7 @@ void Form9::ReadLines() {
 }
 
 void Form9::Parse() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     ProgramChecks checks(program_);
     Tell(checks.CheckHead());
     checks.BeginEntries(CountLinesAgain());
@@ -122,15 +122,14 @@ void Form9::CloseAfterLoading() {
 }
 
 void Form9::KillHelpers() {
-  support_.killer.KillProcess("Tone32.dll");
-  support_.killer.KillProcess("Tone16.dll");
+  support_.helpers.EndAll();
 }
 
 void Form9::Form_Unload() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     // A helper may just have begun to sound, as it is started without waiting for it.
-    if (playing_ && (sound_mode_ == "16" || sound_mode_ == "32")) EndHelper();
-    scene_.UnloadEveryWindow();
+    if (playing_ && SoundsByHelper()) EndHelper();
+    around_.unload_every_window();
   });
 }
 

@@ -9,11 +9,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "base/main_state.h"
+#include "base/sound_mode.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
 #include "program_files/tone_program.h"
 #include "tone/route_support.h"
@@ -23,25 +25,20 @@
 
 namespace program_files {
 
-// What the player needs of the program around it.
-class PlayerScene {
- public:
-  virtual ~PlayerScene() = default;
-
-  virtual void UnloadNewsWindow() = 0;
-
-  // Unloads the main window, which ends the program.
-  virtual void UnloadEveryWindow() = 0;
-};
-
 class Form9 : public ui::Window {
  public:
-  Form9(platform::Platform& platform, base::MainState& state, tone::PlayScene& play_scene,
-        PlayerScene& player_scene);
+  // What the player does to the program around it.
+  struct Surroundings {
+    std::function<void()> unload_news_window;
+    std::function<void()> unload_every_window;  // the main one among them, which ends the program
+  };
+
+  Form9(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
+        Surroundings around);
 
   // Both are set before the window is loaded.
   void SetFilePath(std::string path) { file_path_ = std::move(path); }
-  void SetSoundMode(std::string code) { sound_mode_ = std::move(code); }
+  void SetSoundMode(base::SoundMode mode) { sound_mode_ = mode; }
 
   ui::Label Label3{*this, "Label3", {16, 16, 70, 18}, "Playing:"};
   ui::Label Label4{*this, "Label4", {90, 16, 374, 18}, "", ui::Label::Style::kPath};
@@ -83,19 +80,20 @@ class Form9 : public ui::Window {
   void Play();
   void PlayTone();
   void StartHelper();
+  bool SoundsByHelper() const;
   void SoundTone();
   void EndHelper();
   void ShowAllPlayed();
   std::int16_t ToneCount() const { return program_.tone_count; }
 
   platform::Platform& platform_;
-  base::MainState& state_;
-  PlayerScene& scene_;
+  settings::MainState& state_;
+  Surroundings around_;
   tone::RouteSupport support_;
   tone::WinmmRoutes winmm_{support_};
 
   std::string file_path_;
-  std::string sound_mode_;
+  base::SoundMode sound_mode_ = base::SoundMode::kNone;
   ToneProgram program_;
   std::int16_t stop_flag_ = 0;  // 1 = stop requested
   std::int16_t tone_number_ = 0;

@@ -1,8 +1,7 @@
 // Playing the tone program.
-#include "base/command_line.h"
 #include "base/numbers.h"
 #include "program_files/form9.h"
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 
 namespace program_files {
 namespace {
@@ -13,7 +12,7 @@ constexpr std::int16_t kClassicStartMs = 1000;
 }  // namespace
 
 void Form9::Command1_Click() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     Command1.SetEnabled(false);
     // Stopped, but not over yet: plays follow each other, they never run within one another.
     replays_ = playing_;
@@ -24,7 +23,7 @@ void Form9::Command1_Click() {
 }
 
 void Form9::Command2_Click() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     stop_flag_ = 1;
     tone_number_ = 6;
     table_index_ = 1;
@@ -34,7 +33,7 @@ void Form9::Command2_Click() {
 }
 
 void Form9::Command3_Click() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     stop_flag_ = 1;
     Unload();
   });
@@ -53,7 +52,7 @@ void Form9::PlayUntilDone() {
 }
 
 void Form9::Play() {
-  tone::Quietly([this] {
+  base::Quietly([this] {
     support_.ReadTempFolder();
     Label1.SetCaption("0");
     ProgressBar1.SetRange(0, ToneCount());
@@ -62,7 +61,7 @@ void Form9::Play() {
     tone_number_ = 0;
     table_index_ = 0;
     // A tone that fails is the last one.
-    tone::Quietly([this] {
+    base::Quietly([this] {
       do {
         PlayTone();
         // What the user did meanwhile: a stop ends the play with the tone that sounded.
@@ -95,29 +94,43 @@ void Form9::PlayTone() {
 }
 
 void Form9::StartHelper() {
-  if (sound_mode_ == "16") {
-    platform_.processes.StartHidden(
-        base::InterpreterCommand(platform_.environment.ProgramFolder(), "play16.exe"));
-  }
-  if (sound_mode_ == "32") platform_.processes.StartHidden("tone32.dll");
+  support_.helpers.Start(base::OutputOf(sound_mode_), tone::HelperPrograms::Named::kByPath);
 }
 
+bool Form9::SoundsByHelper() const {
+  const base::Output output = base::OutputOf(sound_mode_);
+  return output == base::Output::kHelper16 || output == base::Output::kHelper32;
+}
+
+// DirectSound plays through the multimedia player, too; with no sound mode the time passes in
+// silence.
 void Form9::SoundTone() {
   const std::int16_t duration = program_.duration_ms[table_index_];
-  if (sound_mode_ == "256" || sound_mode_ == "128" || sound_mode_ == "64") {
+  const base::Output output = base::OutputOf(sound_mode_);
+  if (output == base::Output::kPlayer || output == base::Output::kDirectSound) {
     winmm_.SoundWinmmRNDTMP(program_.pitch_hz[table_index_],
                             base::ToInt16(duration + program_.extra_time_ms));
     return;
   }
-  if (sound_mode_ == "16") support_.waves.delay(kClassicStartMs);
+  if (output == base::Output::kHelper16) support_.waves.delay(kClassicStartMs);
   support_.waves.delay(program_.extra_time_ms);
   support_.waves.delay(duration);
 }
 
+// Sound32's helper is looked for in two modes that start none: another copy may have left it.
 void Form9::EndHelper() {
-  if (sound_mode_ == "16") support_.killer.KillProcess("tone16.dll");
-  if (sound_mode_ == "128" || sound_mode_ == "64" || sound_mode_ == "32") {
-    support_.killer.KillProcess("tone32.dll");
+  switch (sound_mode_) {
+    case base::SoundMode::kClassic:
+      support_.helpers.End(base::Output::kHelper16);
+      break;
+    case base::SoundMode::kSound32:
+    case base::SoundMode::kDirectSound:
+    case base::SoundMode::kAutomatic:
+      support_.helpers.End(base::Output::kHelper32);
+      break;
+    case base::SoundMode::kWinmm:
+    case base::SoundMode::kNone:
+      break;
   }
 }
 

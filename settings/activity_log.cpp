@@ -17,7 +17,7 @@ void ActivityLog::PrintFile(std::string_view newdata) {
 }
 
 void ActivityLog::LoadFile() {
-  TrapErrors(errors_, 108, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kLoadFile, [this] {
     const auto content = platform_.Texts().Read(Path());
     if (!content) return;
     base::FieldReader reader(*content);

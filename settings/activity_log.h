@@ -10,19 +10,20 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 
 namespace settings {
 
 class ActivityLog {
  public:
-  ActivityLog(platform::Platform& platform, ErrorNotes& errors)
+  ActivityLog(platform::Platform& platform, base::ErrorReporter& errors)
       : platform_(platform), errors_(errors) {}
 
   // Appends one entry; a full log has its last line replaced. Throws base::RuntimeError.
   void PrintFile(std::string_view newdata);
 
-  // Reads the log into the slots. Slots without an entry keep what they hold. Error value 108.
+  // Reads the log into the slots. Slots without an entry keep what they hold. Error value
+  // kLoadFile.
   void LoadFile();
 
  private:
@@ -31,7 +32,7 @@ class ActivityLog {
   std::string Path() const;
 
   platform::Platform& platform_;
-  ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
   std::array<std::string, kMaxLines + 1> slots_;  // slot N holds line N
 };
 

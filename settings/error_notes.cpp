@@ -12,7 +12,7 @@ constexpr int kTickMs = 50;
 
 }  // namespace
 
-void ErrorNotes::ErrorNote(std::int16_t value, const base::RuntimeError& error) {
+void ErrorNotes::ErrorNote(base::ErrorValue value, const base::RuntimeError& error) {
   const std::string path = platform_.environment.Get("TEMP") + "\\error.log";
   const ErrorCircumstances circumstances{platform_.screen.Pixels(),
                                          platform_.screen.LogicalPixelsPerInch().horizontal,
@@ -25,7 +25,8 @@ void ErrorNotes::ErrorNote(std::int16_t value, const base::RuntimeError& error) 
   std::string log;
   for (const std::string& line : lines) log += base::Line(line);
   platform_.Texts().Replace(path, log, platform::Durability::kVisible);
-  if (state_.SendData == 1 && value != kUploadErrorValue) {
+  // An upload that failed is not itself uploaded.
+  if (state_.SendData == 1 && value != base::ErrorValue::kFTPSend) {
     upload_.FTPSend("error.log", base::BareNumber(number) + "error.log");
   }
 

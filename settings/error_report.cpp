@@ -4,11 +4,11 @@
 
 namespace settings {
 
-std::vector<std::string> ErrorLines(const base::RuntimeError& error, std::int16_t value,
+std::vector<std::string> ErrorLines(const base::RuntimeError& error, base::ErrorValue value,
                                     const ErrorCircumstances& circumstances) {
   return {
       "Error number: " + base::SignedNumber(error.number()) +
-          ",   Error value: " + base::SignedNumber(value),
+          ",   Error value: " + base::SignedNumber(static_cast<std::int16_t>(value)),
       "<" + error.description() + ">",
       "Resolution:" + base::SignedNumber(circumstances.screen.width) + " x" +
           base::SignedNumber(circumstances.screen.height) +

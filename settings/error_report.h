@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/error_value.h"
 #include "base/errors.h"
 #include "platform/system.h"
 
@@ -18,7 +19,7 @@ struct ErrorCircumstances {
 };
 
 // The four lines of the error log.
-std::vector<std::string> ErrorLines(const base::RuntimeError& error, std::int16_t value,
+std::vector<std::string> ErrorLines(const base::RuntimeError& error, base::ErrorValue value,
                                     const ErrorCircumstances& circumstances);
 
 // The whole-number part of random * second * hour * day + 1, `random` in [0, 1). Throws kOverflow

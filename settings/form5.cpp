@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "settings/entries.h"
 #include "settings/settings_file.h"
 
 namespace settings {
@@ -12,9 +11,10 @@ constexpr char kOldLanguageFile[] = "nl.ini";
 
 }  // namespace
 
-Form5::Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& errors,
-             std::function<void()> unload_all)
+Form5::Form5(platform::Platform& platform, MainState& state, base::ErrorReporter& errors,
+             lang::Languages languages, std::function<void()> unload_all)
     : ui::Window(platform.windows, {"Form5", "License agreements", 600, 280}),
+      languages_(languages),
       platform_(platform),
       state_(state),
       errors_(errors),
@@ -28,8 +28,10 @@ Form5::Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& e
 void Form5::Form_Load() {
   if (loading_ == 1) return;
   loading_ = 1;
-  TrapErrors(errors_, 504, [this] {
-    Combo1.SetItems({"English", "Dutch"});
+  base::TrapErrors(errors_, base::ErrorValue::kFirstRunLoad, [this] {
+    std::vector<std::string> names;
+    for (const lang::Language& language : languages_) names.emplace_back(language.english_name);
+    Combo1.SetItems(names);
     // Left by versions that kept the language there.
     if (platform_.files.Exists(kOldLanguageFile)) platform_.files.Delete(kOldLanguageFile);
   });
@@ -41,13 +43,12 @@ void Form5::Close() {
 }
 
 void Form5::Combo1_Click() {
-  TrapErrors(errors_, 501, [this] {
-    ShowTexts(Combo1.ListIndex() == kDutchIndex ? kDutchAgreement : kEnglishAgreement);
-  });
+  base::TrapErrors(errors_, base::ErrorValue::kFirstRunLanguage,
+                   [this] { ShowTexts(ChosenLanguage().agreement); });
 }
 
 void Form5::Command1_Click() {
-  TrapErrors(errors_, 502, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kFirstRunAccept, [this] {
     WriteSettings();
     StartAnew();
     unload_all_();
@@ -56,10 +57,15 @@ void Form5::Command1_Click() {
 }
 
 void Form5::Command2_Click() {
-  TrapErrors(errors_, 503, [this] { unload_all_(); });
+  base::TrapErrors(errors_, base::ErrorValue::kFirstRunDecline, [this] { unload_all_(); });
 }
 
-void Form5::ShowTexts(const AgreementTexts& texts) {
+const lang::Language& Form5::ChosenLanguage() const {
+  const int index = Combo1.ListIndex();
+  return languages_[index == ui::ComboBox::kNone ? 0 : static_cast<std::size_t>(index)];
+}
+
+void Form5::ShowTexts(const lang::AgreementTexts& texts) {
   Label1.SetCaption(texts.Sentence(texts.upload));
   Label4.SetCaption(texts.Sentence(texts.hearing));
   Label6.SetCaption(texts.Sentence(texts.copyright));
@@ -70,11 +76,11 @@ void Form5::ShowTexts(const AgreementTexts& texts) {
 }
 
 void Form5::WriteSettings() {
-  const FirstChoices choices{Combo1.ListIndex() == kDutchIndex, !Check1.Value()};
+  const FirstChoices choices{ChosenLanguage().code, !Check1.Value()};
   platform_.Texts().Replace(SettingsPath(platform_.environment), FirstSettings(choices),
                             platform::Durability::kOnDisk);
   // Only what is written down counts as the user's consent.
-  if (choices.dutch) state_.language = "nl";
+  if (lang::IsTranslated(choices.language)) state_.language = choices.language;
   state_.SendData = choices.send_data ? 1 : 0;
 }
 

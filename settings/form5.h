@@ -11,33 +11,31 @@
 #include <cstdint>
 #include <functional>
 
-#include "base/main_state.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
-#include "settings/agreement_texts.h"
-#include "settings/error_notes.h"
+#include "lang/languages.h"
+#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace settings {
 
 class Form5 : public ui::Window {
+  lang::Languages languages_;
+  const lang::AgreementTexts& design_ = languages_.front().agreement;
+
  public:
   // `unload_all` unloads every window of the program, which ends it.
-  Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& errors,
-        std::function<void()> unload_all);
+  Form5(platform::Platform& platform, MainState& state, base::ErrorReporter& errors,
+        lang::Languages languages, std::function<void()> unload_all);
 
-  ui::Label Label7{*this, "Label7", {16, 17, 72, 18}, std::string(kEnglishAgreement.language)};
+  ui::Label Label7{*this, "Label7", {16, 17, 72, 18}, std::string(design_.language)};
   ui::ComboBox Combo1{*this, "Combo1", {92, 14, 160, 24}};
-  ui::Label Label1{
-      *this, "Label1", {16, 52, 568, 50}, kEnglishAgreement.Sentence(kEnglishAgreement.upload)};
-  ui::Label Label4{
-      *this, "Label4", {16, 114, 568, 34}, kEnglishAgreement.Sentence(kEnglishAgreement.hearing)};
-  ui::Label Label6{
-      *this, "Label6", {16, 160, 568, 18}, kEnglishAgreement.Sentence(kEnglishAgreement.copyright)};
-  ui::CheckBox Check1{*this, "Check1", {16, 194, 568, 22}, std::string(kEnglishAgreement.refusal)};
-  ui::Button Command1{
-      *this, "Command1", {318, 232, 128, 32}, std::string(kEnglishAgreement.accept)};
-  ui::Button Command2{
-      *this, "Command2", {456, 232, 128, 32}, std::string(kEnglishAgreement.decline)};
+  ui::Label Label1{*this, "Label1", {16, 52, 568, 50}, design_.Sentence(design_.upload)};
+  ui::Label Label4{*this, "Label4", {16, 114, 568, 34}, design_.Sentence(design_.hearing)};
+  ui::Label Label6{*this, "Label6", {16, 160, 568, 18}, design_.Sentence(design_.copyright)};
+  ui::CheckBox Check1{*this, "Check1", {16, 194, 568, 22}, std::string(design_.refusal)};
+  ui::Button Command1{*this, "Command1", {318, 232, 128, 32}, std::string(design_.accept)};
+  ui::Button Command2{*this, "Command2", {456, 232, 128, 32}, std::string(design_.decline)};
 
   // As declining.
   void Close() override;
@@ -46,19 +44,19 @@ class Form5 : public ui::Window {
   void Form_Load() override;
 
  private:
-  static constexpr int kDutchIndex = 1;
-
   void Combo1_Click();
   void Command1_Click();
   void Command2_Click();
 
-  void ShowTexts(const AgreementTexts& texts);
+  // The language that is chosen; without a choice the one the window is designed in.
+  const lang::Language& ChosenLanguage() const;
+  void ShowTexts(const lang::AgreementTexts& texts);
   void WriteSettings();
   void StartAnew();
 
   platform::Platform& platform_;
-  base::MainState& state_;
-  ErrorNotes& errors_;
+  MainState& state_;
+  base::ErrorReporter& errors_;
   std::function<void()> unload_all_;
   std::int16_t loading_ = 0;
 };

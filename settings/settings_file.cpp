@@ -1,9 +1,10 @@
 #include "settings/settings_file.h"
 
+#include <ranges>
+
 #include "base/field_reader.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "settings/entries.h"
 
 namespace settings {
 namespace {
@@ -18,14 +19,14 @@ std::string SettingsPath(platform::Environment& environment) {
 }
 
 void SettingsFile::CheckSettings() {
-  TrapErrors(errors_, 103, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kCheckSettings, [this] {
     const auto entries = ReadEntries();
     if (!entries || *entries >= kDamaged || !Apply()) NewFile();
   });
 }
 
 void SettingsFile::WriteLine(std::int16_t linenumber, std::string_view value) {
-  TrapErrors(errors_, 102, [&] {
+  base::TrapErrors(errors_, base::ErrorValue::kWriteLine, [&] {
     log_.PrintFile("> Write action, Line: " + base::SignedNumber(linenumber) +
                    ", Value: " + std::string(value));
     const auto entries = ReadEntries();
@@ -41,7 +42,7 @@ void SettingsFile::WriteLine(std::int16_t linenumber, std::string_view value) {
 }
 
 void SettingsFile::NewFile() {
-  TrapErrors(errors_, 104, [this] {
+  base::TrapErrors(errors_, base::ErrorValue::kNewFile, [this] {
     log_.PrintFile("> New file");
     if (state_.SendData == 1) upload_.SendData();
     display_.ShowFirstRun();
@@ -60,55 +61,18 @@ std::optional<std::size_t> SettingsFile::ReadEntries() {
 }
 
 bool SettingsFile::Apply() {
-  if (!ApplyAutoUpdate()) return false;
-
-  const auto sound_bit = SoundBitCode(slots_[2]);
-  if (!sound_bit) return false;
-  log_.PrintFile(slots_[2]);
-
-  if (!ApplyLanguage()) return false;
-
-  const auto send_data = YesNo(slots_[4], "senddata");
-  if (!send_data) return false;
-  log_.PrintFile(slots_[4]);
-
-  return ApplyMicrophone(*send_data, *sound_bit);
-}
-
-bool SettingsFile::ApplyAutoUpdate() {
-  const auto auto_update = YesNo(slots_[1], "autoupdate");
-  if (!auto_update) return false;
-  log_.PrintFile(slots_[1]);
-  display_.ShowAutoUpdate(*auto_update);
-  state_.AutoUpdate = *auto_update ? 1 : 0;
-  return true;
-}
-
-bool SettingsFile::ApplyLanguage() {
-  const auto language = LanguageCode(slots_[3]);
-  if (!language) return false;
-  log_.PrintFile(slots_[3]);
-  state_.language = *language;
-  display_.ShowLanguage(*language);
-  display_.LoadCaptions(*language);
-  return true;
-}
-
-bool SettingsFile::ApplyMicrophone(bool send_data, const std::string& sound_bit) {
-  const auto level = MicrophoneLevel(slots_[5]);
-  if (!level) return false;
-  log_.PrintFile(slots_[5]);
-
-  const auto microphone_on = YesNo(slots_[6], "microphoneon");
-  if (!microphone_on) return false;
-  log_.PrintFile(slots_[6]);
-  state_.MicrophoneON = *microphone_on ? 1 : 0;
-  display_.ShowMicrophone(*microphone_on);
-
-  state_.Microphone = *level;
-  display_.ShowMicrophoneLevel(*level);
-  state_.SendData = send_data ? 1 : 0;
-  state_.SoundBit = sound_bit;
+  Settings read;
+  for (const Setting* setting : kAllSettings) {
+    const std::string& entry = slots_[static_cast<std::size_t>(setting->line)];
+    if (!ReadEntry(*setting, entry, languages_, read)) return false;
+    log_.PrintFile(entry);
+    if (setting->applied == Applied::kAtOnce) setting->apply(*setting, read, state_, display_);
+  }
+  for (const Setting* setting : std::views::reverse(kAllSettings)) {
+    if (setting->applied == Applied::kWhenAllAreRead) {
+      setting->apply(*setting, read, state_, display_);
+    }
+  }
   return true;
 }
 

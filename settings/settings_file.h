@@ -1,9 +1,6 @@
-// The settings file: "tonmira.ini" in the application-data folder, six lines whose meaning is
-// fixed by their position:
-//   1 AutoUpdate=y|n   2 SoundBit=16|32|64|128|256   3 Language=EN|NL
-//   4 SendData=y|n     5 Microphone=1..20            6 MicrophoneON=y|n
-// Lines 7 and 8 are carried along. A file of nine entries is read but never rewritten; one of ten
-// or more is damaged.
+// The settings file: "tonmira.ini" in the application-data folder, a line for each setting
+// (settings/settings.h), whose meaning is fixed by its position. Further lines up to the eighth are
+// carried along. A file of nine entries is read but never rewritten; one of ten or more is damaged.
 #pragma once
 
 #include <array>
@@ -12,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-#include "base/main_state.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
-#include "settings/error_notes.h"
+#include "base/error_trap.h"
 #include "settings/usage_upload.h"
 
 namespace settings {
@@ -23,41 +20,34 @@ namespace settings {
 // Where the file is.
 std::string SettingsPath(platform::Environment& environment);
 
-// What applying settings does to the main window.
-class SettingsDisplay {
- public:
-  virtual ~SettingsDisplay() = default;
-
-  virtual void ShowAutoUpdate(bool on) = 0;
-  virtual void ShowLanguage(const std::string& language) = 0;
-  virtual void LoadCaptions(const std::string& language) = 0;
-  virtual void ShowMicrophone(bool on) = 0;
-  virtual void ShowMicrophoneLevel(std::int16_t level) = 0;
-  virtual void ShowFirstRun() = 0;  // the dialog for a user without settings
-  virtual void HideMainWindow() = 0;
-};
-
 class SettingsFile {
  public:
-  SettingsFile(platform::Platform& platform, base::MainState& state, SettingsDisplay& display,
-               UsageUpload& upload, ActivityLog& log, ErrorNotes& errors)
+  SettingsFile(platform::Platform& platform, MainState& state, SettingsDisplay& display,
+               UsageUpload& upload, ActivityLog& log, base::ErrorReporter& errors,
+               lang::Languages languages)
       : platform_(platform),
         state_(state),
         display_(display),
         upload_(upload),
         log_(log),
-        errors_(errors) {}
+        errors_(errors),
+        languages_(languages) {}
 
   // Reads, checks and applies the file; a missing or damaged one leads to NewFile. What was
-  // applied before a failing entry stays applied. Error value 103.
+  // applied before a failing entry stays applied. Error value kCheckSettings.
   void CheckSettings();
 
   // Replaces line `linenumber` (1 to 8) by `value`, the whole line. The file is rewritten up to
-  // its first empty entry. A file of nine or more entries ends the program. Error value 102.
+  // its first empty entry. A file of nine or more entries ends the program. Error value kWriteLine.
   void WriteLine(std::int16_t linenumber, std::string_view value);
 
+  // The same for a setting: its whole line is made of its value.
+  void Write(const Setting& setting, std::string_view value) {
+    WriteLine(setting.line, Entry(setting, value));
+  }
+
   // The first-run path: the usage data of the settings that were lost are sent where those allowed
-  // it, and the first-run dialog takes the place of the main window. Error value 104.
+  // it, and the first-run dialog takes the place of the main window. Error value kNewFile.
   void NewFile();
 
  private:
@@ -69,18 +59,16 @@ class SettingsFile {
   // no file.
   std::optional<std::size_t> ReadEntries();
 
-  // Each returns false at the first entry that fails its test.
+  // False at the first entry that fails its test.
   bool Apply();
-  bool ApplyAutoUpdate();
-  bool ApplyLanguage();
-  bool ApplyMicrophone(bool send_data, const std::string& sound_bit);
 
   platform::Platform& platform_;
-  base::MainState& state_;
+  MainState& state_;
   SettingsDisplay& display_;
   UsageUpload& upload_;
   ActivityLog& log_;
-  ErrorNotes& errors_;
+  base::ErrorReporter& errors_;
+  lang::Languages languages_;
   std::array<std::string, kSlots> slots_;  // slot N holds line N
 };
 

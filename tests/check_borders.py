@@ -9,14 +9,14 @@ PROJECT = Path(__file__).resolve().parents[1]
 # Room -> the rooms below it. Every room may include itself.
 SERVICES = {"base", "ui", "platform"}
 SUBSYSTEMS = {
-    "settings": set(),
-    "lang": {"settings"},
-    "tone": set(),
-    "morse": {"lang", "tone"},
+    "lang": set(),
+    "settings": {"lang"},
+    "tone": {"lang", "settings"},
+    "morse": {"lang", "settings", "tone"},
     "program_files": {"lang", "settings", "tone"},
-    "display": {"lang", "settings"},
+    "display": {"settings"},
     "online": {"lang", "settings"},
-    "about": {"lang", "settings"},
+    "about": {"lang"},
 }
 APP = SERVICES | set(SUBSYSTEMS)
 SIMULATION = {"platform/simulated"}

@@ -1,12 +1,12 @@
 #include "tone/direct_sound_routes.h"
 
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 #include "tone/wave_file.h"
 
 namespace tone {
 
 void DirectSoundRoutes::ToneDXRND(std::int16_t pitch) {
-  Quietly([&] {
+  base::Quietly([&] {
     support_.ReadTempFolder();
     support_.WriteTone(pitch);
     support_.waves.WavPlay(support_.WavePath(), true, false);
@@ -20,7 +20,7 @@ void DirectSoundRoutes::ToneDXRND(std::int16_t pitch) {
 }
 
 void DirectSoundRoutes::ToneDXRNDTMP(std::int16_t pitch, std::int16_t Duration) {
-  Quietly([&] {
+  base::Quietly([&] {
     support_.ReadTempFolder();
     support_.WriteTone(pitch);
     CreateDevice();
@@ -32,7 +32,7 @@ void DirectSoundRoutes::ToneDXRNDTMP(std::int16_t pitch, std::int16_t Duration) 
 }
 
 void DirectSoundRoutes::ToneDX(std::int32_t pitch, const std::string& modeval, std::int32_t delay) {
-  Quietly([&] {
+  base::Quietly([&] {
     CreateDevice();
     PlayBuffer("tonedx" + modeval + ".dll");
     if (delay != 0) buffer_->SetFrequency(static_cast<std::uint32_t>(delay));

@@ -1,7 +1,7 @@
 #include "tone/helper_routes.h"
 
 #include "base/numbers.h"
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 
 namespace tone {
 namespace {
@@ -14,37 +14,38 @@ constexpr std::int16_t kSweepTickMs = 200;
 }  // namespace
 
 void HelperRoutes::Sound16(std::int16_t pitch) {
-  PlayByHelper(pitch, "16");
+  PlayByHelper(pitch, base::Output::kHelper16);
 }
 
 void HelperRoutes::Sound32(std::int16_t pitch) {
-  PlayByHelper(pitch, "32");
+  PlayByHelper(pitch, base::Output::kHelper32);
 }
 
-void HelperRoutes::PlayByHelper(std::int16_t pitch, const std::string& bit) {
-  Quietly([&] {
+void HelperRoutes::PlayByHelper(std::int16_t pitch, base::Output output) {
+  base::Quietly([&] {
     support_.ReadTempFolder();
     support_.state.stop_flag = 0;
     support_.WriteHandOver(pitch);
-    StartHelper(bit);
+    StartHelper(output);
     support_.WaitUntilStopped(kHelperTickMs);
     support_.KillAll();
   });
 }
 
-void HelperRoutes::LowToHigh(const std::string& bit) {
-  Quietly([&] {
+void HelperRoutes::LowToHigh(base::SoundMode mode) {
+  const base::Output output = base::OutputOf(mode);
+  base::Quietly([&] {
     support_.ReadTempFolder();
     sweep_pitch_ = 0;
     support_.WriteHandOver("1");
     support_.ShowPitchCaption();
-    StartHelper(bit);
+    StartHelper(output);
     do {
       support_.HandleMessages();
       if (sweep_pitch_ == 1) sweep_pitch_ = 0;
       sweep_pitch_ = base::ToInt16(sweep_pitch_ + kSweepStep);
-      if (sweep_pitch_ >= kSweepTop) Restart(bit);
-      ShowSweep(bit);
+      if (sweep_pitch_ >= kSweepTop) Restart(output);
+      ShowSweep(output);
       support_.Pause(kSweepTickMs);
     } while (!support_.Stopped());
     support_.KillAll();
@@ -52,29 +53,26 @@ void HelperRoutes::LowToHigh(const std::string& bit) {
 }
 
 // A helper that is missing or blocked leaves the route silent; only Stop ends it.
-void HelperRoutes::StartHelper(const std::string& bit) {
-  Quietly([&] {
-    if (bit == "16") support_.services.processes.StartHidden("cmd /c play16.exe");
-    if (bit == "32") support_.services.processes.StartHidden("tone32.dll");
-  });
+void HelperRoutes::StartHelper(base::Output output) {
+  base::Quietly([&] { support_.helpers.Start(output, HelperPrograms::Named::kAlone); });
 }
 
 // The 16-bit helper is not ended first: it ends by itself at the top of its sweep.
-void HelperRoutes::Restart(const std::string& bit) {
-  if (bit == "32") {
+void HelperRoutes::Restart(base::Output output) {
+  if (output == base::Output::kHelper32) {
     support_.scene.ShowStatus("Resetting...");
-    support_.killer.KillProcess("TONE" + bit + ".dll");
+    support_.helpers.End(output);
   }
-  StartHelper(bit);
+  StartHelper(output);
   sweep_pitch_ = kSweepRestart;
 }
 
-void HelperRoutes::ShowSweep(const std::string& bit) {
-  if (bit == "32") {
+void HelperRoutes::ShowSweep(base::Output output) {
+  if (output == base::Output::kHelper32) {
     support_.ShowPitch(sweep_pitch_);
     support_.DrawStep(sweep_pitch_);
   }
-  if (bit == "16") support_.scene.ShowStatus(support_.scene.StatusCaption());
+  if (output == base::Output::kHelper16) support_.scene.ShowStatus(support_.scene.StatusCaption());
 }
 
 }  // namespace tone

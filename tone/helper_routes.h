@@ -3,8 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
+#include "base/sound_mode.h"
 #include "tone/route_support.h"
 
 namespace tone {
@@ -18,15 +18,15 @@ class HelperRoutes {
   void Sound16(std::int16_t pitch);
   void Sound32(std::int16_t pitch);
 
-  // The helper's rising sweep; the status panel keeps pace with it by 200 Hz each 200 ms. `bit` is
-  // "16" or "32".
-  void LowToHigh(const std::string& bit);
+  // The helper's rising sweep; the status panel keeps pace with it by 200 Hz each 200 ms. `mode`
+  // is Classic or Sound32; in any other nothing sounds.
+  void LowToHigh(base::SoundMode mode);
 
  private:
-  void PlayByHelper(std::int16_t pitch, const std::string& bit);
-  void StartHelper(const std::string& bit);
-  void Restart(const std::string& bit);
-  void ShowSweep(const std::string& bit);
+  void PlayByHelper(std::int16_t pitch, base::Output output);
+  void StartHelper(base::Output output);
+  void Restart(base::Output output);
+  void ShowSweep(base::Output output);
 
   RouteSupport& support_;
   std::int16_t sweep_pitch_ = 0;

@@ -2,7 +2,8 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
-#include "tone/quietly.h"
+#include "lang/languages.h"
+#include "base/error_trap.h"
 
 namespace tone {
 namespace {
@@ -14,10 +15,9 @@ constexpr std::int16_t kStillSine = 930;
 }  // namespace
 
 void RouteSupport::KillAll() {
-  Quietly([this] {
+  base::Quietly([this] {
     ReadTempFolder();
-    killer.KillProcess("TONE32.dll");
-    killer.KillProcess("TONE16.dll");
+    helpers.EndAll();
     waves.WavPlay(" ", false, true);
     ShowPitchCaption();
     DeleteIfThere(HandOverPath());
@@ -50,7 +50,7 @@ void RouteSupport::WriteTone(std::int32_t pitch) {
 }
 
 void RouteSupport::DeleteIfThere(const std::string& path) {
-  Quietly([&] { services.files.Delete(path); });
+  base::Quietly([&] { services.files.Delete(path); });
 }
 
 void RouteSupport::ShowPitchCaption() {
@@ -85,7 +85,7 @@ void RouteSupport::WaitUntilStopped(std::int16_t tick_ms) {
 }
 
 std::string RouteSupport::PitchCaption() const {
-  if (language_ != "nl") return kPitchCaption;
+  if (!lang::IsTranslated(language_)) return kPitchCaption;
   const std::string caption = scene.StatusCaption();
   return caption.ends_with(' ') ? caption : caption + " ";
 }

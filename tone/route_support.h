@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <string>
 
-#include "base/main_state.h"
+#include "settings/main_state.h"
 #include "platform/platform.h"
-#include "tone/process_killer.h"
+#include "tone/helper_programs.h"
 #include "tone/wave_output.h"
 
 namespace tone {
@@ -36,15 +36,14 @@ class PlayScene {
 
 class RouteSupport {
  public:
-  RouteSupport(platform::Platform& platform, base::MainState& main_state, PlayScene& play_scene)
+  RouteSupport(platform::Platform& platform, settings::MainState& main_state, PlayScene& play_scene)
       : services(platform),
         state(main_state),
         scene(play_scene),
         waves(platform),
-        killer(platform),
+        helpers(platform),
         language_(main_state.language) {}
 
-  std::int16_t online = 0;   // 1 while the program shuts down
   std::int16_t playing = 0;  // cleared by KillAll
 
   // The language of the status texts; at first the main window's.
@@ -56,10 +55,10 @@ class RouteSupport {
 
   // For the routes.
   platform::Platform& services;
-  base::MainState& state;
+  settings::MainState& state;
   PlayScene& scene;
   WaveOutput waves;
-  ProcessKiller killer;
+  HelperPrograms helpers;
 
   void ReadTempFolder();
   std::string WavePath() const;
@@ -74,7 +73,8 @@ class RouteSupport {
   void WriteTone(std::int32_t pitch);
   void DeleteIfThere(const std::string& path);
 
-  // "Actual pitch (Hertz): ", in Dutch the loaded caption; then the pitch in bare digits.
+  // "Actual pitch (Hertz): ", in a translated program the loaded caption; then the pitch in bare
+  // digits.
   void ShowPitchCaption();
   void ShowPitch(std::int32_t pitch);
 

@@ -1,18 +1,25 @@
 #include "tone/short_tones.h"
 
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 #include "tone/winmm_routes.h"
 
 namespace tone {
 
 void ShortTones::sound(std::int16_t pitch, std::int16_t Duration) {
-  Quietly([&] {
-    if (state_.SoundBit == "32" || state_.SoundBit == "16") {
-      platform_.beeper.Beep(pitch, Duration);
-    }
-    if (state_.SoundBit == "256" || state_.SoundBit == "128") {
-      RouteSupport support(platform_, state_, scene_);
-      WinmmRoutes(support).SoundWinmmRNDTMP(pitch, Duration);
+  base::Quietly([&] {
+    switch (base::OutputOf(state_.SoundBit)) {
+      case base::Output::kHelper16:
+      case base::Output::kHelper32:
+        platform_.beeper.Beep(pitch, Duration);
+        break;
+      case base::Output::kPlayer: {
+        RouteSupport support(platform_, state_, scene_);
+        WinmmRoutes(support).SoundWinmmRNDTMP(pitch, Duration);
+        break;
+      }
+      case base::Output::kDirectSound:
+      case base::Output::kNone:
+        break;
     }
   });
 }

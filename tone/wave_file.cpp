@@ -32,9 +32,9 @@ std::string_view Chunk(std::string_view image, std::string_view name) {
   return {};
 }
 
-std::optional<platform::WaveFormat> Format(std::string_view chunk) {
+std::optional<base::WaveFormat> Format(std::string_view chunk) {
   if (chunk.size() < kFormatBytes || Number(chunk, 0, 2) != kPcm) return std::nullopt;
-  platform::WaveFormat format;
+  base::WaveFormat format;
   format.channels = static_cast<std::int16_t>(Number(chunk, 2, 2));
   format.sample_rate = static_cast<std::int32_t>(Number(chunk, 4, 4));
   format.bits_per_sample = static_cast<std::int16_t>(Number(chunk, 14, 2));

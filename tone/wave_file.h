@@ -8,12 +8,12 @@
 #include <string>
 #include <string_view>
 
-#include "platform/direct_sound.h"
+#include "base/wave_format.h"
 
 namespace tone {
 
 struct WaveFile {
-  platform::WaveFormat format;
+  base::WaveFormat format;
   std::string data;
 };
 

@@ -1,7 +1,7 @@
 #include "tone/wave_output.h"
 
 #include "tone/wave_image.h"
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 
 namespace tone {
 namespace {
@@ -17,24 +17,24 @@ std::string WaveOutput::CreateWaveArray(const SampleBuffer& samples, std::int32_
 }
 
 bool WaveOutput::WriteWave(const std::string& file_name, const std::string& image) {
-  const bool there = Quietly([&] {
+  const bool there = base::Quietly([&] {
     if (!platform_.files.OpenForReading(file_name)) {
       throw base::RuntimeError(base::ErrorCode::kFileNotFound);
     }
   });
-  if (there) Quietly([&] { platform_.files.Delete(file_name); });
+  if (there) base::Quietly([&] { platform_.files.Delete(file_name); });
 
-  const bool written = Quietly([&] {
+  const bool written = base::Quietly([&] {
     const auto file = platform_.files.OpenForWriting(file_name);
     file->Write(image);
     file->Close();
   });
-  if (!written) Quietly([&] { platform_.files.Delete(file_name); });
+  if (!written) base::Quietly([&] { platform_.files.Delete(file_name); });
   return written;
 }
 
 void WaveOutput::WavPlay(const std::string& path, bool loop_sound, bool kill_all) {
-  Quietly([&] {
+  base::Quietly([&] {
     if (kill_all) {
       platform_.waves.Stop(platform::kPlayNoDefault);
     } else {
@@ -45,7 +45,7 @@ void WaveOutput::WavPlay(const std::string& path, bool loop_sound, bool kill_all
 }
 
 void WaveOutput::delay(std::int16_t timems) {
-  Quietly([&] { platform_.pump.Sleep(timems); });
+  base::Quietly([&] { platform_.pump.Sleep(timems); });
 }
 
 void WaveOutput::Pause(std::int16_t timems, const std::function<bool()>& enough) {

@@ -1,7 +1,7 @@
 #include "tone/winmm_routes.h"
 
 #include "base/numbers.h"
-#include "tone/quietly.h"
+#include "base/error_trap.h"
 
 namespace tone {
 namespace {
@@ -13,7 +13,7 @@ constexpr std::int16_t kSweepTickMs = 75;
 }  // namespace
 
 void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
-  Quietly([&] {
+  base::Quietly([&] {
     support_.ReadTempFolder();
     StartTone(pitch);
     support_.ShowPitch(pitch);
@@ -24,7 +24,7 @@ void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
 }
 
 void WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch, std::int16_t Duration) {
-  Quietly([&] {
+  base::Quietly([&] {
     support_.ReadTempFolder();
     StartTone(pitch);
     support_.waves.delay(Duration);
@@ -34,7 +34,7 @@ void WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch, std::int16_t Duration) {
 }
 
 void WinmmRoutes::SoundWinmm(std::int16_t pitch, const std::string& modeval) {
-  Quietly([&] {
+  base::Quietly([&] {
     support_.waves.WavPlay("tonedx" + modeval + ".dll", true, false);
     support_.ShowPitch(pitch);
     support_.WaitUntilStopped(kWaveTickMs);
@@ -43,7 +43,7 @@ void WinmmRoutes::SoundWinmm(std::int16_t pitch, const std::string& modeval) {
 }
 
 void WinmmRoutes::SoundWinmmLTH() {
-  Quietly([this] {
+  base::Quietly([this] {
     support_.ReadTempFolder();
     std::int16_t pitch = 0;
     do {

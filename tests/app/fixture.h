@@ -45,11 +45,12 @@ class ProgramTest : public testing::Test {
   Form1& main() { return program->form1; }
 
   // Calls Terminate with a state of its own. True when it ended the program.
-  bool RunTerminate(base::MainState& state) {
-    display::SineAnimation sine(sim.services, state, main().Picture1, program->Errors());
-    Program service(sim.services, state,
-                    Scene{main(), *program, main(), *program, *program, *program, sine});
-    return sim.Run([&] { service.Terminate(); });
+  bool RunTerminate(settings::MainState& state) {
+    const Context& all = main().Services();
+    const Context context{all.platform, state,        all.errors,    all.languages,
+                          main(),       main(),       all.sine,      all.update_dialog,
+                          all.texts,    all.captions, all.show_mode, all.windows};
+    return sim.Run([&] { Program(context).Terminate(); });
   }
 
   Lines Messages() const { return sim.journal.Texts({Kind::kMessage}); }

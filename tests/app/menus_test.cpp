@@ -15,7 +15,7 @@ TEST_F(MenusTest, AChosenSoundModeIsCheckedAloneKeptAndWrittenToTheFile) {
   Run();
   EXPECT_EQ(sim.journal.Texts({Kind::kControl}),
             (Lines{"Form1.sndwinmm checked: yes", "Form1.sndautomatic checked: no"}));
-  EXPECT_EQ(main().State().SoundBit, "256");
+  EXPECT_EQ(base::FactsOf(main().State().SoundBit).code, "256");
   EXPECT_EQ(sim.Lines(kSettings), (Lines{"AutoUpdate=n", "SoundBit=256", "Language=EN",
                                          "SendData=n", "Microphone=1", "MicrophoneON=n"}));
   EXPECT_EQ(LogEntries().back(), "> Write action, Line:  2, Value: SoundBit=256");
@@ -38,7 +38,7 @@ TEST_F(MenusTest, EverySoundModeHasItsCode) {
       }
     });
     Run();
-    EXPECT_EQ(main().State().SoundBit, code);
+    EXPECT_EQ(base::FactsOf(main().State().SoundBit).code, code);
     EXPECT_EQ(sim.Lines(kSettings)[1], "SoundBit=" + code);
   }
 }
@@ -50,7 +50,7 @@ TEST_F(MenusTest, DirectSoundTakesTheToolsAwayAndSelectsTheFirstMode) {
     EXPECT_FALSE(form1.Option6.Enabled());
     EXPECT_FALSE(form1.Option8.Enabled());
     EXPECT_FALSE(form1.Option9.Enabled());
-    EXPECT_EQ(form1.SelectedMode(), 1);
+    EXPECT_EQ(form1.SelectedMode(), ToneMode(1));
     EXPECT_EQ(form1.Label1.Caption(),
               "A low tone of 1000 Hz. Everybody hears it: use it to check your speakers.");
   });
@@ -65,7 +65,7 @@ TEST_F(MenusTest, ClassicBringsThemBackAndSelectsTheFirstMode) {
     EXPECT_TRUE(form1.Option6.Enabled());
     EXPECT_TRUE(form1.Option8.Enabled());
     EXPECT_TRUE(form1.Option9.Enabled());
-    EXPECT_EQ(form1.SelectedMode(), 1);
+    EXPECT_EQ(form1.SelectedMode(), ToneMode(1));
   });
   Run();
 }
@@ -82,7 +82,7 @@ TEST_F(MenusTest, TheOtherSoundModesBringThemBackAndLeaveTheSelection) {
       EXPECT_TRUE(form1.Option6.Enabled());
       EXPECT_TRUE(form1.Option8.Enabled());
       EXPECT_TRUE(form1.Option9.Enabled());
-      EXPECT_EQ(form1.SelectedMode(), 5);
+      EXPECT_EQ(form1.SelectedMode(), ToneMode(5));
     });
     Run();
   }
@@ -153,7 +153,7 @@ TEST_F(MenusTest, TheSettingsMenuCannotBeUsedWhileATonePlays) {
   });
   At(1500ms, [](Form1& form1) {
     form1.sndwinmm.Click();
-    EXPECT_EQ(form1.State().SoundBit, "128");
+    EXPECT_EQ(base::FactsOf(form1.State().SoundBit).code, "128");
   });
   At(2s, [](Form1& form1) { form1.Command3.Click(); });
   Run();

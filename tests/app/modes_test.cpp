@@ -32,7 +32,7 @@ TEST_F(ModesTest, TheDesignCaptionsNameTheModes) {
 TEST_F(ModesTest, ChoosingAModeTellsItsDescriptionAndLogsIt) {
   At(1s, [](Form1& form1) { form1.Option3.Click(); });
   Run();
-  EXPECT_EQ(main().SelectedMode(), 3);
+  EXPECT_EQ(main().SelectedMode(), ToneMode(3));
   EXPECT_EQ(main().Label1.Caption(),
             "A high tone of 10000 Hz. It sounds sharp: set the volume low before you play it.");
   EXPECT_EQ(main().Command2.Caption(), "Play Sound");
@@ -47,7 +47,7 @@ TEST_F(ModesTest, EveryModeLogsItsNumberAndDeselectsTheOthers) {
       int selected = 0;
       for (const ui::OptionButton* option : form1.Options()) selected += option->Value() ? 1 : 0;
       EXPECT_EQ(selected, 1);
-      EXPECT_EQ(form1.SelectedMode(), mode);
+      EXPECT_EQ(form1.SelectedMode(), ToneMode(static_cast<std::int16_t>(mode)));
     });
   }
   Run();
@@ -121,7 +121,7 @@ TEST_F(ModesTest, InDirectSoundTheModesItCannotPlayCannotBeChosen) {
     form1.Option6.Click();
     form1.Option8.Click();
     form1.Option9.Click();
-    EXPECT_EQ(form1.SelectedMode(), 1);
+    EXPECT_EQ(form1.SelectedMode(), ToneMode(1));
   });
   Run();
   EXPECT_EQ(LogEntries().back(), "#Option 1 Clicked");
@@ -168,24 +168,35 @@ TEST_F(ModesTest, ALogThatCannotBeWrittenOnceOpensTheErrorDialog) {
   EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  61,   Error value:  1010");
 }
 
-TEST(ToneModes, PitchesAndMarkers) {
+TEST(ToneModes, PitchesAndWhatTheLogTellsInTheirPlace) {
   const std::int16_t pitches[] = {0, 1000, 4500, 10000, 16600, 21000, 1, 0, 3, 0};
-  for (int mode = 0; mode <= 9; ++mode) EXPECT_EQ(ModePitch(mode), pitches[mode]) << mode;
+  for (std::int16_t number = 0; number <= 9; ++number) {
+    const ToneModeFacts& mode = FactsOf(static_cast<ToneMode>(number));
+    EXPECT_EQ(PitchInLog(mode.kind, mode.pitch_hz), pitches[number]) << number;
+  }
+}
+
+Route ToneRoute(const char* code) {
+  return RouteOf(ToneKind::kFixedPitch, base::SoundModeOf(code));
+}
+
+Route SweepRoute(const char* code) {
+  return RouteOf(ToneKind::kSweep, base::SoundModeOf(code));
 }
 
 TEST(ToneModes, EverySoundModeHasItsRoute) {
-  EXPECT_EQ(RouteOf(440, "16"), Route::kSound16);
-  EXPECT_EQ(RouteOf(440, "32"), Route::kSound32);
-  EXPECT_EQ(RouteOf(440, "64"), Route::kToneDXRND);
-  EXPECT_EQ(RouteOf(440, "128"), Route::kSoundWinmmRND);
-  EXPECT_EQ(RouteOf(440, "256"), Route::kSoundWinmmRND);
-  EXPECT_EQ(RouteOf(1000, "128"), RouteOf(1000, "256"));
-  EXPECT_EQ(RouteOf(440, ""), Route::kNone);
-  EXPECT_EQ(RouteOf(440, " 16"), Route::kNone);
-  EXPECT_EQ(RouteOf(1, "16"), Route::kLowToHigh);
-  EXPECT_EQ(RouteOf(1, "32"), Route::kLowToHigh);
-  EXPECT_EQ(RouteOf(1, "128"), Route::kSoundWinmmLTH);
-  EXPECT_EQ(RouteOf(1, "256"), Route::kSoundWinmmLTH);
+  EXPECT_EQ(ToneRoute("16"), Route::kSound16);
+  EXPECT_EQ(ToneRoute("32"), Route::kSound32);
+  EXPECT_EQ(ToneRoute("64"), Route::kToneDXRND);
+  EXPECT_EQ(ToneRoute("128"), Route::kSoundWinmmRND);
+  EXPECT_EQ(ToneRoute("256"), Route::kSoundWinmmRND);
+  EXPECT_EQ(RouteOf(ToneKind::kSlider, base::SoundMode::kWinmm), Route::kSoundWinmmRND);
+  EXPECT_EQ(ToneRoute(""), Route::kNone);
+  EXPECT_EQ(ToneRoute(" 16"), Route::kNone);
+  EXPECT_EQ(SweepRoute("16"), Route::kLowToHigh);
+  EXPECT_EQ(SweepRoute("32"), Route::kLowToHigh);
+  EXPECT_EQ(SweepRoute("128"), Route::kSoundWinmmLTH);
+  EXPECT_EQ(SweepRoute("256"), Route::kSoundWinmmLTH);
 }
 
 }  // namespace

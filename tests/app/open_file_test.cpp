@@ -58,7 +58,7 @@ TEST_F(OpenFileTest, TheSelectedModeIsSelectedAgainInEveryCase) {
     form1.Option3.Click();
     form1.openfile.Click();
     form1.openfile.Click();
-    EXPECT_EQ(form1.SelectedMode(), 3);
+    EXPECT_EQ(form1.SelectedMode(), ToneMode(3));
     EXPECT_TRUE(form1.Command2.Enabled());
   });
   Run();
@@ -69,7 +69,7 @@ TEST_F(OpenFileTest, TheSelectedModeIsSelectedAgainInEveryCase) {
 TEST_F(OpenFileTest, WithoutASelectedModeNoneIsSelected) {
   At(1s, [](Form1& form1) { form1.openfile.Click(); });
   Run();
-  EXPECT_EQ(main().SelectedMode(), 0);
+  EXPECT_EQ(main().SelectedMode(), ToneMode(0));
   EXPECT_EQ(EntriesAfterStart(), Lines{});
 }
 

@@ -79,7 +79,7 @@ TEST_F(ShutdownTest, TheFirstCloseAsksNothing) {
 TEST_F(ShutdownTest, TerminateStopsEverythingAndUnloadsEveryWindow) {
   Run();
   sim.journal.Clear();
-  base::MainState state;
+  settings::MainState state;
   EXPECT_TRUE(RunTerminate(state));
   EXPECT_EQ(state.stop_flag, 1);
   EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess}), (Lines{"Form1 hidden", "end"}));

@@ -54,7 +54,7 @@ TEST_F(StartTest, AfterTheStartNothingPlaysAndNoModeIsSelected) {
   EXPECT_TRUE(main().Visible());
   EXPECT_FALSE(main().Command3.Enabled());
   EXPECT_TRUE(main().Command2.Enabled());
-  EXPECT_EQ(main().SelectedMode(), 0);
+  EXPECT_EQ(main().SelectedMode(), ToneMode(0));
   EXPECT_EQ(main().Label1.Caption(), "<< Select a mode >>");
   EXPECT_TRUE(Messages().empty());
 }

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/simulated/simulation.h"
+#include "settings/error_notes.h"
 #include "settings/form6.h"
 
 namespace display {
@@ -62,7 +63,7 @@ class RecordTest : public testing::Test {
   platform::simulated::Simulation sim;
   NoScene scene{sim.windows};
   NoUpload upload;
-  base::MainState state;
+  settings::MainState state;
   settings::ErrorNotes errors{sim.services, state, scene, upload};
   ui::Window owner{sim.windows, {"Owner", "", 10, 10}};
   std::optional<frmDX_Record> record;

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string>
 
+#include "display/pictures.h"
 #include "display/sine_preview.h"
 #include "display/waveform.h"
 

@@ -1,4 +1,4 @@
-#include "display/sine_preview.h"
+#include "display/pictures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "display/waveform.h"
+#include "display/pictures.h"
 
 #include <gtest/gtest.h>
 

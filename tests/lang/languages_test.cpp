@@ -133,7 +133,7 @@ TEST_F(LanguagesTest, TheDutchMenuTranslatesWhatIsShownAndKeepsTheSetting) {
     form1.dutch.Click();
     EXPECT_EQ(form1.Option3.Caption(), "text 6");
     EXPECT_EQ(form1.Label1.Caption(), "text 62");
-    EXPECT_EQ(form1.SelectedMode(), 3);
+    EXPECT_EQ(form1.SelectedMode(), ToneMode(3));
     EXPECT_EQ(sim.Lines(kSettings)[2], "Language=NL");
   });
   Run();

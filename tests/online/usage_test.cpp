@@ -94,7 +94,7 @@ TEST_F(UsageTest, TerminateHandsTheLogOverOnlyWithConsent) {
     Run();
     sim.journal.Clear();
     sim.files.Delete(kHandOver);
-    base::MainState state;
+    settings::MainState state;
     state.SendData = flag;
     EXPECT_TRUE(RunTerminate(state));
     EXPECT_EQ(sim.files.Exists(kHandOver), flag == 1);

@@ -157,7 +157,7 @@ TEST_F(BadFileTest, MoreTextThanCanBeKeptIsIllegal) {
 TEST_F(BadFileTest, AFileThatIsGoneBeforeTheLoadIsIllegal) {
   Run();
   player().SetFilePath(kFile);
-  player().SetSoundMode("256");
+  player().SetSoundMode(base::SoundMode::kWinmm);
   EXPECT_TRUE(sim.Run([this] { player().Load(); }));
   EXPECT_EQ(Messages(), (Lines{kIllegal}));
   EXPECT_EQ(TonesPlayed(), 0u);

@@ -108,7 +108,7 @@ TEST_F(WholePlayTest, AnUnknownSoundModeOnlyWaits) {
   sim.files.Put(kFile, FileOf(ProgramWith(kTwo)));
   Run();
   player().SetFilePath(kFile);
-  player().SetSoundMode("8");
+  player().SetSoundMode(base::SoundMode::kNone);
   EXPECT_FALSE(sim.Run([this] { player().Load(); }));
   EXPECT_EQ(Journal(), Join({kBegin,
                              kFirst,
@@ -316,7 +316,7 @@ TEST_F(PlayerTest, LoadingUnloadsTheNewsWindow) {
   sim.At(1s, [this] {
     program->form3.Show();
     player().SetFilePath("C:\\a.tnf");
-    player().SetSoundMode("256");
+    player().SetSoundMode(base::SoundMode::kWinmm);
     player().Show();
   });
   sim.At(1500ms, [&, this] { loaded_later = program->form3.Loaded(); });

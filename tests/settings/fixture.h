@@ -29,17 +29,15 @@ class NotingDisplay : public SettingsDisplay {
  public:
   Lines calls;
 
-  void ShowAutoUpdate(bool on) override {
-    calls.push_back(on ? "auto update on" : "auto update off");
+  void ShowChecked(const Setting& setting, bool on) override {
+    const std::string name = setting.line == 1 ? "auto update" : "microphone";
+    calls.push_back(name + (on ? " on" : " off"));
   }
   void ShowLanguage(const std::string& language) override {
     calls.push_back("language " + language);
   }
   void LoadCaptions(const std::string& language) override {
     calls.push_back("captions " + language);
-  }
-  void ShowMicrophone(bool on) override {
-    calls.push_back(on ? "microphone on" : "microphone off");
   }
   void ShowMicrophoneLevel(std::int16_t level) override {
     calls.push_back("level " + std::to_string(level));
@@ -95,7 +93,7 @@ class SettingsFixture : public testing::Test {
   }
 
   platform::simulated::Simulation sim;
-  base::MainState state;
+  settings::MainState state;
   NotingDisplay display;
   int unloads = 0;
   int visits = 0;
@@ -105,7 +103,7 @@ class SettingsFixture : public testing::Test {
   ErrorNotes errors{sim.services, state, scene, upload};
   ActivityLog log{sim.services, errors};
   CountingUpload usage;
-  SettingsFile file{sim.services, state, display, usage, log, errors};
+  SettingsFile file{sim.services, state, display, usage, log, errors, lang::ShippedLanguages()};
 };
 
 }  // namespace settings

@@ -6,6 +6,7 @@ namespace settings {
 namespace {
 
 using base::ErrorCode;
+using base::ErrorValue;
 using base::RuntimeError;
 using platform::simulated::Kind;
 using platform::simulated::Operation;
@@ -82,7 +83,7 @@ class ErrorNotesTest : public SettingsFixture {};
 
 TEST_F(ErrorNotesTest, TheErrorLogHasItsFourLines) {
   LeaveTheErrorDialogAt(100ms);
-  errors.ErrorNote(103, RuntimeError(ErrorCode::kSubscriptOutOfRange));
+  errors.ErrorNote(ErrorValue::kCheckSettings, RuntimeError(ErrorCode::kSubscriptOutOfRange));
   EXPECT_EQ(sim.files.Get(kErrorPath),
             "Error number:  9,   Error value:  103\r\n<Subscript out of range>\r\n"
             "Resolution: 1920 x 1080,   DPI: 96\r\nTime: 14:30, Date: 20-11-2026\r\n");
@@ -102,13 +103,13 @@ TEST_F(ErrorNotesTest, TheDialogShowsTheLinesInPlaceOfTheOtherWindows) {
     EXPECT_EQ(scene.hidden, 1);
     dialog.Command1.Click();
   });
-  errors.ErrorNote(4, RuntimeError(ErrorCode::kOverflow));
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
   EXPECT_EQ(unloads, 1);
 }
 
 TEST_F(ErrorNotesTest, ClosingTheDialogByItsFrameIsExit) {
   sim.At(100ms, [this] { dialog.Close(); });
-  errors.ErrorNote(4, RuntimeError(ErrorCode::kOverflow));
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
   EXPECT_EQ(dialog.done_flag, 1);
   EXPECT_EQ(unloads, 1);
 }
@@ -116,15 +117,15 @@ TEST_F(ErrorNotesTest, ClosingTheDialogByItsFrameIsExit) {
 TEST_F(ErrorNotesTest, WaitsInTicksOf50Ms) {
   sim.pump.journal_waits = true;
   sim.At(120ms, [this] { dialog.Command1.Click(); });
-  errors.ErrorNote(4, RuntimeError(ErrorCode::kOverflow));
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
   EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines(4, "sleep 50")));
 }
 
 TEST_F(ErrorNotesTest, OfTwoErrorsInARowTheLogHoldsOnlyTheSecond) {
   LeaveTheErrorDialogAt(100ms);
-  errors.ErrorNote(103, RuntimeError(ErrorCode::kTypeMismatch));
+  errors.ErrorNote(ErrorValue::kCheckSettings, RuntimeError(ErrorCode::kTypeMismatch));
   LeaveTheErrorDialogAt(500ms);
-  errors.ErrorNote(4, RuntimeError(ErrorCode::kFileNotFound));
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kFileNotFound));
   const Lines lines = sim.Lines(kErrorPath);
   ASSERT_EQ(lines.size(), 4u);
   EXPECT_EQ(lines[0], "Error number:  53,   Error value:  4");
@@ -133,21 +134,23 @@ TEST_F(ErrorNotesTest, OfTwoErrorsInARowTheLogHoldsOnlyTheSecond) {
 TEST_F(ErrorNotesTest, NothingIsUploadedWithoutConsent) {
   state.SendData = 0;
   LeaveTheErrorDialogAt(100ms);
-  errors.ErrorNote(4, RuntimeError(ErrorCode::kOverflow));
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
   EXPECT_FALSE(sim.files.Exists("C:\\Temp\\snd.ini"));
   EXPECT_TRUE(sim.journal.Texts({Kind::kProcess}).empty());
 }
 
 TEST_F(ErrorNotesTest, AnErrorLogThatCannotBeWrittenIsAnErrorOfTheCaller) {
   sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
-  EXPECT_THROW(errors.ErrorNote(4, RuntimeError(ErrorCode::kOverflow)), RuntimeError);
+  EXPECT_THROW(errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow)),
+               RuntimeError);
   EXPECT_FALSE(dialog.Visible());
 }
 
 TEST_F(ErrorNotesTest, AnUploadNumberBeyond16BitsIsAnErrorOfTheCaller) {
   sim.random.next = 0.999;
   sim.clock.now = {2026, 12, 31, 23, 59, 59};
-  EXPECT_THROW(errors.ErrorNote(4, RuntimeError(ErrorCode::kOverflow)), RuntimeError);
+  EXPECT_THROW(errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow)),
+               RuntimeError);
   EXPECT_FALSE(sim.files.Exists(kErrorPath));
 }
 

@@ -1,7 +1,7 @@
 #include "settings/settings_file.h"
 
 #include "base/numbers.h"
-#include "settings/entries.h"
+#include "settings/settings.h"
 #include "tests/settings/fixture.h"
 
 namespace settings {
@@ -16,7 +16,7 @@ TEST_F(SettingsTest, AGoodFileIsAppliedAndEchoedToTheLog) {
   Put(kGood);
   file.CheckSettings();
   EXPECT_EQ(state.AutoUpdate, 1);
-  EXPECT_EQ(state.SoundBit, "128");
+  EXPECT_EQ(base::FactsOf(state.SoundBit).code, "128");
   EXPECT_EQ(state.language, "en");
   EXPECT_EQ(state.SendData, 0);
   EXPECT_EQ(state.Microphone, 1);
@@ -33,7 +33,7 @@ TEST_F(SettingsTest, KeysAndValuesAreMatchedIgnoringCase) {
   file.CheckSettings();
   EXPECT_EQ(display.calls,
             (Lines{"auto update on", "language nl", "captions nl", "microphone off", "level 20"}));
-  EXPECT_EQ(state.SoundBit, "64");
+  EXPECT_EQ(base::FactsOf(state.SoundBit).code, "64");
   EXPECT_EQ(state.SendData, 1);
   EXPECT_EQ(state.MicrophoneON, 0);
 }
@@ -125,7 +125,7 @@ TEST_F(SettingsTest, TheAutoUpdateStateIsAppliedBeforeABadThirdLineIsFound) {
   file.CheckSettings();
   EXPECT_EQ(display.calls, (Lines{"auto update on", "first run shown", "main window hidden"}));
   EXPECT_EQ(state.AutoUpdate, 1);
-  EXPECT_EQ(state.SoundBit, "");
+  EXPECT_EQ(base::FactsOf(state.SoundBit).code, "");
 }
 
 TEST_F(SettingsTest, AFileOfNineEntriesIsAcceptedButTheNextWriteEndsTheProgram) {
@@ -249,6 +249,18 @@ TEST_F(SettingsTest, TheNewContentIsOnTheDiskBeforeItReplacesTheOld) {
   EXPECT_EQ(sim.files.Get(kPath), kGood);
 }
 
+// What a line of the file says of a setting; nothing when it is none of it.
+template <class Value>
+std::optional<Value> Read(const Setting& setting, Value Settings::*value, std::string_view entry) {
+  Settings read;
+  if (!ReadEntry(setting, entry, lang::ShippedLanguages(), read)) return std::nullopt;
+  return read.*value;
+}
+
+std::optional<std::int16_t> MicrophoneLevel(std::string_view entry) {
+  return Read(kMicrophone, &Settings::Microphone, entry);
+}
+
 TEST(SettingsEntries, TheMicrophoneLevelIsTheWholePartOfANumberFrom1To20) {
   const std::vector<std::pair<std::string, std::int16_t>> good{
       {"Microphone=1", 1},     {"Microphone=20", 20}, {"Microphone= 7", 7},
@@ -263,15 +275,15 @@ TEST(SettingsEntries, TheMicrophoneLevelIsTheWholePartOfANumberFrom1To20) {
 }
 
 TEST(SettingsEntries, OtherEntriesMustMatchWhole) {
-  EXPECT_EQ(YesNo("AutoUpdate=y", "autoupdate"), true);
-  EXPECT_EQ(YesNo("autoUPDATE=N", "autoupdate"), false);
-  EXPECT_EQ(YesNo("AutoUpdate=yes", "autoupdate"), std::nullopt);
-  EXPECT_EQ(YesNo("AutoUpdate = y", "autoupdate"), std::nullopt);
-  EXPECT_EQ(YesNo("SendData=y", "autoupdate"), std::nullopt);
-  EXPECT_EQ(SoundBitCode("Soundbit=256"), "256");
-  EXPECT_EQ(SoundBitCode("Soundbit=2560"), std::nullopt);
-  EXPECT_EQ(LanguageCode("LANGUAGE=Nl"), "nl");
-  EXPECT_EQ(LanguageCode("Language=NLD"), std::nullopt);
+  EXPECT_EQ(Read(kAutoUpdate, &Settings::AutoUpdate, "AutoUpdate=y"), 1);
+  EXPECT_EQ(Read(kAutoUpdate, &Settings::AutoUpdate, "autoUPDATE=N"), 0);
+  EXPECT_EQ(Read(kAutoUpdate, &Settings::AutoUpdate, "AutoUpdate=yes"), std::nullopt);
+  EXPECT_EQ(Read(kAutoUpdate, &Settings::AutoUpdate, "AutoUpdate = y"), std::nullopt);
+  EXPECT_EQ(Read(kAutoUpdate, &Settings::AutoUpdate, "SendData=y"), std::nullopt);
+  EXPECT_EQ(Read(kSoundBit, &Settings::SoundBit, "Soundbit=256"), base::SoundMode::kWinmm);
+  EXPECT_EQ(Read(kSoundBit, &Settings::SoundBit, "Soundbit=2560"), std::nullopt);
+  EXPECT_EQ(Read(kLanguage, &Settings::language, "LANGUAGE=Nl"), "nl");
+  EXPECT_EQ(Read(kLanguage, &Settings::language, "Language=NLD"), std::nullopt);
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ class RoutesFixture : public testing::Test {
   Lines Journal(std::initializer_list<Kind> kinds) const { return sim.journal.Texts(kinds); }
 
   platform::simulated::Simulation sim;
-  base::MainState state;
+  settings::MainState state;
   NotingPlayScene scene{sim.journal};
   RouteSupport support{sim.services, state, scene};
   WinmmRoutes winmm{support};

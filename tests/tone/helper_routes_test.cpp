@@ -71,7 +71,7 @@ TEST_F(HelpersTest, HidingTheMainWindowEndsTheTone) {
 TEST_F(HelpersTest, TheSweepOf32ShowsItsPitchAndRestartsTheHelperAtTheTop) {
   sim.At(1ms, [this] { EXPECT_EQ(sim.files.Get(kHandOver), "1\r\n"); });
   StopAt(std::chrono::milliseconds(200 * 161));
-  helpers.LowToHigh("32");
+  helpers.LowToHigh(base::SoundMode::kSound32);
   const Lines all = Journal({Kind::kControl, Kind::kProcess});
   EXPECT_EQ(Lines(all.begin(), all.begin() + 4),
             (Lines{"Actual pitch (Hertz): ", "start hidden tone32.dll", "Actual pitch (Hertz): 200",
@@ -88,7 +88,7 @@ TEST_F(HelpersTest, TheSweepOf32ShowsItsPitchAndRestartsTheHelperAtTheTop) {
 
 TEST_F(HelpersTest, TheSweepOf16ShowsOnlyTheCaptionAndRestartsWithoutEndingItsHelper) {
   StopAt(std::chrono::milliseconds(200 * 160));
-  helpers.LowToHigh("16");
+  helpers.LowToHigh(base::SoundMode::kClassic);
   const Lines all = Journal({Kind::kControl, Kind::kProcess});
   EXPECT_EQ(Lines(all.begin(), all.begin() + 3),
             (Lines{"Actual pitch (Hertz): ", "start hidden cmd /c play16.exe",
@@ -103,7 +103,7 @@ TEST_F(HelpersTest, TheSweepOf16ShowsOnlyTheCaptionAndRestartsWithoutEndingItsHe
 TEST_F(HelpersTest, AMissingHelperLeavesTheSweepsDisplayRunningUntilStop) {
   sim.processes.missing_commands = {"tone32.dll"};
   StopAt(900ms);
-  helpers.LowToHigh("32");
+  helpers.LowToHigh(base::SoundMode::kSound32);
   EXPECT_EQ(sim.pump.now_ms(), 900);
   EXPECT_EQ(
       Journal({Kind::kControl}),
@@ -115,7 +115,7 @@ TEST_F(HelpersTest, AMissingHelperLeavesTheSweepsDisplayRunningUntilStop) {
 TEST_F(HelpersTest, AHelperThatIsNotFoundAtTheResetIsRestartedAllTheSame) {
   sim.At(1000ms, [this] { sim.processes.running.clear(); });
   StopAt(std::chrono::milliseconds(200 * 161));
-  helpers.LowToHigh("32");
+  helpers.LowToHigh(base::SoundMode::kSound32);
   const Lines processes = Journal({Kind::kProcess});
   EXPECT_EQ(processes,
             (Lines{"start hidden tone32.dll", "start hidden tone32.dll", "terminate tone32.dll"}));
@@ -124,7 +124,7 @@ TEST_F(HelpersTest, AHelperThatIsNotFoundAtTheResetIsRestartedAllTheSame) {
 TEST_F(HelpersTest, TheSweepOf32InDutchShowsTheLoadedCaptionAndThePitch) {
   support.setLang("nl");
   StopAt(0ms);
-  helpers.LowToHigh("32");
+  helpers.LowToHigh(base::SoundMode::kSound32);
   EXPECT_EQ(Journal({Kind::kControl}),
             (Lines{"Huidige toonhoogte (Hertz): ", "Huidige toonhoogte (Hertz): 200",
                    "Huidige toonhoogte (Hertz): "}));

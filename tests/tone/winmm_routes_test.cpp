@@ -97,7 +97,7 @@ class ShortTonesTest : public RoutesFixture {};
 TEST_F(ShortTonesTest, TheHelperModesUseTheSystemsBeep) {
   for (const char* code : {"16", "32"}) {
     sim.journal.Clear();
-    state.SoundBit = code;
+    state.SoundBit = base::SoundModeOf(code);
     short_tones.sound(700, 100);
     EXPECT_EQ(Journal({Kind::kSound}), (Lines{"beep 700 100"})) << code;
   }
@@ -107,7 +107,7 @@ TEST_F(ShortTonesTest, AutomaticSoundsExactlyAsWinmm) {
   Lines journals[2];
   for (int i = 0; i < 2; ++i) {
     sim.journal.Clear();
-    state.SoundBit = i == 0 ? "128" : "256";
+    state.SoundBit = base::SoundModeOf(i == 0 ? "128" : "256");
     short_tones.sound(700, 100);
     journals[i] = Journal({Kind::kFile, Kind::kSound});
   }
@@ -118,7 +118,7 @@ TEST_F(ShortTonesTest, AutomaticSoundsExactlyAsWinmm) {
 }
 
 TEST_F(ShortTonesTest, DirectSoundIsSilentAndReturnsAtOnce) {
-  state.SoundBit = "64";
+  state.SoundBit = base::SoundMode::kDirectSound;
   short_tones.sound(700, 100);
   EXPECT_TRUE(Journal({Kind::kSound, Kind::kFile}).empty());
   EXPECT_EQ(sim.pump.now_ms(), 0);
