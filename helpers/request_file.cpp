@@ -5,7 +5,7 @@
 
 #include "helpers/environment.h"
 #include "helpers/request.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace helpers {
 

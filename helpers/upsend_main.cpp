@@ -11,7 +11,7 @@
 #include "helpers/upload.h"
 #include "helpers/web_put.h"
 #include "online/addresses.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace {
 
