@@ -1,7 +1,6 @@
 #include "helpers/request_file.h"
 
 #include <array>
-#include <string_view>
 
 #include "helpers/environment.h"
 #include "helpers/request.h"

@@ -2,7 +2,6 @@
 // after kTimeLimitMs at the latest. Shows nothing, whatever happens; the exit code is kSent only if
 // the server has taken the log.
 #include <array>
-#include <optional>
 #include <string_view>
 
 #include "helpers/destination.h"
