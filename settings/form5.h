@@ -25,19 +25,29 @@ class Form5 : public ui::Window {
   Form5(platform::Platform& platform, base::MainState& state, ErrorNotes& errors,
         std::function<void()> unload_all);
 
-  ui::Label Label7{*this, "Label7", {16, 17, 72, 18}, std::string(kEnglishAgreement.language)};
-  ui::ComboBox Combo1{*this, "Combo1", {92, 14, 160, 24}};
-  ui::Label Label1{
-      *this, "Label1", {16, 52, 568, 50}, kEnglishAgreement.Sentence(kEnglishAgreement.upload)};
-  ui::Label Label4{
-      *this, "Label4", {16, 114, 568, 34}, kEnglishAgreement.Sentence(kEnglishAgreement.hearing)};
-  ui::Label Label6{
-      *this, "Label6", {16, 160, 568, 18}, kEnglishAgreement.Sentence(kEnglishAgreement.copyright)};
-  ui::CheckBox Check1{*this, "Check1", {16, 194, 568, 22}, std::string(kEnglishAgreement.refusal)};
+  ui::Label Label7{*this, 100, "Label7", {16, 17, 72, 18}, std::string(kEnglishAgreement.language)};
+  ui::ComboBox Combo1{*this, 101, "Combo1", {92, 14, 160, 24}};
+  ui::Label Label1{*this,
+                   102,
+                   "Label1",
+                   {16, 52, 568, 50},
+                   kEnglishAgreement.Sentence(kEnglishAgreement.upload)};
+  ui::Label Label4{*this,
+                   103,
+                   "Label4",
+                   {16, 114, 568, 34},
+                   kEnglishAgreement.Sentence(kEnglishAgreement.hearing)};
+  ui::Label Label6{*this,
+                   104,
+                   "Label6",
+                   {16, 160, 568, 18},
+                   kEnglishAgreement.Sentence(kEnglishAgreement.copyright)};
+  ui::CheckBox Check1{
+      *this, 105, "Check1", {16, 194, 568, 22}, std::string(kEnglishAgreement.refusal)};
   ui::Button Command1{
-      *this, "Command1", {318, 232, 128, 32}, std::string(kEnglishAgreement.accept)};
+      *this, 106, "Command1", {318, 232, 128, 32}, std::string(kEnglishAgreement.accept)};
   ui::Button Command2{
-      *this, "Command2", {456, 232, 128, 32}, std::string(kEnglishAgreement.decline)};
+      *this, 107, "Command2", {456, 232, 128, 32}, std::string(kEnglishAgreement.decline)};
 
   // As declining.
   void Close() override;

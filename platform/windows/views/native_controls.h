@@ -14,12 +14,6 @@
 
 namespace platform::windows {
 
-// The id of the control at `index` of ui::Window::Controls(). Other programs (screen readers'
-// scripts, test drivers) may rely on it.
-constexpr int ControlId(std::size_t index) {
-  return 100 + static_cast<int>(index);
-}
-
 class NativeControls {
  public:
   NativeControls(const ui::Window& window, const Appearance& appearance);
@@ -37,6 +31,9 @@ class NativeControls {
   // The control that is this window, or the web browser that holds it.
   std::optional<std::size_t> IndexOf(HWND handle) const;
   std::optional<std::size_t> IndexOf(const ui::Control* control) const;
+
+  // The control with this id, when it is made.
+  std::optional<std::size_t> IndexOfId(UINT id) const;
 
   // Whether the keyboard focus may be there, and whether the tab key stops there.
   bool CanHaveFocus(std::size_t index) const;
@@ -64,10 +61,7 @@ class NativeControls {
   std::wstring Text(std::size_t index) const;
   std::string LabelBefore(std::size_t index) const;
   void ShowCaption(std::size_t index);
-  void ShowValue(std::size_t index);
-  void ShowItems(std::size_t index);
   void ShowVisible(std::size_t index);
-  void UpdateTabStops();
 
   const ui::Window& window_;
   const Appearance& appearance_;

@@ -36,7 +36,7 @@ HMENU NativeMenu::Fill(HMENU menu, const std::vector<ui::MenuItem*>& items,
     const ui::MenuItem& item = *items[i];
     const Entry entry{items[i], menu, static_cast<UINT>(i)};
     MENUITEMINFOW info = EmptyInfo(MIIM_ID | MIIM_FTYPE | MIIM_STRING | MIIM_SUBMENU);
-    info.wID = MenuId(entries_.size());
+    info.wID = static_cast<UINT>(item.Id());
     entries_.push_back(entry);
     if (item.IsSeparator()) {
       info.fMask = MIIM_ID | MIIM_FTYPE;
@@ -55,8 +55,10 @@ HMENU NativeMenu::Fill(HMENU menu, const std::vector<ui::MenuItem*>& items,
 }
 
 ui::MenuItem* NativeMenu::Find(UINT id) const {
-  if (id < MenuId(0) || id >= MenuId(entries_.size())) return nullptr;
-  return entries_[id - MenuId(0)].item;
+  const auto found = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+    return static_cast<UINT>(entry.item->Id()) == id;
+  });
+  return found == entries_.end() ? nullptr : found->item;
 }
 
 std::vector<std::string> NativeMenu::BarCaptions() const {

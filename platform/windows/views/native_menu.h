@@ -9,13 +9,6 @@
 
 namespace platform::windows {
 
-// The command id of the item that is the `number`th of the window's menu, counted from 0 in the
-// order of the menu bar, each item before the items of its submenu; heads of submenus and
-// separators count. Other programs (test drivers) may rely on it.
-constexpr UINT MenuId(std::size_t number) {
-  return 1000 + static_cast<UINT>(number);
-}
-
 class NativeMenu {
  public:
   explicit NativeMenu(const ui::Window& window);
@@ -25,7 +18,7 @@ class NativeMenu {
   // Null when the window has no menu. The window that it is given to owns it.
   HMENU handle() const { return bar_; }
 
-  // The item of a command id, or null.
+  // The item with this id, or null.
   ui::MenuItem* Find(UINT id) const;
 
   // Captions of the menu bar, and how they are marked with access keys.

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "platform/windows/api/wide_text.h"
-#include "platform/windows/views/combo_box_view.h"
-#include "platform/windows/views/scroll_bar_view.h"
 #include "ui/access_keys.h"
 
 namespace platform::windows {
@@ -24,12 +22,9 @@ FrameStyle FrameStyleOf(const ui::Window::Design& design) {
   return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | sizing, 0};
 }
 
-// What the user did, posted to the window itself.
-enum Event : UINT {
-  kClickEvent = WM_APP,  // wparam: index of the control
-  kScrollEvent,          // wparam: index and scroll code, lparam: position
-  kMenuEvent,            // wparam: id of the item
-  kChoiceEvent,          // wparam: index of the drop-down list
+// What the user did beside ControlEvents, posted to the window itself.
+enum WindowEvent : UINT {
+  kMenuEvent = kControlEventsEnd,  // wparam: id of the item
   kHelpEvent,
   kCloseEvent,
 };
@@ -45,13 +40,6 @@ HICON ProgramIcon(HINSTANCE instance, int width_metric, int height_metric) {
   return static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(kIconResource), IMAGE_ICON,
                                        GetSystemMetrics(width_metric),
                                        GetSystemMetrics(height_metric), LR_SHARED));
-}
-
-std::string TextOf(HWND handle) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle)) + 1, L'\0');
-  const int length = GetWindowTextW(handle, text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
-  return Narrow(text);
 }
 
 bool MovesChoice(const MSG& message) {
@@ -149,13 +137,15 @@ void NativeWindow::ShowAccessKeys() {
 bool NativeWindow::TranslateKey(const OpenWindows& open, MSG& message) {
   const HWND root = GetAncestor(message.hwnd, GA_ROOT);
   if (open.Find(root) == nullptr) return false;
-  if (message.message == WM_CHAR && !open.Find(root)->AcceptsKey(message)) return true;
+  if (message.message == WM_CHAR && !open.Find(root)->events_.AcceptsKey(message)) return true;
   if (open.Find(root)->controls_.TranslateKey(message)) return true;
   const HWND focus = GetFocus();
   const bool moves_choice = MovesChoice(message);
   if (!IsDialogMessageW(root, &message)) return false;
   NativeWindow* const window = open.Find(root);
-  if (window != nullptr && moves_choice && GetFocus() != focus) window->ChooseFocused();
+  if (window != nullptr && moves_choice && GetFocus() != focus) {
+    window->events_.PostClickOfFocused(root);
+  }
   return true;
 }
 
@@ -165,7 +155,7 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
       OnCommand(LOWORD(wparam), HIWORD(wparam));
       return 0;
     case WM_HSCROLL:
-      OnScroll(reinterpret_cast<HWND>(lparam), LOWORD(wparam), HIWORD(wparam));
+      events_.OnScroll(handle_, reinterpret_cast<HWND>(lparam), LOWORD(wparam), HIWORD(wparam));
       return 0;
     case WM_HELP:
       PostMessageW(handle_, kHelpEvent, 0, 0);
@@ -174,16 +164,16 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
       PostMessageW(handle_, kCloseEvent, 0, 0);
       return 0;
     case kClickEvent:
-      RunClick(wparam);
+      events_.RunClick(wparam);
       return 0;
     case kScrollEvent:
-      RunScroll(LOWORD(wparam), HIWORD(wparam), static_cast<std::int32_t>(lparam));
+      events_.RunScroll(LOWORD(wparam), HIWORD(wparam), static_cast<std::int32_t>(lparam));
       return 0;
     case kMenuEvent:
       RunMenu(static_cast<UINT>(wparam));
       return 0;
     case kChoiceEvent:
-      RunChoice(wparam);
+      events_.RunChoice(wparam);
       return 0;
     case kHelpEvent:
       window_.Handle([this] { window_.HelpRequested(); });
@@ -214,8 +204,8 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 LRESULT NativeWindow::DefaultButtonId() const {
-  const auto index = controls_.IndexOf(window_.DefaultButton());
-  return index ? MAKELRESULT(ControlId(*index), DC_HASDEFID) : 0;
+  const ui::Button* const button = window_.DefaultButton();
+  return button != nullptr ? MAKELRESULT(button->Id(), DC_HASDEFID) : 0;
 }
 
 void NativeWindow::OnCommand(UINT id, UINT code) {
@@ -223,87 +213,14 @@ void NativeWindow::OnCommand(UINT id, UINT code) {
     PostMessageW(handle_, kMenuEvent, id, 0);
   } else if (id == IDCANCEL) {
     const auto cancel = controls_.IndexOf(window_.CancelButton());
-    if (cancel) PostClick(*cancel);
-  } else if (code == EN_CHANGE) {
-    TakeText(id);
-  } else if (TellsComboChoice(code) && IsComboBox(id - static_cast<UINT>(ControlId(0)))) {
-    PostMessageW(handle_, kChoiceEvent, id - static_cast<UINT>(ControlId(0)), 0);
-  } else if (code == BN_CLICKED && id >= static_cast<UINT>(ControlId(0))) {
-    const std::size_t index = id - static_cast<UINT>(ControlId(0));
-    if (index < controls_.Count() && !controls_.TakingFocus(index)) PostClick(index);
-  }
-}
-
-void NativeWindow::OnScroll(HWND scroll_bar, WORD code, WORD position) {
-  const auto index = controls_.IndexOf(scroll_bar);
-  if (!index || controls_.control(*index).kind() != ui::ControlKind::kScrollBar) return;
-  PostMessageW(handle_, kScrollEvent, MAKEWPARAM(*index, code),
-               ThumbPosition(scroll_bar, position));
-}
-
-void NativeWindow::PostClick(std::size_t index) {
-  // An access key both moves the focus to an option button and clicks it: that is one choice.
-  const bool option = controls_.control(index).kind() == ui::ControlKind::kOptionButton;
-  if (option && pending_choice_ == index) return;
-  if (option) pending_choice_ = index;
-  PostMessageW(handle_, kClickEvent, index, 0);
-}
-
-// A text box says so whenever its text changed, while it is being made, too.
-void NativeWindow::TakeText(UINT id) {
-  const std::size_t index = id - static_cast<UINT>(ControlId(0));
-  if (index >= controls_.Count()) return;
-  ui::Control& control = controls_.control(index);
-  if (control.kind() != ui::ControlKind::kTextBox) return;
-  static_cast<ui::TextBox&>(control).Edit(TextOf(controls_.handle(index)));
-}
-
-bool NativeWindow::IsComboBox(std::size_t index) const {
-  return index < controls_.Count() && controls_.control(index).kind() == ui::ControlKind::kComboBox;
-}
-
-bool NativeWindow::AcceptsKey(const MSG& message) {
-  const auto index = controls_.IndexOf(message.hwnd);
-  if (!index || controls_.control(*index).kind() != ui::ControlKind::kTextBox) return true;
-  auto& text_box = static_cast<ui::TextBox&>(controls_.control(*index));
-  return text_box.KeyPress(static_cast<char32_t>(message.wParam));
-}
-
-void NativeWindow::ChooseFocused() {
-  const auto index = controls_.IndexOf(GetFocus());
-  if (index && controls_.control(*index).kind() == ui::ControlKind::kOptionButton) {
-    PostClick(*index);
-  }
-}
-
-void NativeWindow::RunClick(std::size_t index) {
-  if (index >= controls_.Count()) return;
-  if (pending_choice_ == index) pending_choice_.reset();
-  ui::Control& control = controls_.control(index);
-  if (control.kind() == ui::ControlKind::kButton) {
-    static_cast<ui::Button&>(control).Click();
-  } else if (control.kind() == ui::ControlKind::kOptionButton) {
-    static_cast<ui::OptionButton&>(control).Click();
-  } else if (control.kind() == ui::ControlKind::kCheckBox) {
-    static_cast<ui::CheckBox&>(control).Click();
+    if (cancel) events_.PostClick(handle_, *cancel);
+  } else {
+    events_.OnCommand(handle_, id, code);
   }
 }
 
 void NativeWindow::RunMenu(UINT id) {
   if (ui::MenuItem* const item = menu_.Find(id)) item->Click();
-}
-
-void NativeWindow::RunChoice(std::size_t index) {
-  if (!IsComboBox(index)) return;
-  auto& combo_box = static_cast<ui::ComboBox&>(controls_.control(index));
-  combo_box.Choose(ComboChoice(controls_.handle(index)));
-}
-
-void NativeWindow::RunScroll(std::size_t index, WORD code, std::int32_t position) {
-  if (index >= controls_.Count()) return;
-  ui::Control& control = controls_.control(index);
-  if (control.kind() != ui::ControlKind::kScrollBar) return;
-  Scroll(static_cast<ui::ScrollBar&>(control), code, position);
 }
 
 }  // namespace platform::windows

@@ -1,5 +1,5 @@
 // The native counterpart of a loaded ui::Window: a top-level window of class "TonmiraWindow" with
-// real controls and a real menu (ids: ControlId, MenuId).
+// real controls and a real menu, which have the ids of their ui:: objects.
 //
 // What the user does is posted to the window itself as an event of its own and handled when the
 // message pump comes to it, so a handler never runs inside a control's or a menu's own code: it may
@@ -7,6 +7,7 @@
 // input that follows them, so the order of what the user does is kept.
 #pragma once
 
+#include "platform/windows/views/control_events.h"
 #include "platform/windows/views/focus_keeper.h"
 #include "platform/windows/views/native_controls.h"
 #include "platform/windows/views/native_menu.h"
@@ -49,25 +50,15 @@ class NativeWindow final : public ui::WindowView {
   LRESULT DefaultButtonId() const;
 
   void OnCommand(UINT id, UINT code);
-  void OnScroll(HWND scroll_bar, WORD code, WORD position);
-  void TakeText(UINT id);
-  bool IsComboBox(std::size_t index) const;
-  bool AcceptsKey(const MSG& message);
-  void PostClick(std::size_t index);
-  void ChooseFocused();
-
-  void RunClick(std::size_t index);
   void RunMenu(UINT id);
-  void RunChoice(std::size_t index);
-  void RunScroll(std::size_t index, WORD code, std::int32_t position);
 
   ui::Window& window_;
   OpenWindows& open_;
   NativeMenu menu_;
   NativeControls controls_;
+  ControlEvents events_{controls_};
   FocusKeeper focus_{window_, controls_};
   HWND handle_ = nullptr;
-  std::optional<std::size_t> pending_choice_;  // an option button whose click is posted
 };
 
 }  // namespace platform::windows

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "platform/windows/views/appearance.h"
-#include "platform/windows/views/native_controls.h"
 #include "ui/window.h"
 
 namespace platform::windows {
@@ -31,11 +30,10 @@ std::vector<std::uint32_t> ScreenPixels(const ui::Canvas& canvas) {
 
 void LeaveOutLines(HWND handle, HDC context, const ui::PictureBox& picture) {
   const HWND parent = GetParent(handle);
-  const auto& controls = picture.Owner().Controls();
-  for (std::size_t i = 0; i < controls.size(); ++i) {
-    if (controls[i]->kind() != ui::ControlKind::kLine || !controls[i]->Visible()) continue;
+  for (const ui::Control* control : picture.Owner().Controls()) {
+    if (control->kind() != ui::ControlKind::kLine || !control->Visible()) continue;
     RECT line{};
-    GetWindowRect(GetDlgItem(parent, ControlId(i)), &line);
+    GetWindowRect(GetDlgItem(parent, control->Id()), &line);
     MapWindowPoints(nullptr, handle, reinterpret_cast<POINT*>(&line), 2);
     ExcludeClipRect(context, line.left, line.top, line.right, line.bottom);
   }
