@@ -1,8 +1,8 @@
 // A window's menu: named items with captions, check marks and submenus.
 //
 // An item's id is how other programs know it; heads of submenus and separators have one, too. It
-// never changes: a new item, wherever it stands, takes the number after the greatest that an item of
-// its window has or had, from 1000 to 1999.
+// never changes: a new item, wherever it stands, takes the number after the greatest that an item
+// of its window has or had, from 1000 to 1999.
 #pragma once
 
 #include <functional>
