@@ -22,17 +22,20 @@ class frmAbout : public ui::Window {
   frmAbout(platform::Platform& platform, base::ErrorReporter& errors,
            std::function<void()> load_captions);
 
-  ui::PictureBox picIcon{*this, "picIcon", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};
-  ui::Label lblTitle{*this, "lblTitle", {96, 16, 308, 24}, "Tonmira", ui::Label::Style::kHeading};
-  ui::Label lblVersion{*this, "lblVersion", {96, 46, 308, 18}, "1.3 Development build"};
+  ui::PictureBox picIcon{
+      *this, 100, "picIcon", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};
+  ui::Label lblTitle{
+      *this, 101, "lblTitle", {96, 16, 308, 24}, "Tonmira", ui::Label::Style::kHeading};
+  ui::Label lblVersion{*this, 102, "lblVersion", {96, 46, 308, 18}, "1.3 Development build"};
   ui::Label lblDescription{*this,
+                           103,
                            "lblDescription",
                            {96, 74, 308, 52},
                            "Create the most annoying sounds with Tonmira! Any problems? Mail to: "
                            "support@tonmira.example"};
-  ui::LineControl Line1{*this, "Line1", {16, 138, 388, 1}};
-  ui::Button cmdOK{*this, "cmdOK", {284, 152, 120, 30}, "OK"};
-  ui::Button cmdSysInfo{*this, "cmdSysInfo", {152, 152, 120, 30}, "&System Info..."};
+  ui::LineControl Line1{*this, 104, "Line1", {16, 138, 388, 1}};
+  ui::Button cmdOK{*this, 105, "cmdOK", {284, 152, 120, 30}, "OK"};
+  ui::Button cmdSysInfo{*this, 106, "cmdSysInfo", {152, 152, 120, 30}, "&System Info..."};
 
   // The captions of this window, by slot of a language file.
   std::vector<lang::CaptionSlot> Captions() { return {{lang::Slot::kSystemInfo, &cmdSysInfo}}; }

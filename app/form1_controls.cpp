@@ -7,8 +7,8 @@ namespace app {
 std::vector<std::unique_ptr<ui::MenuItem>> Form1Controls::LanguageItems() {
   std::vector<std::unique_ptr<ui::MenuItem>> items;
   for (const lang::Language& row : languages_) {
-    items.push_back(std::make_unique<ui::MenuItem>(language, std::string(row.menu_name),
-                                                   std::string(row.menu_caption)));
+    items.push_back(std::make_unique<ui::MenuItem>(
+        language, row.menu_id, std::string(row.menu_name), std::string(row.menu_caption)));
   }
   return items;
 }

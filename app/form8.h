@@ -11,11 +11,11 @@ class Form8 : public ui::Window {
       : ui::Window(system, {"Form8", "Starting Tonmira", 340, 112, false}) {}
 
   ui::PictureBox Picture1{
-      *this, "Picture1", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};
-  ui::Label Label1{*this, "Label1", {96, 16, 228, 24}, "Tonmira", ui::Label::Style::kHeading};
-  ui::Label Label2{*this, "Label2", {96, 46, 228, 18}, "Starting..."};
-  ui::Label Label3{*this, "Label3", {96, 66, 228, 18}, "Tones from 4 Hz to 32000 Hz"};
-  ui::Label Label4{*this, "Label4", {96, 86, 228, 18}, "Version 2.3.6"};
+      *this, 100, "Picture1", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};
+  ui::Label Label1{*this, 101, "Label1", {96, 16, 228, 24}, "Tonmira", ui::Label::Style::kHeading};
+  ui::Label Label2{*this, 102, "Label2", {96, 46, 228, 18}, "Starting..."};
+  ui::Label Label3{*this, 103, "Label3", {96, 66, 228, 18}, "Tones from 4 Hz to 32000 Hz"};
+  ui::Label Label4{*this, 104, "Label4", {96, 86, 228, 18}, "Version 2.3.6"};
 };
 
 }  // namespace app

@@ -12,7 +12,6 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "platform/platform.h"
 #include "base/error_trap.h"

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "helpers/wide_text.h"
-#include "platform/windows/handles.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/handles.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace helpers {
 

@@ -2,7 +2,7 @@
 
 #include "helpers/environment.h"
 #include "helpers/upload.h"
-#include "platform/windows/handles.h"
+#include "platform/windows/api/handles.h"
 
 namespace helpers {
 namespace {

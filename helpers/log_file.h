@@ -5,7 +5,7 @@
 #include <span>
 
 #include "helpers/wide_text.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace helpers {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 #include <objbase.h>
 

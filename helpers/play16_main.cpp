@@ -2,7 +2,7 @@
 // not 0 if the hand-over file asks for nothing or tone16.dll could not be started.
 #include "helpers/program_paths.h"
 #include "helpers/request_file.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace {
 

@@ -1,11 +1,10 @@
 #include "helpers/request_file.h"
 
 #include <array>
-#include <string_view>
 
 #include "helpers/environment.h"
 #include "helpers/request.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace helpers {
 

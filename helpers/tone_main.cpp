@@ -6,7 +6,7 @@
 #include "helpers/environment.h"
 #include "helpers/request_file.h"
 #include "helpers/tone_player.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "helpers/request_watch.h"
 #include "helpers/tone_stream.h"
 #include "helpers/wave_device.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace helpers {
 

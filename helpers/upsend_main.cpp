@@ -2,7 +2,6 @@
 // after kTimeLimitMs at the latest. Shows nothing, whatever happens; the exit code is kSent only if
 // the server has taken the log.
 #include <array>
-#include <optional>
 #include <string_view>
 
 #include "helpers/destination.h"
@@ -11,7 +10,7 @@
 #include "helpers/upload.h"
 #include "helpers/web_put.h"
 #include "online/addresses.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/windows_api.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 
 #include "helpers/rates.h"
 #include "helpers/tone_stream.h"
-#include "platform/windows/handles.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/handles.h"
+#include "platform/windows/api/windows_api.h"
 
 #include <mmsystem.h>
 

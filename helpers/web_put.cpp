@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "platform/windows/handles.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/api/handles.h"
+#include "platform/windows/api/windows_api.h"
 
 #include <wininet.h>
 

@@ -25,18 +25,18 @@ class Form4 : public ui::Window {
   Form4(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
         std::function<void()> load_captions);
 
-  ui::Label Label3{*this, "Label3", {16, 14, 448, 18}, "Text:"};
-  ui::TextBox Text1{*this, "Text1", {16, 34, 448, 112}, "", ui::TextBox::Lines::kMany};
+  ui::Label Label3{*this, 100, "Label3", {16, 14, 448, 18}, "Text:"};
+  ui::TextBox Text1{*this, 101, "Text1", {16, 34, 448, 112}, "", ui::TextBox::Lines::kMany};
   ui::Label Label1{
-      *this, "Label1", {16, 160, 350, 18}, "Speed (normal + this (ms)) (higher is slower):"};
-  ui::TextBox Text2{*this, "Text2", {374, 156, 90, 24}, "0"};
-  ui::Label Label2{*this, "Label2", {16, 192, 350, 18}, "Pitch (Hertz):"};
-  ui::TextBox Text3{*this, "Text3", {374, 188, 90, 24}, "700"};
-  ui::LineControl Line1{*this, "Line1", {16, 224, 448, 1}};
-  ui::CheckBox Check1{*this, "Check1", {16, 234, 448, 22}, "Hide input"};
-  ui::LineControl Line2{*this, "Line2", {16, 266, 448, 1}};
-  ui::Button Command1{*this, "Command1", {16, 278, 218, 34}, "Play sound"};
-  ui::Button Command2{*this, "Command2", {246, 278, 218, 34}, "Stop sound"};
+      *this, 102, "Label1", {16, 160, 350, 18}, "Speed (normal + this (ms)) (higher is slower):"};
+  ui::TextBox Text2{*this, 103, "Text2", {374, 156, 90, 24}, "0"};
+  ui::Label Label2{*this, 104, "Label2", {16, 192, 350, 18}, "Pitch (Hertz):"};
+  ui::TextBox Text3{*this, 105, "Text3", {374, 188, 90, 24}, "700"};
+  ui::LineControl Line1{*this, 106, "Line1", {16, 224, 448, 1}};
+  ui::CheckBox Check1{*this, 107, "Check1", {16, 234, 448, 22}, "Hide input"};
+  ui::LineControl Line2{*this, 108, "Line2", {16, 266, 448, 1}};
+  ui::Button Command1{*this, 109, "Command1", {16, 278, 218, 34}, "Play sound"};
+  ui::Button Command2{*this, 110, "Command2", {246, 278, 218, 34}, "Stop sound"};
 
   std::int16_t stop_flag = 0;  // 1 = stop requested, and after loading
 

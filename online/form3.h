@@ -18,7 +18,7 @@ class Form3 : public ui::Window {
   Form3(platform::Platform& platform, const settings::MainState& state, base::ErrorReporter& errors,
         lang::Languages languages, ui::Window& status_window);
 
-  ui::WebBrowser WebBrowser1{*this, "WebBrowser1", {0, 0, 800, 560}};
+  ui::WebBrowser WebBrowser1{*this, 100, "WebBrowser1", {0, 0, 800, 560}};
 
   // Shows the window and sends its browser to `address`.
   void ShowPage(const std::string& address);

@@ -17,12 +17,13 @@ class Form7 : public ui::Window {
   std::string download_link;  // set before the dialog is shown
 
   ui::Label Label1{*this,
+                   100,
                    "Label1",
                    {16, 14, 468, 40},
                    "An update is found! Would you like to download the update?"};
-  ui::ListBox List1{*this, "List1", {16, 60, 468, 80}};
-  ui::Button Command1{*this, "Command1", {168, 154, 152, 30}, "Update"};
-  ui::Button Command2{*this, "Command2", {332, 154, 152, 30}, "Don't update"};
+  ui::ListBox List1{*this, 101, "List1", {16, 60, 468, 80}};
+  ui::Button Command1{*this, 102, "Command1", {168, 154, 152, 30}, "Update"};
+  ui::Button Command2{*this, 103, "Command2", {332, 154, 152, 30}, "Don't update"};
 
  private:
   void Command1_Click();

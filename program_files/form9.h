@@ -40,18 +40,18 @@ class Form9 : public ui::Window {
   void SetFilePath(std::string path) { file_path_ = std::move(path); }
   void SetSoundMode(base::SoundMode mode) { sound_mode_ = mode; }
 
-  ui::Label Label3{*this, "Label3", {16, 16, 70, 18}, "Playing:"};
-  ui::Label Label4{*this, "Label4", {90, 16, 374, 18}, "", ui::Label::Style::kPath};
-  ui::Label Label1{*this, "Label1", {16, 48, 40, 18}, "0"};
-  ui::ProgressBar ProgressBar1{*this, "ProgressBar1", {60, 48, 360, 18}};
-  ui::Label Label2{*this, "Label2", {428, 48, 40, 18}, ""};
-  ui::Label Label5{*this, "Label5", {16, 80, 70, 18}, "Pitch:"};
-  ui::Label Label6{*this, "Label6", {90, 80, 90, 18}, ""};
-  ui::Label Label7{*this, "Label7", {240, 80, 110, 18}, "Time (ms):"};
-  ui::Label Label8{*this, "Label8", {354, 80, 90, 18}, ""};
-  ui::Button Command1{*this, "Command1", {16, 112, 142, 32}, "(Re)play"};
-  ui::Button Command2{*this, "Command2", {169, 112, 142, 32}, "Stop"};
-  ui::Button Command3{*this, "Command3", {322, 112, 142, 32}, "Exit"};
+  ui::Label Label3{*this, 100, "Label3", {16, 16, 70, 18}, "Playing:"};
+  ui::Label Label4{*this, 101, "Label4", {90, 16, 374, 18}, "", ui::Label::Style::kPath};
+  ui::Label Label1{*this, 102, "Label1", {16, 48, 40, 18}, "0"};
+  ui::ProgressBar ProgressBar1{*this, 103, "ProgressBar1", {60, 48, 360, 18}};
+  ui::Label Label2{*this, 104, "Label2", {428, 48, 40, 18}, ""};
+  ui::Label Label5{*this, 105, "Label5", {16, 80, 70, 18}, "Pitch:"};
+  ui::Label Label6{*this, 106, "Label6", {90, 80, 90, 18}, ""};
+  ui::Label Label7{*this, 107, "Label7", {240, 80, 110, 18}, "Time (ms):"};
+  ui::Label Label8{*this, 108, "Label8", {354, 80, 90, 18}, ""};
+  ui::Button Command1{*this, 109, "Command1", {16, 112, 142, 32}, "(Re)play"};
+  ui::Button Command2{*this, 110, "Command2", {169, 112, 142, 32}, "Stop"};
+  ui::Button Command3{*this, 111, "Command3", {322, 112, 142, 32}, "Exit"};
 
   const ToneProgram& Tones() const { return program_; }
 

@@ -28,14 +28,14 @@ class Form5 : public ui::Window {
   Form5(platform::Platform& platform, MainState& state, base::ErrorReporter& errors,
         lang::Languages languages, std::function<void()> unload_all);
 
-  ui::Label Label7{*this, "Label7", {16, 17, 72, 18}, std::string(design_.language)};
-  ui::ComboBox Combo1{*this, "Combo1", {92, 14, 160, 24}};
-  ui::Label Label1{*this, "Label1", {16, 52, 568, 50}, design_.Sentence(design_.upload)};
-  ui::Label Label4{*this, "Label4", {16, 114, 568, 34}, design_.Sentence(design_.hearing)};
-  ui::Label Label6{*this, "Label6", {16, 160, 568, 18}, design_.Sentence(design_.copyright)};
-  ui::CheckBox Check1{*this, "Check1", {16, 194, 568, 22}, std::string(design_.refusal)};
-  ui::Button Command1{*this, "Command1", {318, 232, 128, 32}, std::string(design_.accept)};
-  ui::Button Command2{*this, "Command2", {456, 232, 128, 32}, std::string(design_.decline)};
+  ui::Label Label7{*this, 100, "Label7", {16, 17, 72, 18}, std::string(design_.language)};
+  ui::ComboBox Combo1{*this, 101, "Combo1", {92, 14, 160, 24}};
+  ui::Label Label1{*this, 102, "Label1", {16, 52, 568, 50}, design_.Sentence(design_.upload)};
+  ui::Label Label4{*this, 103, "Label4", {16, 114, 568, 34}, design_.Sentence(design_.hearing)};
+  ui::Label Label6{*this, 104, "Label6", {16, 160, 568, 18}, design_.Sentence(design_.copyright)};
+  ui::CheckBox Check1{*this, 105, "Check1", {16, 194, 568, 22}, std::string(design_.refusal)};
+  ui::Button Command1{*this, 106, "Command1", {318, 232, 128, 32}, std::string(design_.accept)};
+  ui::Button Command2{*this, 107, "Command2", {456, 232, 128, 32}, std::string(design_.decline)};
 
   // As declining.
   void Close() override;

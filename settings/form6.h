@@ -22,12 +22,13 @@ class Form6 : public ui::Window {
 
   ui::Label Label1{
       *this,
+      100,
       "Label1",
       {16, 14, 468, 40},
       "Something went wrong and Tonmira must restart.... Sorry for the inconvenience!"};
-  ui::ListBox List1{*this, "List1", {16, 60, 468, 96}};
-  ui::Button Command1{*this, "Command1", {374, 170, 110, 30}, "Exit"};
-  ui::Button Command2{*this, "Command2", {16, 170, 140, 30}, "Visit our site"};
+  ui::ListBox List1{*this, 101, "List1", {16, 60, 468, 96}};
+  ui::Button Command1{*this, 102, "Command1", {374, 170, 110, 30}, "Exit"};
+  ui::Button Command2{*this, 103, "Command2", {16, 170, 140, 30}, "Visit our site"};
 
   // Shows the dialog with the lines of the error log.
   void Present(const std::vector<std::string>& lines);

@@ -20,16 +20,26 @@ SUBSYSTEMS = {
 }
 APP = SERVICES | set(SUBSYSTEMS)
 SIMULATION = {"platform/simulated"}
+WINDOWS_ROOMS = {
+    "api": set(),
+    "system": {"api"},
+    "web": {"api", "system"},
+    "views": {"api", "web"},
+    "sound": {"api", "views"},
+}
+NATIVE = {f"platform/windows/{room}" for room in WINDOWS_ROOMS}
 ALLOWED = {
     "base": set(),
     "ui": {"base"},
     "platform": {"base", "ui"},
-    "platform/windows": SERVICES,
+    **{f"platform/windows/{room}": SERVICES | {f"platform/windows/{other}" for other in below}
+       for room, below in WINDOWS_ROOMS.items()},
+    "platform/windows": SERVICES | NATIVE,
     "platform/simulated": SERVICES,
     **{room: SERVICES | below for room, below in SUBSYSTEMS.items()},
     "app": APP,
     "main.cpp": APP | {"app", "platform/windows"},
-    "helpers": {"base", "tone", "platform/windows"},
+    "helpers": {"base", "tone", "platform/windows/api"},
     "tests": APP | {"app", "helpers"} | SIMULATION,
     "tests/fuzz": {"base", "platform", "program_files", "tests"},
     "tests/real": set(),
@@ -40,7 +50,7 @@ ALLOWED = {
 SHARED_HEADERS = {"helpers": {"online/addresses.h"}}
 
 # Where the Windows API may be used.
-WINDOWS = {"platform/windows", "main.cpp", "helpers", "tests/real"}
+WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tests/real"}
 
 # Beside the C++ standard library's headers.
 FURTHER_HEADERS = {

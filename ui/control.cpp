@@ -6,9 +6,10 @@
 
 namespace ui {
 
-Control::Control(Window& window, ControlKind kind, std::string name, Rect bounds,
+Control::Control(Window& window, int id, ControlKind kind, std::string name, Rect bounds,
                  std::string caption)
     : window_(window),
+      id_(id),
       kind_(kind),
       name_(std::move(name)),
       bounds_(bounds),

@@ -2,6 +2,11 @@
 //
 // Properties set from code never come back as a user's event. Positions are pixels at 96 DPI,
 // relative to the window's client area; the native view scales them.
+//
+// A control's id is how other programs (screen readers' scripts, test drivers) know it, so it never
+// changes and is never given to another control. A new control, wherever it stands in the tab
+// order, takes the number after the greatest that a control of its window has or had: 100 to 999
+// are for controls, 1000 and above for menu items (menu.h). tests/app/ids_test.cpp checks both.
 #pragma once
 
 #include <functional>
@@ -38,11 +43,13 @@ enum class ControlKind {
 class Control {
  public:
   // Controls of a window stand in its tab order in the order in which they are made.
-  Control(Window& window, ControlKind kind, std::string name, Rect bounds, std::string caption);
+  Control(Window& window, int id, ControlKind kind, std::string name, Rect bounds,
+          std::string caption);
   virtual ~Control() = default;
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
+  int Id() const { return id_; }
   ControlKind kind() const { return kind_; }
   const std::string& Name() const { return name_; }
   const Rect& Bounds() const { return bounds_; }
@@ -75,6 +82,7 @@ class Control {
 
  private:
   Window& window_;
+  int id_;
   ControlKind kind_;
   std::string name_;
   Rect bounds_;

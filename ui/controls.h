@@ -18,9 +18,9 @@ class Label : public Control {
     kPath,  // one line; a path that is too long is shortened in its middle
   };
 
-  Label(Window& window, std::string name, Rect bounds, std::string caption,
+  Label(Window& window, int id, std::string name, Rect bounds, std::string caption,
         Style style = Style::kNormal)
-      : Control(window, ControlKind::kLabel, std::move(name), bounds, std::move(caption)),
+      : Control(window, id, ControlKind::kLabel, std::move(name), bounds, std::move(caption)),
         style_(style) {}
 
   Style style() const { return style_; }
@@ -31,14 +31,14 @@ class Label : public Control {
 
 class Frame : public Control {
  public:
-  Frame(Window& window, std::string name, Rect bounds, std::string caption)
-      : Control(window, ControlKind::kFrame, std::move(name), bounds, std::move(caption)) {}
+  Frame(Window& window, int id, std::string name, Rect bounds, std::string caption)
+      : Control(window, id, ControlKind::kFrame, std::move(name), bounds, std::move(caption)) {}
 };
 
 class Button : public Control {
  public:
-  Button(Window& window, std::string name, Rect bounds, std::string caption)
-      : Control(window, ControlKind::kButton, std::move(name), bounds, std::move(caption)) {}
+  Button(Window& window, int id, std::string name, Rect bounds, std::string caption)
+      : Control(window, id, ControlKind::kButton, std::move(name), bounds, std::move(caption)) {}
 
   std::function<void()> OnClick;
 
@@ -48,8 +48,9 @@ class Button : public Control {
 
 class OptionButton : public Control {
  public:
-  OptionButton(Window& window, std::string name, Rect bounds, std::string caption)
-      : Control(window, ControlKind::kOptionButton, std::move(name), bounds, std::move(caption)) {}
+  OptionButton(Window& window, int id, std::string name, Rect bounds, std::string caption)
+      : Control(window, id, ControlKind::kOptionButton, std::move(name), bounds,
+                std::move(caption)) {}
 
   bool Value() const { return value_; }
   void SetValue(bool value);
@@ -74,8 +75,8 @@ class ScrollBar : public Control {
     std::int32_t initial = 0;
   };
 
-  ScrollBar(Window& window, std::string name, Rect bounds, Range range)
-      : Control(window, ControlKind::kScrollBar, std::move(name), bounds, ""),
+  ScrollBar(Window& window, int id, std::string name, Rect bounds, Range range)
+      : Control(window, id, ControlKind::kScrollBar, std::move(name), bounds, ""),
         range_(range),
         value_(range.initial) {}
 
@@ -101,8 +102,9 @@ class PictureBox : public Control {
  public:
   enum class Content { kCanvas, kProgramIcon };
 
-  PictureBox(Window& window, std::string name, Rect bounds, Content content = Content::kCanvas)
-      : Control(window, ControlKind::kPictureBox, std::move(name), bounds, ""),
+  PictureBox(Window& window, int id, std::string name, Rect bounds,
+             Content content = Content::kCanvas)
+      : Control(window, id, ControlKind::kPictureBox, std::move(name), bounds, ""),
         content_(content),
         canvas_(bounds.width, bounds.height) {}
 
@@ -126,14 +128,14 @@ class PictureBox : public Control {
 
 class LineControl : public Control {
  public:
-  LineControl(Window& window, std::string name, Rect bounds)
-      : Control(window, ControlKind::kLine, std::move(name), bounds, "") {}
+  LineControl(Window& window, int id, std::string name, Rect bounds)
+      : Control(window, id, ControlKind::kLine, std::move(name), bounds, "") {}
 };
 
 class ListBox : public Control {
  public:
-  ListBox(Window& window, std::string name, Rect bounds)
-      : Control(window, ControlKind::kListBox, std::move(name), bounds, "") {}
+  ListBox(Window& window, int id, std::string name, Rect bounds)
+      : Control(window, id, ControlKind::kListBox, std::move(name), bounds, "") {}
 
   const std::vector<std::string>& Items() const { return items_; }
   void SetItems(const std::vector<std::string>& items);
@@ -148,9 +150,9 @@ class TextBox : public Control {
  public:
   enum class Lines { kOne, kMany };
 
-  TextBox(Window& window, std::string name, Rect bounds, std::string text,
+  TextBox(Window& window, int id, std::string name, Rect bounds, std::string text,
           Lines lines = Lines::kOne)
-      : Control(window, ControlKind::kTextBox, std::move(name), bounds, std::move(text)),
+      : Control(window, id, ControlKind::kTextBox, std::move(name), bounds, std::move(text)),
         lines_(lines) {}
 
   Lines lines() const { return lines_; }
@@ -170,8 +172,8 @@ class TextBox : public Control {
 
 class CheckBox : public Control {
  public:
-  CheckBox(Window& window, std::string name, Rect bounds, std::string caption)
-      : Control(window, ControlKind::kCheckBox, std::move(name), bounds, std::move(caption)) {}
+  CheckBox(Window& window, int id, std::string name, Rect bounds, std::string caption)
+      : Control(window, id, ControlKind::kCheckBox, std::move(name), bounds, std::move(caption)) {}
 
   bool Value() const { return value_; }
   void SetValue(bool value);
@@ -191,8 +193,8 @@ class ComboBox : public Control {
  public:
   static constexpr int kNone = -1;
 
-  ComboBox(Window& window, std::string name, Rect bounds)
-      : Control(window, ControlKind::kComboBox, std::move(name), bounds, "") {}
+  ComboBox(Window& window, int id, std::string name, Rect bounds)
+      : Control(window, id, ControlKind::kComboBox, std::move(name), bounds, "") {}
 
   const std::vector<std::string>& Items() const { return items_; }
   void SetItems(const std::vector<std::string>& items);  // none of them is chosen then
@@ -218,8 +220,8 @@ class ComboBox : public Control {
 // A web browser; it shows nothing until it is sent to an address.
 class WebBrowser : public Control {
  public:
-  WebBrowser(Window& window, std::string name, Rect bounds)
-      : Control(window, ControlKind::kWebBrowser, std::move(name), bounds, "") {}
+  WebBrowser(Window& window, int id, std::string name, Rect bounds)
+      : Control(window, id, ControlKind::kWebBrowser, std::move(name), bounds, "") {}
 
   // Whether it keeps script errors and other messages of its own to itself.
   bool Silent() const { return silent_; }
@@ -241,8 +243,8 @@ class WebBrowser : public Control {
 // A status bar; its caption is the text of its first panel.
 class StatusBar : public Control {
  public:
-  StatusBar(Window& window, std::string name, std::string caption)
-      : Control(window, ControlKind::kStatusBar, std::move(name), Rect{}, std::move(caption)) {}
+  StatusBar(Window& window, int id, std::string name, std::string caption)
+      : Control(window, id, ControlKind::kStatusBar, std::move(name), Rect{}, std::move(caption)) {}
 };
 
 }  // namespace ui

@@ -6,17 +6,19 @@
 
 namespace ui {
 
-MenuItem::MenuItem(Window& window, std::string name, std::string caption)
+MenuItem::MenuItem(Window& window, int id, std::string name, std::string caption)
     : window_(window),
+      id_(id),
       name_(std::move(name)),
       design_caption_(std::move(caption)),
       caption_(design_caption_) {
   window.Add(*this);
 }
 
-MenuItem::MenuItem(MenuItem& parent, std::string name, std::string caption)
+MenuItem::MenuItem(MenuItem& parent, int id, std::string name, std::string caption)
     : window_(parent.window_),
       parent_(&parent),
+      id_(id),
       name_(std::move(name)),
       design_caption_(std::move(caption)),
       caption_(design_caption_) {

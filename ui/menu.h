@@ -1,4 +1,8 @@
 // A window's menu: named items with captions, check marks and submenus.
+//
+// An item's id is how other programs know it; heads of submenus and separators have one, too. It
+// never changes: a new item, wherever it stands, takes the number after the greatest that an item
+// of its window has or had, from 1000 to 1999.
 #pragma once
 
 #include <functional>
@@ -12,14 +16,15 @@ namespace ui {
 class MenuItem {
  public:
   // An item of the window's menu bar.
-  MenuItem(Window& window, std::string name, std::string caption);
+  MenuItem(Window& window, int id, std::string name, std::string caption);
 
   // An item of the submenu of `parent`. An item named "-" is a separator.
-  MenuItem(MenuItem& parent, std::string name, std::string caption);
+  MenuItem(MenuItem& parent, int id, std::string name, std::string caption);
 
   MenuItem(const MenuItem&) = delete;
   MenuItem& operator=(const MenuItem&) = delete;
 
+  int Id() const { return id_; }
   const std::string& Name() const { return name_; }
   Window& Owner() const { return window_; }
   const std::vector<MenuItem*>& Items() const { return items_; }
@@ -48,6 +53,7 @@ class MenuItem {
 
   Window& window_;
   MenuItem* parent_ = nullptr;
+  int id_;
   std::string name_;
   std::string design_caption_;
   std::string caption_;

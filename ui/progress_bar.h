@@ -10,8 +10,8 @@ namespace ui {
 
 class ProgressBar : public Control {
  public:
-  ProgressBar(Window& window, std::string name, Rect bounds)
-      : Control(window, ControlKind::kProgressBar, std::move(name), bounds, "") {}
+  ProgressBar(Window& window, int id, std::string name, Rect bounds)
+      : Control(window, id, ControlKind::kProgressBar, std::move(name), bounds, "") {}
 
   std::int32_t Minimum() const { return minimum_; }
   std::int32_t Maximum() const { return maximum_; }

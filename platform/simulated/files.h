@@ -5,7 +5,6 @@
 // operation from now.
 #pragma once
 
-#include <cstddef>
 #include <map>
 #include <memory>
 #include <optional>

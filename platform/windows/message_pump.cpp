@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/windows/native_window.h"
+#include "platform/windows/views/native_window.h"
 
 namespace platform::windows {
 namespace {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/system.h"
-#include "platform/windows/multimedia.h"
-#include "platform/windows/open_windows.h"
+#include "platform/windows/sound/multimedia.h"
+#include "platform/windows/views/open_windows.h"
 
 namespace platform::windows {
 

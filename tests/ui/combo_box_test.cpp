@@ -23,7 +23,7 @@ class ComboBoxTest : public testing::Test {
 
   platform::simulated::Simulation sim;
   Window window{sim.services.windows, {"Window", "", 100, 100}};
-  ComboBox box{window, "Combo1", {0, 0, 80, 24}};
+  ComboBox box{window, 100, "Combo1", {0, 0, 80, 24}};
   int clicks = 0;
 };
 

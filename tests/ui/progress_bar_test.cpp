@@ -12,7 +12,7 @@ class BarWindow : public Window {
  public:
   explicit BarWindow(WindowSystem& system) : Window(system, {"Bar", "", 100, 100}) {}
 
-  ProgressBar bar{*this, "ProgressBar1", {0, 0, 100, 10}};
+  ProgressBar bar{*this, 100, "ProgressBar1", {0, 0, 100, 10}};
 };
 
 class ProgressBarTest : public testing::Test {

@@ -1,0 +1,16 @@
+// The system's description of a PCM format, and the check of DirectSound's results.
+#pragma once
+
+#include "platform/direct_sound.h"
+#include "platform/windows/api/windows_api.h"
+
+#include <mmsystem.h>
+
+namespace platform::windows {
+
+WAVEFORMATEX NativeFormat(const WaveFormat& format);
+
+// Throws base::RuntimeError kDeviceError for a failure.
+void CheckDevice(HRESULT result);
+
+}  // namespace platform::windows

@@ -1,0 +1,16 @@
+// What a native control shows beside its caption: a value, a choice, items.
+#pragma once
+
+#include "platform/windows/views/appearance.h"
+#include "ui/control.h"
+
+namespace platform::windows {
+
+// The value of an option button, check box, scroll bar or progress bar, the choice of a drop-down
+// list. Nothing for other controls.
+void ShowValue(HWND handle, const ui::Control& control);
+
+// The items of a list or drop-down list. Nothing for other controls.
+void ShowItems(HWND handle, const ui::Control& control, const Appearance& appearance);
+
+}  // namespace platform::windows

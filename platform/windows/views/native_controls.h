@@ -1,0 +1,75 @@
+// The child windows of one native window: real controls of the system, one for each ui::Control.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/windows/views/appearance.h"
+#include "platform/windows/views/option_button_view.h"
+#include "platform/windows/views/path_tip.h"
+#include "platform/windows/web/web_browser_view.h"
+#include "ui/window.h"
+
+namespace platform::windows {
+
+class NativeControls {
+ public:
+  NativeControls(const ui::Window& window, const Appearance& appearance);
+  ~NativeControls();
+  NativeControls(const NativeControls&) = delete;
+  NativeControls& operator=(const NativeControls&) = delete;
+
+  // Makes all of them. The parent destroys them.
+  void Create(HWND parent);
+
+  std::size_t Count() const { return handles_.size(); }
+  HWND handle(std::size_t index) const { return handles_[index]; }
+  ui::Control& control(std::size_t index) const { return *window_.Controls()[index]; }
+
+  // The control that is this window, or the web browser that holds it.
+  std::optional<std::size_t> IndexOf(HWND handle) const;
+  std::optional<std::size_t> IndexOf(const ui::Control* control) const;
+
+  // The control with this id, when it is made.
+  std::optional<std::size_t> IndexOfId(UINT id) const;
+
+  // Whether the keyboard focus may be there, and whether the tab key stops there.
+  bool CanHaveFocus(std::size_t index) const;
+  bool IsTabStop(std::size_t index) const;
+
+  // Whether a click that the control reports now comes of its getting the focus.
+  bool TakingFocus(std::size_t index) const;
+
+  // Captions of the controls that have access keys, and how they are marked, in tab order. The
+  // marked ones may be given before the controls are made.
+  std::vector<std::string> KeyCaptions() const;
+  void SetMarkedCaptions(const std::vector<std::string>& marked);
+
+  void Changed(const ui::Control& control, ui::Property property);
+
+  // The parent has a new size.
+  void Fit(int width, int height);
+
+  // Offers a keyboard message to the web browser that holds the focus; true when that was all.
+  bool TranslateKey(MSG& message);
+
+ private:
+  WebBrowserView* BrowserAt(std::size_t index) const;
+  HWND CreateOne(HWND parent, std::size_t index);
+  std::wstring Text(std::size_t index) const;
+  std::string LabelBefore(std::size_t index) const;
+  void ShowCaption(std::size_t index);
+  void ShowVisible(std::size_t index);
+
+  const ui::Window& window_;
+  const Appearance& appearance_;
+  std::vector<HWND> handles_;
+  std::vector<std::unique_ptr<OptionButtonView>> option_views_;
+  std::vector<std::unique_ptr<PathTip>> path_tips_;
+  std::vector<std::unique_ptr<WebBrowserView>> browser_views_;
+  std::vector<std::string> marked_captions_;  // by index; empty for controls without access keys
+};
+
+}  // namespace platform::windows

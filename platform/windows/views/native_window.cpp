@@ -1,0 +1,226 @@
+#include "platform/windows/views/native_window.h"
+
+#include <algorithm>
+
+#include "platform/windows/api/wide_text.h"
+#include "ui/access_keys.h"
+
+namespace platform::windows {
+namespace {
+
+constexpr wchar_t kWindowClass[] = L"TonmiraWindow";
+
+struct FrameStyle {
+  DWORD style;
+  DWORD extended_style;
+};
+
+// A window that is only to be looked at has nothing to move it, close it or switch to it.
+FrameStyle FrameStyleOf(const ui::Window::Design& design) {
+  if (!design.takes_focus) return {WS_POPUP | WS_DLGFRAME, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE};
+  const DWORD sizing = design.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0;
+  return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | sizing, 0};
+}
+
+// What the user did beside ControlEvents, posted to the window itself.
+enum WindowEvent : UINT {
+  kMenuEvent = kControlEventsEnd,  // wparam: id of the item
+  kHelpEvent,
+  kCloseEvent,
+};
+
+// Nothing that a handler throws may cross the system's frames that called this: it ends here.
+LRESULT CALLBACK WindowProcedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  auto* const window = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  if (window == nullptr) return DefWindowProcW(handle, message, wparam, lparam);
+  return window->Dispatch(message, wparam, lparam);
+}
+
+HICON ProgramIcon(HINSTANCE instance, int width_metric, int height_metric) {
+  return static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(kIconResource), IMAGE_ICON,
+                                       GetSystemMetrics(width_metric),
+                                       GetSystemMetrics(height_metric), LR_SHARED));
+}
+
+bool MovesChoice(const MSG& message) {
+  return message.message == WM_SYSCHAR || message.message == WM_CHAR ||
+         (message.message == WM_KEYDOWN && message.wParam >= VK_LEFT && message.wParam <= VK_DOWN);
+}
+
+}  // namespace
+
+void RegisterWindowClass(HINSTANCE instance) {
+  WNDCLASSEXW window_class{};
+  window_class.cbSize = sizeof(window_class);
+  window_class.lpfnWndProc = WindowProcedure;
+  window_class.hInstance = instance;
+  window_class.hIcon = ProgramIcon(instance, SM_CXICON, SM_CYICON);
+  window_class.hIconSm = ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON);
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
+  window_class.lpszClassName = kWindowClass;
+  RegisterClassExW(&window_class);
+}
+
+NativeWindow::NativeWindow(ui::Window& window, const Appearance& appearance, OpenWindows& open)
+    : window_(window), open_(open), menu_(window), controls_(window, appearance) {
+  ShowAccessKeys();
+  CreateFrame(appearance);
+  controls_.Create(handle_);
+  // Access keys and the focus are shown from the start only to users of the keyboard.
+  SendMessageW(handle_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  open_.Add(*this);
+}
+
+NativeWindow::~NativeWindow() {
+  open_.Remove(*this);
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+  open_.Leave(handle_);
+}
+
+void NativeWindow::CreateFrame(const Appearance& appearance) {
+  const ui::Window::Design& design = window_.design();
+  const RECT client = appearance.Scale({0, 0, design.width, design.height});
+  RECT outer = client;
+  const FrameStyle frame = FrameStyleOf(design);
+  AdjustWindowRectEx(&outer, frame.style, menu_.handle() != nullptr, frame.extended_style);
+  RECT work{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  const int width = outer.right - outer.left;
+  const int height = outer.bottom - outer.top;
+  const int left = std::max<int>(work.left, (work.left + work.right - width) / 2);
+  // What is only to be looked at stands above the middle, where dialogs that come meanwhile open.
+  const int middle = (work.top + work.bottom - height) / 2;
+  const int top = std::max<int>(work.top, TakesFocus() ? middle : middle / 3);
+  handle_ = CreateWindowExW(frame.extended_style, kWindowClass, Widen(window_.Caption()).c_str(),
+                            frame.style, left, top, width, height, nullptr, menu_.handle(),
+                            appearance.instance(), nullptr);
+  if (handle_ == nullptr) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
+}
+
+void NativeWindow::ShowWindow(bool visible) {
+  const int show = TakesFocus() ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE;
+  const bool again = visible && IsWindowVisible(handle_);
+  ::ShowWindow(handle_, visible ? show : SW_HIDE);
+  if (again && TakesFocus()) SetForegroundWindow(handle_);
+  if (visible) open_.ForgetLeft();
+}
+
+void NativeWindow::CaptionChanged() {
+  SetWindowTextW(handle_, Widen(window_.Caption()).c_str());
+}
+
+void NativeWindow::Changed(const ui::Control& control, ui::Property property) {
+  controls_.Changed(control, property);
+  if (property == ui::Property::kCaption) ShowAccessKeys();
+}
+
+void NativeWindow::Changed(const ui::MenuItem& item, ui::Property property) {
+  menu_.Changed(item, property);
+  const auto& bar = window_.Menu();
+  if (std::find(bar.begin(), bar.end(), &item) == bar.end()) return;
+  if (property == ui::Property::kCaption) ShowAccessKeys();
+  DrawMenuBar(handle_);
+}
+
+void NativeWindow::ShowAccessKeys() {
+  std::vector<std::string> captions = menu_.BarCaptions();
+  const auto bar_count = static_cast<std::ptrdiff_t>(captions.size());
+  const std::vector<std::string> key_captions = controls_.KeyCaptions();
+  captions.insert(captions.end(), key_captions.begin(), key_captions.end());
+  const std::vector<std::string> marked = ui::WithAccessKeys(captions);
+  menu_.SetBarCaptions({marked.begin(), marked.begin() + bar_count});
+  controls_.SetMarkedCaptions({marked.begin() + bar_count, marked.end()});
+}
+
+bool NativeWindow::TranslateKey(const OpenWindows& open, MSG& message) {
+  const HWND root = GetAncestor(message.hwnd, GA_ROOT);
+  if (open.Find(root) == nullptr) return false;
+  if (message.message == WM_CHAR && !open.Find(root)->events_.AcceptsKey(message)) return true;
+  if (open.Find(root)->controls_.TranslateKey(message)) return true;
+  const HWND focus = GetFocus();
+  const bool moves_choice = MovesChoice(message);
+  if (!IsDialogMessageW(root, &message)) return false;
+  NativeWindow* const window = open.Find(root);
+  if (window != nullptr && moves_choice && GetFocus() != focus) {
+    window->events_.PostClickOfFocused(root);
+  }
+  return true;
+}
+
+LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_COMMAND:
+      OnCommand(LOWORD(wparam), HIWORD(wparam));
+      return 0;
+    case WM_HSCROLL:
+      events_.OnScroll(handle_, reinterpret_cast<HWND>(lparam), LOWORD(wparam), HIWORD(wparam));
+      return 0;
+    case WM_HELP:
+      PostMessageW(handle_, kHelpEvent, 0, 0);
+      return TRUE;
+    case WM_CLOSE:
+      PostMessageW(handle_, kCloseEvent, 0, 0);
+      return 0;
+    case kClickEvent:
+      events_.RunClick(wparam);
+      return 0;
+    case kScrollEvent:
+      events_.RunScroll(LOWORD(wparam), HIWORD(wparam), static_cast<std::int32_t>(lparam));
+      return 0;
+    case kMenuEvent:
+      RunMenu(static_cast<UINT>(wparam));
+      return 0;
+    case kChoiceEvent:
+      events_.RunChoice(wparam);
+      return 0;
+    case kHelpEvent:
+      window_.Handle([this] { window_.HelpRequested(); });
+      return 0;
+    case kCloseEvent:
+      window_.Close();
+      return 0;
+    case WM_ENDSESSION:
+      // The process may be ended as soon as this returns.
+      if (wparam != FALSE) window_.Close();
+      return 0;
+    case WM_SIZE:
+      if (wparam != SIZE_MINIMIZED) controls_.Fit(LOWORD(lparam), HIWORD(lparam));
+      return 0;
+    case WM_SETFOCUS:
+      focus_.HandOn();
+      return 0;
+    case DM_GETDEFID:
+      return DefaultButtonId();
+    case WM_SYSCOLORCHANGE:
+      for (std::size_t i = 0; i < controls_.Count(); ++i) {
+        SendMessageW(controls_.handle(i), message, wparam, lparam);
+      }
+      return 0;
+    default:
+      return DefWindowProcW(handle_, message, wparam, lparam);
+  }
+}
+
+LRESULT NativeWindow::DefaultButtonId() const {
+  const ui::Button* const button = window_.DefaultButton();
+  return button != nullptr ? MAKELRESULT(button->Id(), DC_HASDEFID) : 0;
+}
+
+void NativeWindow::OnCommand(UINT id, UINT code) {
+  if (menu_.Find(id) != nullptr) {
+    PostMessageW(handle_, kMenuEvent, id, 0);
+  } else if (id == IDCANCEL) {
+    const auto cancel = controls_.IndexOf(window_.CancelButton());
+    if (cancel) events_.PostClick(handle_, *cancel);
+  } else {
+    events_.OnCommand(handle_, id, code);
+  }
+}
+
+void NativeWindow::RunMenu(UINT id) {
+  if (ui::MenuItem* const item = menu_.Find(id)) item->Click();
+}
+
+}  // namespace platform::windows

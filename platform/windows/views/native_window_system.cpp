@@ -1,0 +1,25 @@
+#include "platform/windows/views/native_window_system.h"
+
+#include "platform/windows/views/native_window.h"
+#include "platform/windows/views/picture_view.h"
+#include "platform/windows/web/web_browser_view.h"
+
+#include <commctrl.h>
+
+namespace platform::windows {
+
+NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
+    : appearance_(instance), open_(open) {
+  // Visual styles need the library of common controls to be loaded; the bars are of it.
+  INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
+  InitCommonControlsEx(&wanted);
+  RegisterWindowClass(instance);
+  RegisterPictureClass(instance);
+  RegisterBrowserClass(instance);
+}
+
+std::unique_ptr<ui::WindowView> NativeWindowSystem::Open(ui::Window& window) {
+  return std::make_unique<NativeWindow>(window, appearance_, open_);
+}
+
+}  // namespace platform::windows
