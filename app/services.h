@@ -127,7 +127,10 @@ class ExFunctions {
 class sound {
  public:
   explicit sound(const Context& context)
-      : support_(context.platform, context.state, context.play_scene) {}
+      : support_(context.platform, context.state, context.play_scene),
+        winmm_(support_),
+        helpers_(context.platform, support_),
+        direct_sound_(context.platform, context.play_scene, support_) {}
   sound(const sound&) = delete;
   sound& operator=(const sound&) = delete;
 
@@ -142,9 +145,9 @@ class sound {
 
  private:
   tone::RouteSupport support_;
-  tone::WinmmRoutes winmm_{support_};
-  tone::HelperRoutes helpers_{support_};
-  tone::DirectSoundRoutes direct_sound_{support_};
+  tone::WinmmRoutes winmm_;
+  tone::HelperRoutes helpers_;
+  tone::DirectSoundRoutes direct_sound_;
 };
 
 }  // namespace app

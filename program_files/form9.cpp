@@ -23,7 +23,8 @@ Form9::Form9(platform::Platform& platform, settings::MainState& state, tone::Pla
       platform_(platform),
       state_(state),
       around_(std::move(around)),
-      support_(platform, state, play_scene) {
+      support_(platform, state, play_scene),
+      helpers_(platform) {
   Command1.OnClick = [this] { Command1_Click(); };
   Command2.OnClick = [this] { Command2_Click(); };
   Command3.OnClick = [this] { Command3_Click(); };
@@ -122,7 +123,7 @@ void Form9::CloseAfterLoading() {
 }
 
 void Form9::KillHelpers() {
-  support_.helpers.EndAll();
+  helpers_.EndAll();
 }
 
 void Form9::Form_Unload() {

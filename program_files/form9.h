@@ -18,6 +18,7 @@
 #include "settings/main_state.h"
 #include "platform/platform.h"
 #include "program_files/tone_program.h"
+#include "tone/helper_programs.h"
 #include "tone/route_support.h"
 #include "tone/winmm_routes.h"
 #include "ui/progress_bar.h"
@@ -90,6 +91,7 @@ class Form9 : public ui::Window {
   settings::MainState& state_;
   Surroundings around_;
   tone::RouteSupport support_;
+  tone::HelperPrograms helpers_;
   tone::WinmmRoutes winmm_{support_};
 
   std::string file_path_;

@@ -94,7 +94,7 @@ void Form9::PlayTone() {
 }
 
 void Form9::StartHelper() {
-  support_.helpers.Start(base::OutputOf(sound_mode_), tone::HelperPrograms::Named::kByPath);
+  helpers_.Start(base::OutputOf(sound_mode_), tone::HelperPrograms::Named::kByPath);
 }
 
 bool Form9::SoundsByHelper() const {
@@ -112,21 +112,21 @@ void Form9::SoundTone() {
                             base::ToInt16(duration + program_.extra_time_ms));
     return;
   }
-  if (output == base::Output::kHelper16) support_.waves.delay(kClassicStartMs);
-  support_.waves.delay(program_.extra_time_ms);
-  support_.waves.delay(duration);
+  if (output == base::Output::kHelper16) support_.Wait(kClassicStartMs);
+  support_.Wait(program_.extra_time_ms);
+  support_.Wait(duration);
 }
 
 // Sound32's helper is looked for in two modes that start none: another copy may have left it.
 void Form9::EndHelper() {
   switch (sound_mode_) {
     case base::SoundMode::kClassic:
-      support_.helpers.End(base::Output::kHelper16);
+      helpers_.End(base::Output::kHelper16);
       break;
     case base::SoundMode::kSound32:
     case base::SoundMode::kDirectSound:
     case base::SoundMode::kAutomatic:
-      support_.helpers.End(base::Output::kHelper32);
+      helpers_.End(base::Output::kHelper32);
       break;
     case base::SoundMode::kWinmm:
     case base::SoundMode::kNone:

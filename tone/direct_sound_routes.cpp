@@ -9,7 +9,7 @@ void DirectSoundRoutes::ToneDXRND(std::int16_t pitch) {
   base::Quietly([&] {
     support_.ReadTempFolder();
     support_.WriteTone(pitch);
-    support_.waves.WavPlay(support_.WavePath(), true, false);
+    support_.Loop(support_.WavePath());
     CreateDevice();
     PlayBuffer(support_.WavePath());
     support_.ShowPitch(pitch);
@@ -25,7 +25,7 @@ void DirectSoundRoutes::ToneDXRNDTMP(std::int16_t pitch, std::int16_t Duration) 
     support_.WriteTone(pitch);
     CreateDevice();
     PlayBuffer(support_.WavePath());
-    support_.waves.delay(Duration);
+    support_.Wait(Duration);
     buffer_->Stop();
     support_.DeleteIfThere(support_.WavePath());
   });
@@ -43,14 +43,14 @@ void DirectSoundRoutes::ToneDX(std::int32_t pitch, const std::string& modeval, s
 }
 
 void DirectSoundRoutes::CreateDevice() {
-  if (!root_) root_ = support_.services.direct_sound.Create();
+  if (!root_) root_ = platform_.direct_sound.Create();
   buffer_.reset();
   device_ = root_->CreateDevice();
-  device_->SetCooperativeLevel(support_.scene.MainWindowView(), platform::kLevelNormal);
+  device_->SetCooperativeLevel(scene_.MainWindowView(), platform::kLevelNormal);
 }
 
 void DirectSoundRoutes::PlayBuffer(const std::string& path) {
-  const auto image = support_.services.Texts().ReadBytes(path);
+  const auto image = platform_.Texts().ReadBytes(path);
   if (!image) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
   const auto wave = ParseWaveFile(*image);
   if (!wave) throw base::RuntimeError(base::ErrorCode::kInvalidCall);

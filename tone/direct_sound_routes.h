@@ -8,14 +8,15 @@
 #include <memory>
 #include <string>
 
-#include "platform/direct_sound.h"
+#include "platform/platform.h"
 #include "tone/route_support.h"
 
 namespace tone {
 
 class DirectSoundRoutes {
  public:
-  explicit DirectSoundRoutes(RouteSupport& support) : support_(support) {}
+  DirectSoundRoutes(platform::Platform& platform, PlayScene& scene, RouteSupport& support)
+      : platform_(platform), scene_(scene), support_(support) {}
 
   // A generated tone, until it is stopped. The file is started through the multimedia player, too;
   // that sound is silenced only by KillAll.
@@ -32,6 +33,8 @@ class DirectSoundRoutes {
   void CreateDevice();
   void PlayBuffer(const std::string& path);
 
+  platform::Platform& platform_;
+  PlayScene& scene_;
   RouteSupport& support_;
   std::unique_ptr<platform::DirectSoundRoot> root_;
   std::unique_ptr<platform::DirectSoundDevice> device_;

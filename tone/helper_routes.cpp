@@ -24,7 +24,7 @@ void HelperRoutes::Sound32(std::int16_t pitch) {
 void HelperRoutes::PlayByHelper(std::int16_t pitch, base::Output output) {
   base::Quietly([&] {
     support_.ReadTempFolder();
-    support_.state.stop_flag = 0;
+    support_.BeginUnstopped();
     support_.WriteHandOver(pitch);
     StartHelper(output);
     support_.WaitUntilStopped(kHelperTickMs);
@@ -54,14 +54,14 @@ void HelperRoutes::LowToHigh(base::SoundMode mode) {
 
 // A helper that is missing or blocked leaves the route silent; only Stop ends it.
 void HelperRoutes::StartHelper(base::Output output) {
-  base::Quietly([&] { support_.helpers.Start(output, HelperPrograms::Named::kAlone); });
+  base::Quietly([&] { helpers_.Start(output, HelperPrograms::Named::kAlone); });
 }
 
 // The 16-bit helper is not ended first: it ends by itself at the top of its sweep.
 void HelperRoutes::Restart(base::Output output) {
   if (output == base::Output::kHelper32) {
-    support_.scene.ShowStatus("Resetting...");
-    support_.helpers.End(output);
+    support_.ShowStatus("Resetting...");
+    helpers_.End(output);
   }
   StartHelper(output);
   sweep_pitch_ = kSweepRestart;
@@ -72,7 +72,7 @@ void HelperRoutes::ShowSweep(base::Output output) {
     support_.ShowPitch(sweep_pitch_);
     support_.DrawStep(sweep_pitch_);
   }
-  if (output == base::Output::kHelper16) support_.scene.ShowStatus(support_.scene.StatusCaption());
+  if (output == base::Output::kHelper16) support_.ShowLoadedCaption();
 }
 
 }  // namespace tone

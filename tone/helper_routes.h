@@ -5,13 +5,15 @@
 #include <cstdint>
 
 #include "base/sound_mode.h"
+#include "tone/helper_programs.h"
 #include "tone/route_support.h"
 
 namespace tone {
 
 class HelperRoutes {
  public:
-  explicit HelperRoutes(RouteSupport& support) : support_(support) {}
+  HelperRoutes(platform::Platform& platform, RouteSupport& support)
+      : helpers_(platform), support_(support) {}
 
   // A tone by play16.exe or by tone32.dll, until it is stopped. A helper that cannot be started
   // leaves silence.
@@ -28,6 +30,7 @@ class HelperRoutes {
   void Restart(base::Output output);
   void ShowSweep(base::Output output);
 
+  HelperPrograms helpers_;
   RouteSupport& support_;
   std::int16_t sweep_pitch_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "lang/languages.h"
+#include "tone/helper_programs.h"
 #include "base/error_trap.h"
 
 namespace tone {
@@ -17,8 +18,8 @@ constexpr std::int16_t kStillSine = 930;
 void RouteSupport::KillAll() {
   base::Quietly([this] {
     ReadTempFolder();
-    helpers.EndAll();
-    waves.WavPlay(" ", false, true);
+    HelperPrograms(platform_).EndAll();
+    waves_.WavPlay(" ", false, true);
     ShowPitchCaption();
     DeleteIfThere(HandOverPath());
     playing = 0;
@@ -27,7 +28,7 @@ void RouteSupport::KillAll() {
 }
 
 void RouteSupport::ReadTempFolder() {
-  temp_ = services.environment.Get("TEMP");
+  temp_ = platform_.environment.Get("TEMP");
 }
 
 std::string RouteSupport::WavePath() const {
@@ -35,7 +36,7 @@ std::string RouteSupport::WavePath() const {
 }
 
 void RouteSupport::WriteHandOver(const std::string& line) {
-  services.Texts().Write(HandOverPath(), base::Line(line));
+  platform_.Texts().Write(HandOverPath(), base::Line(line));
 }
 
 void RouteSupport::WriteHandOver(std::int16_t pitch) {
@@ -43,38 +44,38 @@ void RouteSupport::WriteHandOver(std::int16_t pitch) {
 }
 
 void RouteSupport::WriteTone(std::int32_t pitch) {
-  const std::string image = waves.CreateWaveArray(SineSecond(pitch), kSampleRate, kBitsPerSample);
-  if (waves.WriteWave(WavePath(), image) || !services.files.Exists(WavePath())) return;
-  own_wave_ = services.files.TemporaryName(WavePath());
-  waves.WriteWave(own_wave_, image);
+  const std::string image = waves_.CreateWaveArray(SineSecond(pitch), kSampleRate, kBitsPerSample);
+  if (waves_.WriteWave(WavePath(), image) || !platform_.files.Exists(WavePath())) return;
+  own_wave_ = platform_.files.TemporaryName(WavePath());
+  waves_.WriteWave(own_wave_, image);
 }
 
 void RouteSupport::DeleteIfThere(const std::string& path) {
-  base::Quietly([&] { services.files.Delete(path); });
+  base::Quietly([&] { platform_.files.Delete(path); });
 }
 
 void RouteSupport::ShowPitchCaption() {
-  scene.ShowStatus(PitchCaption());
+  scene_.ShowStatus(PitchCaption());
 }
 
 void RouteSupport::ShowPitch(std::int32_t pitch) {
-  scene.ShowStatus(PitchCaption() + base::BareNumber(pitch));
+  scene_.ShowStatus(PitchCaption() + base::BareNumber(pitch));
 }
 
 void RouteSupport::DrawStep(std::int16_t pitch) {
-  scene.DrawSine(pitch, kStillSine);
+  scene_.DrawSine(pitch, kStillSine);
 }
 
 bool RouteSupport::Stopped() const {
-  return state.stop_flag == 1 || !scene.MainWindowVisible();
+  return state_.stop_flag == 1 || !scene_.MainWindowVisible();
 }
 
 void RouteSupport::HandleMessages() {
-  services.pump.ProcessPending([this] { return Stopped(); });
+  platform_.pump.ProcessPending([this] { return Stopped(); });
 }
 
 void RouteSupport::Pause(std::int16_t time_ms) {
-  waves.Pause(time_ms, [this] { return Stopped(); });
+  waves_.Pause(time_ms, [this] { return Stopped(); });
 }
 
 void RouteSupport::WaitUntilStopped(std::int16_t tick_ms) {
@@ -86,7 +87,7 @@ void RouteSupport::WaitUntilStopped(std::int16_t tick_ms) {
 
 std::string RouteSupport::PitchCaption() const {
   if (!lang::IsTranslated(language_)) return kPitchCaption;
-  const std::string caption = scene.StatusCaption();
+  const std::string caption = scene_.StatusCaption();
   return caption.ends_with(' ') ? caption : caption + " ";
 }
 

@@ -10,7 +10,6 @@
 
 #include "settings/main_state.h"
 #include "platform/platform.h"
-#include "tone/helper_programs.h"
 #include "tone/wave_output.h"
 
 namespace tone {
@@ -37,11 +36,10 @@ class PlayScene {
 class RouteSupport {
  public:
   RouteSupport(platform::Platform& platform, settings::MainState& main_state, PlayScene& play_scene)
-      : services(platform),
-        state(main_state),
-        scene(play_scene),
-        waves(platform),
-        helpers(platform),
+      : platform_(platform),
+        state_(main_state),
+        scene_(play_scene),
+        waves_(platform),
         language_(main_state.language) {}
 
   std::int16_t playing = 0;  // cleared by KillAll
@@ -54,12 +52,6 @@ class RouteSupport {
   void KillAll();
 
   // For the routes.
-  platform::Platform& services;
-  settings::MainState& state;
-  PlayScene& scene;
-  WaveOutput waves;
-  HelperPrograms helpers;
-
   void ReadTempFolder();
   std::string WavePath() const;
   std::string HandOverPath() const { return temp_ + "\\sound.ini"; }
@@ -73,6 +65,15 @@ class RouteSupport {
   void WriteTone(std::int32_t pitch);
   void DeleteIfThere(const std::string& path);
 
+  // Starts a WAV file in a loop, or silences whatever the multimedia player plays.
+  void Loop(const std::string& path) { waves_.WavPlay(path, true, false); }
+  void Silence() { waves_.WavPlay("0", false, true); }
+
+  void ShowStatus(const std::string& text) { scene_.ShowStatus(text); }
+
+  // The caption of the status panel in the loaded language.
+  void ShowLoadedCaption() { scene_.ShowStatus(scene_.StatusCaption()); }
+
   // "Actual pitch (Hertz): ", in a translated program the loaded caption; then the pitch in bare
   // digits.
   void ShowPitchCaption();
@@ -81,8 +82,12 @@ class RouteSupport {
   // The preview of one step of a sweep.
   void DrawStep(std::int16_t pitch);
 
+  void BeginUnstopped() { state_.stop_flag = 0; }
   bool Stopped() const;
   void HandleMessages();
+
+  // Blocks the thread without handling messages.
+  void Wait(std::int16_t time_ms) { waves_.delay(time_ms); }
 
   // Waits, handling messages now and then, for at most `time_ms`; ends early once stopped.
   void Pause(std::int16_t time_ms);
@@ -93,6 +98,10 @@ class RouteSupport {
  private:
   std::string PitchCaption() const;
 
+  platform::Platform& platform_;
+  settings::MainState& state_;
+  PlayScene& scene_;
+  WaveOutput waves_;
   std::string language_;
   std::string temp_;
   std::string own_wave_;  // path; empty while the usual one serves

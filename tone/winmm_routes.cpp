@@ -18,7 +18,7 @@ void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
     StartTone(pitch);
     support_.ShowPitch(pitch);
     support_.WaitUntilStopped(kWaveTickMs);
-    StopTone();
+    support_.Silence();
     support_.DeleteIfThere(support_.WavePath());
   });
 }
@@ -27,18 +27,18 @@ void WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch, std::int16_t Duration) {
   base::Quietly([&] {
     support_.ReadTempFolder();
     StartTone(pitch);
-    support_.waves.delay(Duration);
-    StopTone();
+    support_.Wait(Duration);
+    support_.Silence();
     support_.DeleteIfThere(support_.WavePath());
   });
 }
 
 void WinmmRoutes::SoundWinmm(std::int16_t pitch, const std::string& modeval) {
   base::Quietly([&] {
-    support_.waves.WavPlay("tonedx" + modeval + ".dll", true, false);
+    support_.Loop("tonedx" + modeval + ".dll");
     support_.ShowPitch(pitch);
     support_.WaitUntilStopped(kWaveTickMs);
-    StopTone();
+    support_.Silence();
   });
 }
 
@@ -54,20 +54,16 @@ void WinmmRoutes::SoundWinmmLTH() {
       support_.ShowPitch(pitch);
       support_.DrawStep(pitch);
       support_.Pause(kSweepTickMs);
-      StopTone();
+      support_.Silence();
     } while (!support_.Stopped());
-    StopTone();
+    support_.Silence();
     support_.DeleteIfThere(support_.WavePath());
   });
 }
 
 void WinmmRoutes::StartTone(std::int32_t pitch) {
   support_.WriteTone(pitch);
-  support_.waves.WavPlay(support_.WavePath(), true, false);
-}
-
-void WinmmRoutes::StopTone() {
-  support_.waves.WavPlay("0", false, true);
+  support_.Loop(support_.WavePath());
 }
 
 }  // namespace tone

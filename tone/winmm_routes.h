@@ -26,7 +26,6 @@ class WinmmRoutes {
 
  private:
   void StartTone(std::int32_t pitch);
-  void StopTone();
 
   RouteSupport& support_;
 };

@@ -40,7 +40,7 @@ TEST_F(DirectSoundTest, TheRootIsMadeOnceAndDeviceAndBufferAreReplaced) {
 
 TEST_F(DirectSoundTest, NothingIsLeftWhenTheSoundObjectIsGone) {
   {
-    DirectSoundRoutes routes(support);
+    DirectSoundRoutes routes(sim.services, scene, support);
     StopAt(100ms);
     routes.ToneDXRND(440);
     EXPECT_EQ(sim.direct_sound.live_objects, 3);
@@ -55,7 +55,7 @@ TEST_P(FailingCallTest, EndsTheProcedureThereAndKillAllSilencesTheRest) {
   sim.direct_sound.Fail(GetParam());
   StopAt(500ms);
   {
-    DirectSoundRoutes routes(support);
+    DirectSoundRoutes routes(sim.services, scene, support);
     EXPECT_NO_THROW(routes.ToneDXRND(440));
   }
   EXPECT_EQ(sim.waves.playing, kWavePath);

@@ -72,8 +72,8 @@ class RoutesFixture : public testing::Test {
   NotingPlayScene scene{sim.journal};
   RouteSupport support{sim.services, state, scene};
   WinmmRoutes winmm{support};
-  HelperRoutes helpers{support};
-  DirectSoundRoutes direct_sound{support};
+  HelperRoutes helpers{sim.services, support};
+  DirectSoundRoutes direct_sound{sim.services, scene, support};
   ShortTones short_tones{sim.services, state, scene};
 };
 
