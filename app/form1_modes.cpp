@@ -2,6 +2,7 @@
 #include <ranges>
 
 #include "app/form1.h"
+#include "base/sine_modes.h"
 
 namespace app {
 
@@ -36,7 +37,7 @@ void Form1::OptionClick(const ToneModeFacts& mode) {
 // The other modes show nothing until they draw themselves: the slider, the steps of a sweep.
 void Form1::ShowSine(Program& program, const ToneModeFacts& mode) {
   if (mode.kind == ToneKind::kFixedPitch) {
-    program.DrawSine(mode.pitch_hz, display::kAnimated);
+    program.DrawSine(mode.pitch_hz, base::kMovingSine);
   } else {
     sine_animation_.Stop();
   }
@@ -83,7 +84,7 @@ void Form1::HScroll1_Change() {
   Program program(context_);
   base::TrapErrors(program, base::ErrorValue::kSlider, [&] {
     Label10.SetCaption(base::SignedNumber(HScroll1.Value()));
-    program.DrawSine(SliderPitch(), display::kStillPicture);
+    program.DrawSine(SliderPitch(), base::kStillSine);
   });
 }
 

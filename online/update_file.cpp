@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/characters.h"
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "base/version.h"
@@ -40,7 +41,7 @@ bool IsNewer(std::string_view version) {
     return base::LeadingNumber(version) > base::kVersionNumber;
   } catch (const base::RuntimeError&) {
     // Beyond all numbers; which end of them says the sign.
-    return version[version.find_first_not_of(" \t")] != '-';
+    return version[version.find_first_not_of(base::kBlanks)] != '-';
   }
 }
 

@@ -1,6 +1,7 @@
 #include "tone/route_support.h"
 
 #include "base/numbers.h"
+#include "base/sine_modes.h"
 #include "base/text.h"
 #include "lang/languages.h"
 #include "base/error_trap.h"
@@ -10,7 +11,6 @@ namespace {
 
 constexpr char kPitchCaption[] = "Actual pitch (Hertz): ";
 constexpr std::int16_t kBitsPerSample = 16;
-constexpr std::int16_t kStillSine = 930;
 
 }  // namespace
 
@@ -62,7 +62,7 @@ void RouteSupport::ShowPitch(std::int32_t pitch) {
 }
 
 void RouteSupport::DrawStep(std::int16_t pitch) {
-  scene.DrawSine(pitch, kStillSine);
+  scene.DrawSine(pitch, base::kStillSine);
 }
 
 bool RouteSupport::Stopped() const {

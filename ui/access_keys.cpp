@@ -3,15 +3,15 @@
 #include <optional>
 #include <set>
 
+#include "base/characters.h"
+
 namespace ui {
 namespace {
 
 using Keys = std::set<char>;
 
 std::optional<char> KeyOf(char c) {
-  if (c >= 'a' && c <= 'z') return c;
-  if (c >= 'A' && c <= 'Z') return static_cast<char>(c - 'A' + 'a');
-  if (c >= '0' && c <= '9') return c;
+  if (base::IsLetter(c) || base::IsDigit(c)) return base::Lower(c);
   return std::nullopt;
 }
 
