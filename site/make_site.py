@@ -1,8 +1,8 @@
 """Makes the site that is hosted: site/make_site.py FOLDER writes it into a new folder.
 
 A page is frame.html around a text of pages/. In both, $version is the program's, and an address
-within the site begins with ${root}, the way from the page's folder to the site's. The update file is
-made of the version, too.
+within the site begins with ${root}, the way from the page's folder to the site's. The update file
+is made of the version, too.
 """
 
 import re
