@@ -348,7 +348,7 @@ def test_the_menus_open_the_pages_of_the_site(
         wait_for(lambda: len(opened(folders)) == number, page)
         assert opened(folders)[-1] == f'<"{site}{page}">'
     assert program.folders.log()[-3:] == ["> Visiting site", "> Visiting donation page",
-                                           "> Visiting donation page"]
+                                          "> Visiting donation page"]
 
 
 @pytest.mark.parametrize("language", ["EN", "NL"])
