@@ -43,20 +43,25 @@ write_units() {
   printf '%s\n' "$unit_folder"/*.cpp
 }
 
-# Names in unnamed namespaces may clash within a room; its sources are looked at one by one then.
+# Names in unnamed namespaces may clash within a room: its sources are looked at in halves then.
 tidy_unit() {
-  local unit=$1 arguments=(-std=c++20 -I. -Ibuild/native/generated) name
-  name=$(basename "$unit" .cpp)
-  case $name in
-    helpers* | platform-windows* | tools-windows* | main)
+  local unit=$1 arguments=(-std=c++20 -I. -Ibuild/native/generated) files half
+  case $(basename "$unit" .cpp) in
+    helpers* | platform-windows* | main*)
       mapfile -t -O "${#arguments[@]}" arguments <"$unit_folder/mingw.txt"
       ;;
   esac
-  local files=("$unit")
-  if ! clang++ -fsyntax-only -w "${arguments[@]}" "$unit" 2>/dev/null; then
-    mapfile -t files < <(sed 's/#include "\(.*\)"/\1/' "$unit")
+  mapfile -t files <"$unit"
+  half=$((${#files[@]} / 2))
+  if ((half > 0)) && ! clang++ -fsyntax-only -w "${arguments[@]}" "$unit" 2>/dev/null; then
+    printf '%s\n' "${files[@]:0:half}" >"${unit%.cpp}-1.cpp"
+    printf '%s\n' "${files[@]:half}" >"${unit%.cpp}-2.cpp"
+    local failures=0
+    tidy_unit "${unit%.cpp}-1.cpp" || failures=1
+    tidy_unit "${unit%.cpp}-2.cpp" || failures=1
+    return $failures
   fi
-  clang-tidy --quiet "${files[@]}" -- "${arguments[@]}" 2> >(grep -v 'warnings\? .*generated' >&2)
+  clang-tidy --quiet "$unit" -- "${arguments[@]}" 2> >(grep -v 'warnings\? .*generated' >&2)
 }
 
 tidy() {
