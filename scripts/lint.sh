@@ -38,16 +38,16 @@ write_units() {
   sources '*.cpp' ':!tests' ':!bench' | while read -r file; do
     unit=$(dirname "$file")
     case $file in *main.cpp) unit=${file%.cpp} ;; esac
-    printf '#include "%s"\n' "$file" >>"$unit_folder/${unit//\//-}.cpp"
+    printf '#include "%s"\n' "$file" >>"$unit_folder/room-${unit//\//-}.cpp"
   done
-  printf '%s\n' "$unit_folder"/*.cpp
+  printf "%s\n" "$unit_folder"/*.cpp
 }
 
 # Names in unnamed namespaces may clash within a room: its sources are looked at in halves then.
 tidy_unit() {
   local unit=$1 arguments=(-std=c++20 -I. -Ibuild/native/generated) files half
   case $(basename "$unit" .cpp) in
-    helpers* | platform-windows* | main*)
+    room-helpers* | room-platform-windows* | room-main*)
       mapfile -t -O "${#arguments[@]}" arguments <"$unit_folder/mingw.txt"
       ;;
   esac

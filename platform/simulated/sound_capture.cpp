@@ -142,7 +142,7 @@ class FakeCaptureRoot : public CaptureRoot {
     FakeSoundCapture& capture = counted_.capture();
     capture.Call(CaptureCall::kEvent, "event");
     std::int32_t id = kFirstId;
-    while (capture.callbacks.count(id) != 0) ++id;
+    while (capture.callbacks.contains(id)) ++id;
     capture.callbacks[id] = std::move(callback);
     return std::make_unique<FakeEvent>(capture, id);
   }
@@ -166,7 +166,7 @@ std::unique_ptr<CaptureRoot> FakeSoundCapture::Create() {
 }
 
 void FakeSoundCapture::Call(CaptureCall call, const std::string& text) {
-  if (fails_.count(call) != 0) throw base::RuntimeError(base::ErrorCode::kDeviceError);
+  if (fails_.contains(call)) throw base::RuntimeError(base::ErrorCode::kDeviceError);
   Note(text);
 }
 
