@@ -1,5 +1,4 @@
 // The tone modes of the main window.
-#include <ranges>
 
 #include "app/form1.h"
 #include "base/sine_modes.h"
@@ -20,8 +19,8 @@ ToneMode Form1::SelectedMode() {
 }
 
 void Form1::EnableToolModes(bool enabled) {
-  for (const ToneModeFacts& mode : std::views::reverse(kToneModes)) {
-    if (!mode.in_direct_sound) OptionOf(mode.mode).SetEnabled(enabled);
+  for (auto mode = kToneModes.rbegin(); mode != kToneModes.rend(); ++mode) {
+    if (!mode->in_direct_sound) OptionOf(mode->mode).SetEnabled(enabled);
   }
 }
 
