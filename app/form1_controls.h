@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/error_value.h"
+#include "base/pitches.h"
 #include "base/sound_mode.h"
 #include "lang/languages.h"
 #include "settings/settings.h"
@@ -44,7 +45,8 @@ class Form1Controls : public ui::Window {
   ui::Label Label3{*this, 114, "Label3", {216, 174, 180, 18}, "Selected pitch (Hz):"};
   ui::Label Label10{*this, 115, "Label10", {400, 174, 80, 18}, "1000"};
   ui::Label Label5{*this, 116, "Label5", {216, 202, 50, 18}, "4 Hz ->"};
-  ui::ScrollBar HScroll1{*this, 117, "HScroll1", {268, 200, 256, 20}, {4, 32000, 100, 1000, 1000}};
+  ui::ScrollBar HScroll1{
+      *this, 117, "HScroll1", {268, 200, 256, 20}, {4, base::kHighestPitch, 100, 1000, 1000}};
   ui::Label Label6{*this, 118, "Label6", {532, 202, 88, 18}, "<- 32000 Hz"};
   ui::Button Command2{*this, 119, "Command2", {12, 416, 302, 36}, "Play Sound"};
   ui::Button Command3{*this, 120, "Command3", {326, 416, 302, 36}, "Stop Sound"};

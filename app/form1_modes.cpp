@@ -1,7 +1,7 @@
 // The tone modes of the main window.
-#include <ranges>
 
 #include "app/form1.h"
+#include "base/sine_modes.h"
 
 namespace app {
 
@@ -19,8 +19,8 @@ ToneMode Form1::SelectedMode() {
 }
 
 void Form1::EnableToolModes(bool enabled) {
-  for (const ToneModeFacts& mode : std::views::reverse(kToneModes)) {
-    if (!mode.in_direct_sound) OptionOf(mode.mode).SetEnabled(enabled);
+  for (auto mode = kToneModes.rbegin(); mode != kToneModes.rend(); ++mode) {
+    if (!mode->in_direct_sound) OptionOf(mode->mode).SetEnabled(enabled);
   }
 }
 
@@ -36,7 +36,7 @@ void Form1::OptionClick(const ToneModeFacts& mode) {
 // The other modes show nothing until they draw themselves: the slider, the steps of a sweep.
 void Form1::ShowSine(Program& program, const ToneModeFacts& mode) {
   if (mode.kind == ToneKind::kFixedPitch) {
-    program.DrawSine(mode.pitch_hz, display::kAnimated);
+    program.DrawSine(mode.pitch_hz, base::kMovingSine);
   } else {
     sine_animation_.Stop();
   }
@@ -83,7 +83,7 @@ void Form1::HScroll1_Change() {
   Program program(context_);
   base::TrapErrors(program, base::ErrorValue::kSlider, [&] {
     Label10.SetCaption(base::SignedNumber(HScroll1.Value()));
-    program.DrawSine(SliderPitch(), display::kStillPicture);
+    program.DrawSine(SliderPitch(), base::kStillSine);
   });
 }
 

@@ -1,6 +1,9 @@
 // The window that shows what the program is doing while it starts.
 #pragma once
 
+#include <string>
+
+#include "base/version.h"
 #include "ui/window.h"
 
 namespace app {
@@ -15,7 +18,8 @@ class Form8 : public ui::Window {
   ui::Label Label1{*this, 101, "Label1", {96, 16, 228, 24}, "Tonmira", ui::Label::Style::kHeading};
   ui::Label Label2{*this, 102, "Label2", {96, 46, 228, 18}, "Starting..."};
   ui::Label Label3{*this, 103, "Label3", {96, 66, 228, 18}, "Tones from 4 Hz to 32000 Hz"};
-  ui::Label Label4{*this, 104, "Label4", {96, 86, 228, 18}, "Version 2.3.6"};
+  ui::Label Label4{
+      *this, 104, "Label4", {96, 86, 228, 18}, std::string("Version ") + base::kVersion};
 };
 
 }  // namespace app

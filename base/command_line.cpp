@@ -1,13 +1,10 @@
 #include "base/command_line.h"
 
+#include "base/characters.h"
 #include "base/text.h"
 
 namespace base {
 namespace {
-
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
 
 bool BeginsWithProgram(std::string_view line, std::string_view path) {
   return !path.empty() && ToLower(line.substr(0, path.size())) == ToLower(path) &&

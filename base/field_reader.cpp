@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "base/characters.h"
+
 namespace base {
 namespace {
 
 constexpr std::string_view kDelimiters = ",\r\n";
-constexpr std::string_view kBlanks = " \t";
 
 }  // namespace
 

@@ -4,18 +4,11 @@
 #include <cstdlib>
 #include <limits>
 
+#include "base/characters.h"
 #include "base/errors.h"
 
 namespace base {
 namespace {
-
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;

@@ -1,11 +1,13 @@
 #include "base/text.h"
 
+#include "base/characters.h"
+
 namespace base {
 
 std::string ToLower(std::string_view text) {
   std::string lower(text);
   for (char& c : lower) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    c = Lower(c);
   }
   return lower;
 }

@@ -101,7 +101,8 @@ def endurance(bench: Bench, driver: Driver) -> None:
         play_and_stop_often(program, window, 5)
         before = usage(driver, program)
         play_and_stop_often(program, window, ENDURANCE_ROUNDS)
-        print(f"{ENDURANCE_ROUNDS} plays and stops: {before} before, {usage(driver, program)} after")
+        after = usage(driver, program)
+        print(f"{ENDURANCE_ROUNDS} plays and stops: {before} before, {after} after")
     finally:
         program.finish()
 

@@ -1,6 +1,6 @@
-"""Lengths of dots, dashes and pauses of the Morse tool in a recording, against their nominal values,
-beside the same message from ebook2cw (Debian's packages ebook2cw, sox and libsox-fmt-mp3), measured
-the same way. Run it with /usr/bin/python3 after "cmake --build --preset windows".
+"""Lengths of dots, dashes and pauses of the Morse tool in a recording, against their nominal
+values, beside the same message from ebook2cw (Debian's packages ebook2cw, sox and libsox-fmt-mp3),
+measured the same way. Run it with /usr/bin/python3 after "cmake --build --preset windows".
 """
 
 import statistics

@@ -60,7 +60,8 @@ def lengths(bench: Bench, driver: Driver, recorder: Recorder, sound_bit: str) ->
     period = 1000 * np.diff([tone.start_s for tone in heard]) - nominal
     pitch = max(abs(tone.pitch_hz / wanted - 1) for tone, wanted in zip(heard, PITCHES))
     print(f"sound mode {sound_bit}: nominal {nominal} ms; {spread('length median', length)}; "
-          f"{spread('beginning to beginning median', period)}; pitch off by at most {1e6 * pitch:.1f} ppm")
+          f"{spread('beginning to beginning median', period)}; "
+          f"pitch off by at most {1e6 * pitch:.1f} ppm")
 
 
 def drift(bench: Bench, driver: Driver, recorder: Recorder) -> None:
@@ -77,8 +78,8 @@ def drift(bench: Bench, driver: Driver, recorder: Recorder) -> None:
     slope, begin = np.polyfit(np.arange(len(starts)), starts, 1)
     uneven = np.abs(starts - (begin + slope * np.arange(len(starts)))).max()
     print(f"  last begins {late:+.0f} ms after its nominal moment, "
-          f"{late / (len(heard) - 1):+.2f} ms a tone; {spread('step median', steps - nominal)}; off an even pace by at most "
-          f"{uneven:.1f} ms")
+          f"{late / (len(heard) - 1):+.2f} ms a tone; {spread('step median', steps - nominal)}; "
+          f"off an even pace by at most {uneven:.1f} ms")
 
 
 def main() -> None:

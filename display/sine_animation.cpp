@@ -1,6 +1,7 @@
 #include "display/sine_animation.h"
 
 #include "display/pictures.h"
+#include "base/sine_modes.h"
 #include "display/sine_preview.h"
 #include "display/twips.h"
 #include "ui/window.h"
@@ -53,8 +54,8 @@ void SineDrawing::DrawSine(std::int16_t pitch, std::int16_t mode) {
   base::TrapErrors(errors_, base::ErrorValue::kDrawSine, [&] {
     const float angular_step = AngularStep(pitch);
     state_.sine_stop_flag = 0;
-    if (mode == kAnimated) animation_.Start(angular_step, kFirstPhase);
-    if (mode == kStillPicture) animation_.DrawFrame(angular_step, kFirstPhase);
+    if (mode == base::kMovingSine) animation_.Start(angular_step, kFirstPhase);
+    if (mode == base::kStillSine) animation_.DrawFrame(angular_step, kFirstPhase);
   });
 }
 

@@ -14,10 +14,6 @@
 
 namespace display {
 
-// What the drawing modes of DrawSine are called with.
-inline constexpr std::int16_t kAnimated = 1;
-inline constexpr std::int16_t kStillPicture = 930;
-
 // Belongs to the main window, like the picture box that it draws into.
 class SineAnimation {
  public:
@@ -54,8 +50,9 @@ class SineDrawing {
   SineDrawing(settings::MainState& state, SineAnimation& animation, base::ErrorReporter& errors)
       : state_(state), animation_(animation), errors_(errors) {}
 
-  // Shows the sine wave of `pitch` Hz: moving (kAnimated), as one still picture (kStillPicture), or
-  // in any other mode not at all. Sets the sine-stop flag to 0. Error value kDrawSine.
+  // Shows the sine wave of `pitch` Hz: moving (base::kMovingSine), as one still picture
+  // (base::kStillSine), or in any other mode not at all. Sets the sine-stop flag to 0. Error value
+  // kDrawSine.
   void DrawSine(std::int16_t pitch, std::int16_t mode);
 
  private:

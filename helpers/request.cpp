@@ -4,18 +4,18 @@
 #include <charconv>
 #include <system_error>
 
+#include "base/characters.h"
+
 namespace helpers {
 namespace {
-
-constexpr std::string_view kBlanks = " \t";
 
 std::string_view FirstLine(std::string_view text) {
   return {text.data(), std::min(text.find_first_of("\r\n"), text.size())};
 }
 
 std::string_view Trim(std::string_view line) {
-  line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
-  line.remove_suffix(line.size() - (line.find_last_not_of(kBlanks) + 1));
+  line.remove_prefix(std::min(line.find_first_not_of(base::kBlanks), line.size()));
+  line.remove_suffix(line.size() - (line.find_last_not_of(base::kBlanks) + 1));
   return line;
 }
 

@@ -5,14 +5,15 @@
 #include <cstdint>
 #include <span>
 
+#include "base/pitches.h"
 #include "helpers/rates.h"
 #include "helpers/request.h"
 
 namespace helpers {
 
-inline constexpr std::int32_t kAmplitude = 30000;         // of 32767
-inline constexpr std::uint32_t kSweepStep = 200;          // Hz; the sweep's first pitch, too
-inline constexpr std::uint32_t kSweepStepsPerSecond = 5;  // each is 200 ms long
+inline constexpr std::int32_t kAmplitude = 30000;              // of 32767
+inline constexpr std::uint32_t kSweepStep = base::kSweepStep;  // Hz; the sweep's first pitch, too
+inline constexpr std::uint32_t kSweepStepsPerSecond = 1000 / base::kHelperStepMs;
 // From the bottom to the top.
 inline constexpr std::uint32_t kSweepSeconds = kHighestPitch / kSweepStep / kSweepStepsPerSecond;
 inline constexpr std::uint32_t kFadesPerSecond = 200;  // a fade is 5 ms long

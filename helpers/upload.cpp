@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/characters.h"
+
 namespace helpers {
 namespace {
 
@@ -15,8 +17,7 @@ std::string_view TakeLine(std::string_view& text) {
 }
 
 char Folded(char c) {
-  if (c == '/') return '\\';
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return c == '/' ? '\\' : base::Lower(c);
 }
 
 bool SamePath(std::string_view one, std::string_view other) {
@@ -38,7 +39,7 @@ bool IsNumbered(std::string_view name, std::string_view ending) {
   if (!name.ends_with(ending)) return false;
   name.remove_suffix(ending.size());
   return !name.empty() && name.size() <= kMostDigits &&
-         std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+         std::all_of(name.begin(), name.end(), base::IsDigit);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/pitches.h"
 #include "base/text.h"
 #include "morse/morse_code.h"
 #include "base/error_trap.h"
@@ -95,7 +96,10 @@ void Form4::ReadFields() {
   pitch_long_ = base::ToInt32(base::NumberFromText(Text3.Text()));
   if (speed_long_ > 500) Correct(speed_long_, 0, "Max Speed", "Max speed = 500", Text2);
   if (pitch_long_ < 50) Correct(pitch_long_, 700, "Min Pitch", "Min pitch = 50 Hertz", Text3);
-  if (pitch_long_ > 32000) Correct(pitch_long_, 700, "Max Pitch", "Max pitch = 32000", Text3);
+  if (pitch_long_ > base::kHighestPitch) {
+    const std::string highest = base::BareNumber(base::kHighestPitch);
+    Correct(pitch_long_, 700, "Max Pitch", "Max pitch = " + highest, Text3);
+  }
   speed_ = base::ToInt16(speed_long_);
   pitch_ = base::ToInt16(pitch_long_);
 }

@@ -2,26 +2,20 @@
 
 #include <algorithm>
 
+#include "base/characters.h"
+
 namespace online {
 namespace {
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 bool IsLetterOrDigit(char c) {
-  return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-char Lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return base::IsLetter(c) || base::IsDigit(c);
 }
 
 // Takes `beginning`, in lower case, off `text`, whatever the case there.
 bool TakeOff(std::string_view& text, std::string_view beginning) {
   const bool begins = text.size() >= beginning.size() &&
                       std::equal(beginning.begin(), beginning.end(), text.begin(),
-                                 [](char a, char b) { return a == Lower(b); });
+                                 [](char a, char b) { return a == base::Lower(b); });
   if (begins) text.remove_prefix(beginning.size());
   return begins;
 }
@@ -44,7 +38,7 @@ bool IsPort(std::string_view text) {
   if (text.empty() || text.size() > kMostDigits) return false;
   int port = 0;
   for (const char c : text) {
-    if (!IsDigit(c)) return false;
+    if (!base::IsDigit(c)) return false;
     port = port * 10 + (c - '0');
   }
   return port >= 1 && port <= kHighest;

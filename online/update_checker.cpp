@@ -1,12 +1,12 @@
 #include "online/update_checker.h"
 
+#include "base/version.h"
 #include "online/downloads.h"
 #include "online/links.h"
 
 namespace online {
 namespace {
 
-constexpr char kOwnVersion[] = "2.3.6";
 constexpr int kTickMs = 5;
 
 }  // namespace
@@ -42,7 +42,7 @@ void UpdateChecker::Offer(const UpdateFile& update) {
   dialog_.SetCaption(texts_.Of(Slot::kUpdateTitle));
   dialog_.Command1.SetCaption(texts_.Of(Slot::kUpdateAccept));
   dialog_.Command2.SetCaption(texts_.Of(Slot::kUpdateDecline));
-  dialog_.List1.SetItems({texts_.Of(Slot::kUpdateCurrent) + kOwnVersion,
+  dialog_.List1.SetItems({texts_.Of(Slot::kUpdateCurrent) + base::kVersion,
                           texts_.Of(Slot::kUpdateNew) + DottedVersion(update.version),
                           "Link: " + link});
   dialog_.download_link = link;

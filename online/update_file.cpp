@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "base/characters.h"
 #include "base/errors.h"
 #include "base/numbers.h"
+#include "base/version.h"
 
 namespace online {
 namespace {
 
-constexpr double kOwnVersion = 236;
 constexpr std::size_t kMostLines = 8;
 
 // Takes the first line, with its end, off `text`.
@@ -37,10 +38,10 @@ std::optional<UpdateFile> ParseUpdateFile(std::string_view content) {
 
 bool IsNewer(std::string_view version) {
   try {
-    return base::LeadingNumber(version) > kOwnVersion;
+    return base::LeadingNumber(version) > base::kVersionNumber;
   } catch (const base::RuntimeError&) {
     // Beyond all numbers; which end of them says the sign.
-    return version[version.find_first_not_of(" \t")] != '-';
+    return version[version.find_first_not_of(base::kBlanks)] != '-';
   }
 }
 

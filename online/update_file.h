@@ -19,7 +19,7 @@ struct UpdateFile {
 std::optional<UpdateFile> ParseUpdateFile(std::string_view content);
 
 // Whether the number that `version` begins with (0 when there is none) is greater than this
-// program's, 236.
+// program's (base::kVersionNumber).
 bool IsNewer(std::string_view version);
 
 // The first three characters of `version` with points between them: "237" gives "2.3.7". Those of

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/characters.h"
 #include "base/text.h"
 
 namespace online {
@@ -22,7 +23,7 @@ std::string_view Authority(std::string_view link) {
 }
 
 bool IsHexDigit(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+  return base::IsDigit(c) || (base::Lower(c) >= 'a' && base::Lower(c) <= 'f');
 }
 
 std::string WithWholeEscapes(std::string_view link) {

@@ -20,6 +20,10 @@ readonly bench_packages=(fonts-liberation imagemagick openbox pulseaudio pulseau
 readonly site_packages=(chromium chromium-driver fonts-liberation nginx openssl python3-pytest
   python3-selenium tidy)
 
+# What looks at the sources without running them.
+readonly lint_packages=(clang clang-format clang-tidy cmake flake8 g++-mingw-w64-x86-64-win32 git make
+  shellcheck)
+
 heading() {
   printf '\n== %s\n' "$*"
 }

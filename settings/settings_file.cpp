@@ -1,7 +1,5 @@
 #include "settings/settings_file.h"
 
-#include <ranges>
-
 #include "base/field_reader.h"
 #include "base/numbers.h"
 #include "base/text.h"
@@ -68,9 +66,9 @@ bool SettingsFile::Apply() {
     log_.PrintFile(entry);
     if (setting->applied == Applied::kAtOnce) setting->apply(*setting, read, state_, display_);
   }
-  for (const Setting* setting : std::views::reverse(kAllSettings)) {
-    if (setting->applied == Applied::kWhenAllAreRead) {
-      setting->apply(*setting, read, state_, display_);
+  for (auto at = std::rbegin(kAllSettings); at != std::rend(kAllSettings); ++at) {
+    if ((*at)->applied == Applied::kWhenAllAreRead) {
+      (*at)->apply(**at, read, state_, display_);
     }
   }
   return true;

@@ -60,6 +60,7 @@ FURTHER_HEADERS = {
 STANDARD_HEADER = re.compile("[a-z_0-9]+")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
+
 def room_of(path: str) -> str:
     """The innermost room of the table that holds `path`, or nothing."""
     parts = path.split("/")
@@ -67,6 +68,7 @@ def room_of(path: str) -> str:
         if "/".join(parts[:length]) in ALLOWED:
             return "/".join(parts[:length])
     return ""
+
 
 def violations(path: str, text: str) -> list[str]:
     room = room_of(path)
@@ -85,10 +87,12 @@ def violations(path: str, text: str) -> list[str]:
             found.append(f"{path}: <{header}> is no header of the C++ standard library")
     return found
 
+
 def sources() -> list[Path]:
     unwatched = {"build", "out", ".git"}
     return [path for pattern in ("*.h", "*.cpp") for path in sorted(PROJECT.rglob(pattern))
             if path.relative_to(PROJECT).parts[0] not in unwatched]
+
 
 def main() -> int:
     files = sources()
@@ -99,6 +103,7 @@ def main() -> int:
         print(violation)
     print(f"{len(files)} files, {len(found)} violations")
     return 1 if found or not files else 0
+
 
 if __name__ == "__main__":
     sys.exit(main())

@@ -1,15 +1,13 @@
 #include "tone/helper_routes.h"
 
 #include "base/numbers.h"
+#include "base/pitches.h"
 #include "base/error_trap.h"
 
 namespace tone {
 namespace {
 
-constexpr std::int16_t kSweepTop = 32000;
-constexpr std::int16_t kSweepStep = 200;
 constexpr std::int16_t kSweepRestart = 100;
-constexpr std::int16_t kSweepTickMs = 200;
 
 }  // namespace
 
@@ -37,16 +35,16 @@ void HelperRoutes::LowToHigh(base::SoundMode mode) {
   base::Quietly([&] {
     support_.ReadTempFolder();
     sweep_pitch_ = 0;
-    support_.WriteHandOver("1");
+    support_.WriteHandOver(base::BareNumber(base::kHelperSweep));
     support_.ShowPitchCaption();
     StartHelper(output);
     do {
       support_.HandleMessages();
       if (sweep_pitch_ == 1) sweep_pitch_ = 0;
-      sweep_pitch_ = base::ToInt16(sweep_pitch_ + kSweepStep);
-      if (sweep_pitch_ >= kSweepTop) Restart(output);
+      sweep_pitch_ = base::ToInt16(sweep_pitch_ + base::kSweepStep);
+      if (sweep_pitch_ >= base::kHighestPitch) Restart(output);
       ShowSweep(output);
-      support_.Pause(kSweepTickMs);
+      support_.Pause(base::kHelperStepMs);
     } while (!support_.Stopped());
     support_.KillAll();
   });

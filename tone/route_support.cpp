@@ -1,6 +1,7 @@
 #include "tone/route_support.h"
 
 #include "base/numbers.h"
+#include "base/sine_modes.h"
 #include "base/text.h"
 #include "lang/languages.h"
 #include "tone/helper_programs.h"
@@ -11,7 +12,6 @@ namespace {
 
 constexpr char kPitchCaption[] = "Actual pitch (Hertz): ";
 constexpr std::int16_t kBitsPerSample = 16;
-constexpr std::int16_t kStillSine = 930;
 
 }  // namespace
 
@@ -63,7 +63,7 @@ void RouteSupport::ShowPitch(std::int32_t pitch) {
 }
 
 void RouteSupport::DrawStep(std::int16_t pitch) {
-  scene_.DrawSine(pitch, kStillSine);
+  scene_.DrawSine(pitch, base::kStillSine);
 }
 
 bool RouteSupport::Stopped() const {

@@ -26,7 +26,7 @@ class PlayScene {
   virtual ui::WindowView& MainWindowView() = 0;
   virtual void ShowStatus(const std::string& text) = 0;
 
-  // The preview of a sine wave of `pitch` Hz; mode 930 draws it still.
+  // The preview of a sine wave of `pitch` Hz, drawn in a mode of base/sine_modes.h.
   virtual void DrawSine(std::int16_t pitch, std::int16_t mode) = 0;
 
   // The caption of the status panel in the loaded language.

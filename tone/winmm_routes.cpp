@@ -1,13 +1,12 @@
 #include "tone/winmm_routes.h"
 
 #include "base/numbers.h"
+#include "base/pitches.h"
 #include "base/error_trap.h"
 
 namespace tone {
 namespace {
 
-constexpr std::int16_t kSweepTop = 32000;
-constexpr std::int16_t kSweepStep = 200;
 constexpr std::int16_t kSweepTickMs = 75;
 
 }  // namespace
@@ -48,8 +47,8 @@ void WinmmRoutes::SoundWinmmLTH() {
     std::int16_t pitch = 0;
     do {
       support_.HandleMessages();
-      if (pitch >= kSweepTop) pitch = 0;
-      pitch = base::ToInt16(pitch + kSweepStep);
+      if (pitch >= base::kHighestPitch) pitch = 0;
+      pitch = base::ToInt16(pitch + base::kSweepStep);
       StartTone(pitch);
       support_.ShowPitch(pitch);
       support_.DrawStep(pitch);

@@ -3,15 +3,15 @@
 #include <optional>
 #include <set>
 
+#include "base/characters.h"
+
 namespace ui {
 namespace {
 
 using Keys = std::set<char>;
 
 std::optional<char> KeyOf(char c) {
-  if (c >= 'a' && c <= 'z') return c;
-  if (c >= 'A' && c <= 'Z') return static_cast<char>(c - 'A' + 'a');
-  if (c >= '0' && c <= '9') return c;
+  if (base::IsLetter(c) || base::IsDigit(c)) return base::Lower(c);
   return std::nullopt;
 }
 
@@ -37,7 +37,7 @@ Rank RankOf(const Candidate& caption, std::size_t at) {
 std::optional<std::size_t> Choose(const Candidate& caption, Rank rank, const Keys& taken) {
   for (std::size_t i = 0; i < caption.text.size(); ++i) {
     const auto key = KeyOf(caption.text[i]);
-    if (key && taken.count(*key) == 0 && RankOf(caption, i) == rank) return i;
+    if (key && !taken.contains(*key) && RankOf(caption, i) == rank) return i;
   }
   return std::nullopt;
 }

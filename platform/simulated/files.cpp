@@ -114,7 +114,7 @@ void Files::Heal() {
 }
 
 bool Files::Exists(const std::string& path) {
-  return files_.count(base::ToLower(path)) != 0;
+  return files_.contains(base::ToLower(path));
 }
 
 std::unique_ptr<InputFile> Files::OpenForReading(const std::string& path) {
@@ -168,7 +168,7 @@ void Files::Check(Operation operation, const std::string& path) {
 }
 
 void Files::CheckFolder(const std::string& path) const {
-  if (folders_.count(base::ToLower(FolderOf(path))) == 0) {
+  if (!folders_.contains(base::ToLower(FolderOf(path)))) {
     throw base::RuntimeError(base::ErrorCode::kPathNotFound);
   }
 }

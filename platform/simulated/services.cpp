@@ -56,8 +56,8 @@ std::string FixedClock::ShortTime() {
 bool FakeProcesses::Terminate(std::uint32_t id) {
   const auto process = std::find_if(running.begin(), running.end(),
                                     [id](const ProcessEntry& entry) { return entry.id == id; });
-  if (process == running.end() || protected_ids.count(id) != 0) return false;
-  if (fleeting_ids.count(id) != 0) {
+  if (process == running.end() || protected_ids.contains(id)) return false;
+  if (fleeting_ids.contains(id)) {
     running.erase(process);
     return false;
   }
@@ -84,7 +84,7 @@ void FakeProcesses::EndProcess() {
 }
 
 void FakeProcesses::Begin(const std::string& command, const std::string& how) {
-  if (missing_commands.count(command) != 0) {
+  if (missing_commands.contains(command)) {
     throw base::RuntimeError(base::ErrorCode::kFileNotFound);
   }
   journal_.Add(Kind::kProcess, how + command);

@@ -74,7 +74,7 @@ class Simulation {
       .timers = pump,
       .sound_capture = sound_capture,
   };
-// Schedules `action` at a moment of the virtual clock.
+  // Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);
 
   // Runs `program` until it returns, ends its process or waits for a user who does nothing more.

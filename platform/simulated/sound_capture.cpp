@@ -9,12 +9,14 @@ namespace {
 
 constexpr std::int32_t kFirstId = 501;
 
-class Counted {
+class CountedCapture {
  public:
-  explicit Counted(FakeSoundCapture& capture) : capture_(capture) { ++capture_.live_objects; }
-  ~Counted() { --capture_.live_objects; }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
+  explicit CountedCapture(FakeSoundCapture& capture) : capture_(capture) {
+    ++capture_.live_objects;
+  }
+  ~CountedCapture() { --capture_.live_objects; }
+  CountedCapture(const CountedCapture&) = delete;
+  CountedCapture& operator=(const CountedCapture&) = delete;
 
   FakeSoundCapture& capture() const { return capture_; }
 
@@ -30,7 +32,7 @@ class FakeEvent : public CaptureEvent {
   std::int32_t Id() const override { return id_; }
 
  private:
-  Counted counted_;
+  CountedCapture counted_;
   std::int32_t id_;
 };
 
@@ -97,7 +99,7 @@ class FakeCaptureBuffer : public CaptureBuffer {
     capture().Notify(id);
   }
 
-  Counted counted_;
+  CountedCapture counted_;
   int period_ms_;
   std::vector<std::int32_t> ids_;
   std::size_t half_ = 1;  // the position that capture passes next
@@ -119,7 +121,7 @@ class FakeCaptureDevice : public CaptureDevice {
   }
 
  private:
-  Counted counted_;
+  CountedCapture counted_;
 };
 
 class FakeCaptureRoot : public CaptureRoot {
@@ -140,13 +142,13 @@ class FakeCaptureRoot : public CaptureRoot {
     FakeSoundCapture& capture = counted_.capture();
     capture.Call(CaptureCall::kEvent, "event");
     std::int32_t id = kFirstId;
-    while (capture.callbacks.count(id) != 0) ++id;
+    while (capture.callbacks.contains(id)) ++id;
     capture.callbacks[id] = std::move(callback);
     return std::make_unique<FakeEvent>(capture, id);
   }
 
  private:
-  Counted counted_;
+  CountedCapture counted_;
 };
 
 }  // namespace
@@ -164,7 +166,7 @@ std::unique_ptr<CaptureRoot> FakeSoundCapture::Create() {
 }
 
 void FakeSoundCapture::Call(CaptureCall call, const std::string& text) {
-  if (fails_.count(call) != 0) throw base::RuntimeError(base::ErrorCode::kDeviceError);
+  if (fails_.contains(call)) throw base::RuntimeError(base::ErrorCode::kDeviceError);
   Note(text);
 }
 

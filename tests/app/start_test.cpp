@@ -1,5 +1,6 @@
 #include "tests/app/fixture.h"
 
+#include "app/form8.h"
 #include "base/errors.h"
 
 namespace app {
@@ -47,6 +48,11 @@ TEST_F(StartTest, TheStatusWindowShowsEachStepAndTheMainWindowComesWhenItIsGone)
             (Lines{"Form8.Label2 caption: Windows check...", "Form8.Label2 caption: Write test...",
                    "Form8.Label2 caption: Reading settings...",
                    "Form8.Label2 caption: Checking for updates..."}));
+}
+
+TEST_F(StartTest, TheStatusWindowNamesTheVersion) {
+  const Form8 form8(sim.windows);
+  EXPECT_EQ(form8.Label4.Caption(), "Version 2.3.6");
 }
 
 TEST_F(StartTest, AfterTheStartNothingPlaysAndNoModeIsSelected) {

@@ -256,5 +256,3 @@ def end_process(process: subprocess.Popen) -> None:
         except subprocess.TimeoutExpired:
             process.kill()
             process.wait()
-
-

@@ -52,4 +52,3 @@ class Microphone:
     def _module(self) -> str:
         modules = self._bench.run("pactl", "list", "short", "modules").splitlines()
         return next(line.split("\t")[0] for line in modules if "sink_name=mic" in line)
-

@@ -169,5 +169,3 @@ def play_once(program: Tonmira, user: User, mode: str) -> Window:
     wait_for(lambda: window.is_checked(mode), f"the mode {mode!r}")
     user.click_button(window, "Play Sound")
     return window
-
-

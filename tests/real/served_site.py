@@ -1,13 +1,13 @@
 """The maker's site, served by nginx on this machine for as long as a test needs it.
 
-The server is the caller's own child process. It serves a copy of site/, in which a test may put
+The server is the caller's own child process. It serves what site/ makes, in which a test may put
 other contents in a file's place, and takes uploads as on a real host (docs/nginx-site.conf).
 """
 
 import contextlib
-import shutil
 import socket
 import subprocess
+import sys
 import tempfile
 from collections.abc import Iterator, Mapping
 from dataclasses import dataclass
@@ -57,7 +57,7 @@ class ServedSite:
 
     @property
     def pages(self) -> Path:
-        """The served copy of site/; what is changed here is served at once."""
+        """The served site; what is changed here is served at once."""
         return self.folder / "pages"
 
     @property
@@ -94,6 +94,11 @@ class ServedSite:
         return found
 
 
+def make_site(folder: Path) -> None:
+    """Writes the site as it is hosted into a new folder."""
+    subprocess.run([sys.executable, SITE / "make_site.py", folder], check=True)
+
+
 @contextlib.contextmanager
 def served_site(parent: Path, overrides: Mapping[str, bytes | None] | None = None,
                 rules: str = "", tls: bool = False) -> Iterator[ServedSite]:
@@ -103,7 +108,7 @@ def served_site(parent: Path, overrides: Mapping[str, bytes | None] | None = Non
     nginx directives of the server that come before the site's own.
     """
     folder = Path(tempfile.mkdtemp(prefix="site-", dir=parent))
-    shutil.copytree(SITE, folder / "pages")
+    make_site(folder / "pages")
     (folder / "uploads" / "usage").mkdir(parents=True)
     for name, content in (overrides or {}).items():
         path = folder / "pages" / name

@@ -12,6 +12,7 @@ from window import User
 # The number of the entry "Winmm" in the menu, as its position gives it.
 MENU_WINMM = 1010
 
+
 def assert_lines(lines: list[str], patterns: list[str]) -> None:
     for number, (line, pattern) in enumerate(zip(lines, patterns), start=1):
         assert re.fullmatch(pattern, line), f"line {number} is {line!r}, not {pattern!r}"

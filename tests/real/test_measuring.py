@@ -95,7 +95,8 @@ def test_a_pitch_beside_the_grid_is_no_step() -> None:
 
 
 @pytest.mark.parametrize("frequency", [699.0, 700.0, 701.3])
-def test_the_pitch_of_a_short_tone_is_measured_to_a_hundredth_of_a_percent(frequency: float) -> None:
+def test_the_pitch_of_a_short_tone_is_measured_to_a_hundredth_of_a_percent(
+        frequency: float) -> None:
     assert short_pitch(tone(frequency, 0.08)) == pytest.approx(frequency, rel=1e-4)
 
 

@@ -348,12 +348,13 @@ def test_the_menus_open_the_pages_of_the_site(
         wait_for(lambda: len(opened(folders)) == number, page)
         assert opened(folders)[-1] == f'<"{site}{page}">'
     assert program.folders.log()[-3:] == ["> Visiting site", "> Visiting donation page",
-                                  "> Visiting donation page"]
+                                          "> Visiting donation page"]
 
 
 @pytest.mark.parametrize("language", ["EN", "NL"])
 def test_the_update_dialog_and_the_news_window_show_all_of_their_texts(
-        bench: Bench, user: User, driver_at_dpi: tuple[Driver, int], language: str) -> None:
+        bench: Bench, user: User, driver_at_dpi: tuple[Driver, int],  # noqa: F811
+        language: str) -> None:
     driver, dpi = driver_at_dpi
     folders = Folders(bench)
     settings = list(GOOD_SETTINGS)

@@ -10,7 +10,8 @@ from served_site import ServedSite, served_site
 from test_online import NEWS_TITLES, PATIENCE_S, begin  # noqa: F401
 
 
-def start(begin: Callable[..., Tonmira], site: ServedSite, **settings: str) -> Tonmira:  # noqa: F811
+def start(begin: Callable[..., Tonmira], site: ServedSite,  # noqa: F811
+          **settings: str) -> Tonmira:
     program = begin(site.base_url, **settings)
     program.window(seconds=PATIENCE_S)
     program.wait_for_log(">> Program starting finished")

@@ -1,4 +1,4 @@
-"""The samples of every pitch from 1 to 32000 Hz: the plain formula's, and the same on every build."""
+"""The samples of every pitch from 1 to 32000 Hz: the plain formula's, the same on every build."""
 
 import subprocess
 from pathlib import Path

@@ -43,5 +43,3 @@ def climbs(pitches: list[int], highest: int) -> bool:
     steps = np.diff(wanted)
     missing = len(range(200, highest + 1, 200)) - len(wanted)
     return len(wanted) > 0 and bool((steps > 0).all()) and wanted[-1] == highest and missing <= 3
-
-

@@ -42,7 +42,8 @@ CONTRAST = """
   while (texts.nextNode()) {
     if (!texts.currentNode.data.trim()) continue;
     const element = texts.currentNode.parentElement;
-    const pair = [light(getComputedStyle(element).color), light(ground(element))].sort((a, b) => a - b);
+    const pair = [getComputedStyle(element).color, ground(element)].map(light);
+    pair.sort((a, b) => a - b);
     const contrast = (pair[1] + 0.05) / (pair[0] + 0.05);
     if (contrast < worst[0]) worst = [contrast, texts.currentNode.data.trim()];
   }

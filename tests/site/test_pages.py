@@ -9,7 +9,7 @@ from selenium.webdriver.common.keys import Keys
 
 from bench import PROJECT
 from browser import Browser
-from served_site import SITE, ServedSite, served_site
+from served_site import ServedSite, served_site
 
 # Path that the program asks for -> heading of the page that it must lead to.
 PAGES = {
@@ -25,10 +25,10 @@ CURRENT_VERSION = "2.3.6"
 
 
 @pytest.mark.parametrize("name", FILES)
-def test_its_html_is_valid(name: str) -> None:
+def test_its_html_is_valid(pages: Path, name: str) -> None:
     # The attribute that marks the current page in a menu is younger than this checker.
     check = subprocess.run(
-        ["tidy", "-e", "-q", "--warn-proprietary-attributes", "no", SITE / name],
+        ["tidy", "-e", "-q", "--warn-proprietary-attributes", "no", pages / name],
         stdin=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True, check=False)
     assert (check.returncode, check.stderr) == (0, "")
 
@@ -77,12 +77,12 @@ def test_a_page_needs_no_script_and_nothing_from_elsewhere(
 
 @pytest.mark.parametrize("name", FILES)
 def test_what_someone_slips_into_a_page_is_neither_run_nor_fetched(
-        tmp_path: Path, browser: Browser, name: str) -> None:
+        tmp_path: Path, pages: Path, browser: Browser, name: str) -> None:
     with served_site(tmp_path) as other:
         foreign = (f'<script>document.title = "run"</script><script src="{other.base_url}/s.js">'
                    f'</script><img alt="" src="{other.base_url}/icon.png" onload="document.title='
                    f"'run'\"><link rel=\"stylesheet\" href=\"{other.base_url}/style.css\"></body>")
-        page = (SITE / name).read_text().replace("</body>", foreign)
+        page = (pages / name).read_text().replace("</body>", foreign)
         with served_site(tmp_path, {name: page.encode()}) as site:
             browser.open(f"{site.base_url}/{name}")
             assert "Tonmira" in browser.driver.title
@@ -154,8 +154,8 @@ def test_pictures_have_a_text_and_keep_their_shape(site: ServedSite, browser: Br
 
 
 @pytest.mark.parametrize("name", [*FILES, "style.css"])
-def test_an_embedded_browser_of_old_can_read_it(name: str) -> None:
-    text = (SITE / name).read_bytes().decode("ascii")
+def test_an_embedded_browser_of_old_can_read_it(pages: Path, name: str) -> None:
+    text = (pages / name).read_bytes().decode("ascii")
     # The layout stands without what Internet Explorer 6 to 10 do not know, and no link begins at
     # the host's root: the site may lie in a folder.
     assert re.findall(r"var\(|display:\s*(?:grid|flex)|<script|href=\"/", text) == []

@@ -1,6 +1,6 @@
 // Files through the system's wide functions. Every file is opened so that other programs may read,
-// rename and delete it meanwhile, and write it if it is not being written. A file that is held for an instant is tried again for
-// about an eighth of a second before the error counts.
+// rename and delete it meanwhile, and write it if it is not being written. A file that is held for
+// an instant is tried again for about an eighth of a second before the error counts.
 #pragma once
 
 #include "platform/files.h"
