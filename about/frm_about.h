@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "base/error_trap.h"
 #include "lang/language_loader.h"
 #include "platform/platform.h"
-#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace about {

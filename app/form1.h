@@ -16,7 +16,6 @@
 #include "app/services.h"
 #include "app/tone_modes.h"
 #include "base/numbers.h"
-#include "settings/main_state.h"
 #include "display/dx_record.h"
 #include "display/waveform.h"
 #include "lang/texts.h"
@@ -24,6 +23,7 @@
 #include "online/links.h"
 #include "platform/platform.h"
 #include "program_files/form9.h"
+#include "settings/main_state.h"
 
 namespace app {
 

@@ -4,10 +4,10 @@
 #include <functional>
 #include <string>
 
-#include "settings/main_state.h"
+#include "base/error_trap.h"
 #include "online/usage_data.h"
 #include "platform/platform.h"
-#include "base/error_trap.h"
+#include "settings/main_state.h"
 
 namespace app {
 

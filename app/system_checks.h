@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
 
 namespace app {
 

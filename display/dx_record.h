@@ -13,8 +13,8 @@
 #include <span>
 #include <string>
 
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
 #include "ui/window.h"
 
 namespace display {

@@ -1,7 +1,7 @@
 #include "display/sine_animation.h"
 
-#include "display/pictures.h"
 #include "base/sine_modes.h"
+#include "display/pictures.h"
 #include "display/sine_preview.h"
 #include "display/twips.h"
 #include "ui/window.h"

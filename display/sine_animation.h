@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <memory>
 
-#include "settings/main_state.h"
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
+#include "settings/main_state.h"
 #include "ui/controls.h"
 
 namespace display {

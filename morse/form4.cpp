@@ -2,11 +2,11 @@
 
 #include <utility>
 
+#include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/pitches.h"
 #include "base/text.h"
 #include "morse/morse_code.h"
-#include "base/error_trap.h"
 
 namespace morse {
 namespace {

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "settings/main_state.h"
 #include "lang/language_loader.h"
 #include "platform/platform.h"
+#include "settings/main_state.h"
 #include "tone/route_support.h"
 #include "tone/short_tones.h"
 #include "ui/window.h"

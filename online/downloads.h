@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string>
 
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
 
 namespace online {
 

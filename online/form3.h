@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <string>
 
-#include "lang/languages.h"
-#include "settings/main_state.h"
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "lang/languages.h"
+#include "platform/platform.h"
+#include "settings/main_state.h"
 #include "ui/window.h"
 
 namespace online {

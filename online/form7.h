@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "base/error_trap.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
-#include "base/error_trap.h"
 #include "ui/window.h"
 
 namespace online {

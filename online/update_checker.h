@@ -4,12 +4,12 @@
 #include <optional>
 #include <string>
 
+#include "base/error_trap.h"
 #include "lang/texts.h"
 #include "online/form7.h"
 #include "online/update_file.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
-#include "base/error_trap.h"
 
 namespace online {
 

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
 #include "settings/log_upload.h"
 
 namespace online {

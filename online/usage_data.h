@@ -1,10 +1,10 @@
 // SendData: sends the activity log to the maker, when the user has agreed to that.
 #pragma once
 
-#include "settings/main_state.h"
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
 #include "settings/log_upload.h"
+#include "settings/main_state.h"
 #include "settings/usage_upload.h"
 
 namespace online {

@@ -1,10 +1,10 @@
 // The player window and its load routine.
 #include "program_files/form9.h"
 
+#include "base/error_trap.h"
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "program_files/line_reader.h"
-#include "base/error_trap.h"
 
 namespace program_files {
 namespace {

@@ -15,9 +15,9 @@
 #include <vector>
 
 #include "base/sound_mode.h"
-#include "settings/main_state.h"
 #include "platform/platform.h"
 #include "program_files/tone_program.h"
+#include "settings/main_state.h"
 #include "tone/helper_programs.h"
 #include "tone/route_support.h"
 #include "tone/winmm_routes.h"

@@ -1,7 +1,7 @@
 // Playing the tone program.
+#include "base/error_trap.h"
 #include "base/numbers.h"
 #include "program_files/form9.h"
-#include "base/error_trap.h"
 
 namespace program_files {
 namespace {

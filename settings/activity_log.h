@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/platform.h"
 #include "base/error_trap.h"
+#include "platform/platform.h"
 
 namespace settings {
 

@@ -4,9 +4,9 @@
 #include <cstdint>
 
 #include "base/error_trap.h"
-#include "settings/main_state.h"
 #include "platform/platform.h"
 #include "settings/log_upload.h"
+#include "settings/main_state.h"
 
 namespace settings {
 

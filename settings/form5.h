@@ -11,10 +11,10 @@
 #include <cstdint>
 #include <functional>
 
-#include "settings/main_state.h"
-#include "platform/platform.h"
-#include "lang/languages.h"
 #include "base/error_trap.h"
+#include "lang/languages.h"
+#include "platform/platform.h"
+#include "settings/main_state.h"
 #include "ui/window.h"
 
 namespace settings {

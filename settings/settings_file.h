@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-#include "settings/main_state.h"
+#include "base/error_trap.h"
 #include "platform/platform.h"
 #include "settings/activity_log.h"
-#include "base/error_trap.h"
+#include "settings/main_state.h"
 #include "settings/usage_upload.h"
 
 namespace settings {

@@ -1,11 +1,11 @@
 #include "tone/route_support.h"
 
+#include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/sine_modes.h"
 #include "base/text.h"
 #include "lang/languages.h"
 #include "tone/helper_programs.h"
-#include "base/error_trap.h"
 
 namespace tone {
 namespace {

@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <string>
 
-#include "settings/main_state.h"
 #include "platform/platform.h"
+#include "settings/main_state.h"
 #include "tone/wave_output.h"
 
 namespace tone {

@@ -1,7 +1,7 @@
 #include "tone/wave_output.h"
 
-#include "tone/wave_image.h"
 #include "base/error_trap.h"
+#include "tone/wave_image.h"
 
 namespace tone {
 namespace {

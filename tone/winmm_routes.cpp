@@ -1,8 +1,8 @@
 #include "tone/winmm_routes.h"
 
+#include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/pitches.h"
-#include "base/error_trap.h"
 
 namespace tone {
 namespace {

@@ -5,13 +5,13 @@
 #include <string>
 #include <utility>
 
-#include "platform/windows/web/download_callback.h"
 #include "base/errors.h"
-#include "platform/windows/system/file_system.h"
 #include "platform/windows/api/handles.h"
 #include "platform/windows/api/system_library.h"
-#include "platform/windows/web/unsized_answer.h"
 #include "platform/windows/api/wide_text.h"
+#include "platform/windows/system/file_system.h"
+#include "platform/windows/web/download_callback.h"
+#include "platform/windows/web/unsized_answer.h"
 
 namespace platform::windows {
 namespace {
