@@ -10,6 +10,9 @@ else()
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # GCC 12 sees overlapping copies where texts are joined with "+" (its bug 105651).
     target_compile_options(build_settings INTERFACE -Wno-restrict)
+  else()
+    # As in GCC, whose -Wconversion leaves signs alone.
+    target_compile_options(build_settings INTERFACE -Wno-sign-conversion)
   endif()
 endif()
 
@@ -24,7 +27,8 @@ if(WIN32 AND NOT MSVC)
 endif()
 
 if(TONMIRA_SANITIZE)
+  # Lines are all that a finding needs to name; more of what debuggers want doubles the build.
   target_compile_options(build_settings INTERFACE
-    -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -g1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(build_settings INTERFACE -fsanitize=address,undefined)
 endif()

@@ -172,7 +172,7 @@ TEST_F(MicrophoneTest, SwitchedOnAndOffAHundredTimesItLeavesNothing) {
 TEST_F(MicrophoneTest, WithoutADeviceSwitchingItOnShowsDirectSoundErrorAndLeavesItOff) {
   sim.files.Put(kSettings, SettingsWith("1", "n"));
   sim.sound_capture.devices.clear();
-  At(1s, [this](Form1& form1) {
+  At(1s, [](Form1& form1) {
     form1.microinputonoff.Click();
     EXPECT_FALSE(form1.microinputonoff.Checked());
   });

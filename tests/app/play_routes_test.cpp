@@ -124,8 +124,7 @@ TEST_F(PlayTest, AWaveFileThatCannotBeWrittenIsSilentAndStopStillWorks) {
 
 // A marker of how deep the stack is when a user's action runs.
 std::ptrdiff_t StackPosition() {
-  const char here = 0;
-  return reinterpret_cast<std::ptrdiff_t>(&here);
+  return reinterpret_cast<std::ptrdiff_t>(__builtin_frame_address(0));
 }
 
 struct Rounds {

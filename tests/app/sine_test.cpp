@@ -150,7 +150,7 @@ TEST_F(SineTest, TheSliderDrawsAStillPictureThatNothingMoves) {
 }
 
 TEST_F(SineTest, FourHertzIsNearlyAFlatLineInTheMiddle) {
-  At(1s, [this](Form1& form1) {
+  At(1s, [](Form1& form1) {
     form1.Option7.Click();
     form1.HScroll1.ScrollTo(4);
     const ui::Canvas& picture = form1.Picture1.Picture();
