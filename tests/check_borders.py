@@ -32,7 +32,7 @@ ALLOWED = {
     "helpers": {"base", "tone", "platform/windows"},
     "tests": APP | {"app", "helpers"} | SIMULATION,
     "tests/fuzz": {"base", "platform", "program_files", "tests"},
-    "tests/real": set(),
+    "tests/rig": set(),
     "bench": APP | {"app", "tests"} | SIMULATION,
 }
 
@@ -40,7 +40,7 @@ ALLOWED = {
 SHARED_HEADERS = {"helpers": {"online/addresses.h"}}
 
 # Where the Windows API may be used.
-WINDOWS = {"platform/windows", "main.cpp", "helpers", "tests/real"}
+WINDOWS = {"platform/windows", "main.cpp", "helpers", "tests/rig"}
 
 # Beside the C++ standard library's headers.
 FURTHER_HEADERS = {

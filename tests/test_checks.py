@@ -39,7 +39,7 @@ The Import Tables (interpreted .idata section contents)
     ("platform/simulated/pump.cpp", "  #  include <windows.h>"),
     ("platform/windows/pump.cpp", '#include "app/form1.h"'),
     ("bench/synthesis_bench.cpp", "#include <windows.h>"),
-    ("tests/real/driver.cpp", '#include "base/text.h"'),
+    ("tests/rig/driver/driver.cpp", '#include "base/text.h"'),
     ("helpers/request.cpp", '#include "online/update_check.h"'),
     ("base/text.cpp", "#include <gtest/gtest.h>"),
     ("base/text.cpp", "#include <string.h>"),
@@ -57,7 +57,7 @@ def test_a_border_crossed_is_found(path: str, line: str) -> None:
     ("helpers/request.cpp", '#include "online/addresses.h"'),
     ("main.cpp", '#include "platform/windows/windows_platform.h"'),
     ("platform/windows/pump.cpp", "#include <windows.h>"),
-    ("tests/real/bare_window.cpp", "#include <windows.h>"),
+    ("tests/rig/bare/bare_window.cpp", "#include <windows.h>"),
     ("tests/tone/sine_test.cpp", "#include <gtest/gtest.h>"),
     ("tests/tone/sine_test.cpp", '#include "platform/simulated/simulation.h"'),
 ])
