@@ -1,4 +1,4 @@
-"""Figures of the moving pictures of the real program, measured on the private test bench:
+"""Figures of the moving pictures of the real program, measured on the private test rig:
 
 - the processor time that they take, as a share of one core;
 - how many pictures a second reach the screen while a tone plays;
@@ -11,15 +11,15 @@ Run it with /usr/bin/python3 after ./test or "cmake --build --preset windows".
 import statistics
 import time
 
-from real import PAIRS, PROGRAM, share_of_core, start_up_ms  # makes the bench's modules known
+from real import PAIRS, PROGRAM, share_of_core, start_up_ms  # makes the rig known
 
-from bench import Bench
-from microphone import Microphone
-from playing import start
-from program import GOOD_SETTINGS, MAIN_TITLE, Folders
-from screen import Screen
-from sound import Recorder
-from window import Driver, Place, Window
+from rig.microphone import Microphone
+from rig.playing import start
+from rig.program import GOOD_SETTINGS, MAIN_TITLE, Folders
+from rig.rig import Rig
+from rig.screen import Screen
+from rig.sound import Recorder
+from rig.window import Driver, Place, Window
 
 WATCHED_S = 10
 QUESTIONS = 200
@@ -41,10 +41,10 @@ def longest_answers(window: Window) -> str:
     return f"median {statistics.median(waits):.1f} ms, longest {waits[-1]:.1f} ms"
 
 
-def moving_pictures(bench: Bench, driver: Driver) -> None:
-    recorder, microphone, screen = Recorder(bench), Microphone(bench), Screen(bench)
+def moving_pictures(rig: Rig, driver: Driver) -> None:
+    recorder, microphone, screen = Recorder(rig), Microphone(rig), Screen(rig)
     microphone.feed(503, 1508)
-    program = start(bench, driver, "128")
+    program = start(rig, driver, "128")
     try:
         window = program.window()
         time.sleep(1)
@@ -73,26 +73,26 @@ def moving_pictures(bench: Bench, driver: Driver) -> None:
         recorder.stop()
 
 
-def start_up_with_microphone(bench: Bench, driver: Driver) -> None:
+def start_up_with_microphone(rig: Rig, driver: Driver) -> None:
     folders = {}
     for on in ("y", "n"):
-        folders[on] = Folders(bench)
+        folders[on] = Folders(rig)
         folders[on].write_settings(["AutoUpdate=n", *GOOD_SETTINGS[1:5], f"MicrophoneON={on}"])
-        start_up_ms(bench, driver, folders[on], PROGRAM, MAIN_TITLE)
+        start_up_ms(rig, driver, folders[on], PROGRAM, MAIN_TITLE)
     times: dict[str, list[float]] = {"y": [], "n": []}
     for _ in range(PAIRS):
         for on, series in times.items():
-            series.append(start_up_ms(bench, driver, folders[on], PROGRAM, MAIN_TITLE))
+            series.append(start_up_ms(rig, driver, folders[on], PROGRAM, MAIN_TITLE))
     with_it, without = (statistics.median(series) for series in times.values())
     print(f"Start-up to visible main window, medians of {PAIRS} alternate starts: with the "
           f"microphone {with_it:.1f} ms, without {without:.1f} ms, ratio {with_it / without:.2f}")
 
 
 def main() -> None:
-    with Bench() as bench:
-        driver = Driver(bench)
-        moving_pictures(bench, driver)
-        start_up_with_microphone(bench, driver)
+    with Rig() as rig:
+        driver = Driver(rig)
+        moving_pictures(rig, driver)
+        start_up_with_microphone(rig, driver)
 
 
 if __name__ == "__main__":

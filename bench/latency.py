@@ -1,4 +1,4 @@
-"""How soon a tone sounds and ends, measured on the private test bench: the time from the press of
+"""How soon a tone sounds and ends, measured on the private test rig: the time from the press of
 Play to the first loud sample and from the press of Stop to the last one, for every sound mode, as
 a ratio to a minimal program that only calls PlaySound on a ready file.
 
@@ -16,17 +16,18 @@ from pathlib import Path
 import numpy as np
 
 PROJECT = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(PROJECT / "tests" / "real"))
+sys.path.insert(0, str(PROJECT / "tests"))
 
-from bench import Bench, wait_for  # noqa: E402
-from measuring import LOUD, RATE  # noqa: E402
-from playing import start  # noqa: E402
-from program import Folders, Tonmira  # noqa: E402
-from sound import Recorder, save_wav  # noqa: E402
-from test_surroundings import play_and_stop_often, usage  # noqa: E402
-from window import Driver, Window, wait_for_window  # noqa: E402
+from rig.measuring import LOUD, RATE  # noqa: E402
+from rig.playing import start  # noqa: E402
+from rig.program import Folders, Tonmira  # noqa: E402
+from rig.rig import Rig  # noqa: E402
+from rig.sound import Recorder, save_wav  # noqa: E402
+from rig.usage import play_and_stop_often, usage  # noqa: E402
+from rig.waiting import wait_for  # noqa: E402
+from rig.window import Driver, Window, wait_for_window  # noqa: E402
 
-BARE = PROJECT / "build" / "windows" / "bench" / "bare_player.exe"
+BARE = PROJECT / "build" / "windows" / "rig" / "bare_player.exe"
 SOUND_MODES = ("256", "128", "64", "32", "16")
 ROUNDS = 9
 ENDURANCE_ROUNDS = 1000
@@ -64,11 +65,11 @@ def medians(recorder: Recorder, play: Callable[[], None],
     return statistics.median(begun), statistics.median(ended)
 
 
-def of_the_bare_player(bench: Bench, driver: Driver, recorder: Recorder) -> tuple[float, float]:
-    folders = Folders(bench)
+def of_the_bare_player(rig: Rig, driver: Driver, recorder: Recorder) -> tuple[float, float]:
+    folders = Folders(rig)
     wave = (30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(RATE))).astype(np.int16)
     save_wav(folders.temp / "tone.wav", np.column_stack((wave, wave)))
-    program = Tonmira(bench, driver, folders, exe=BARE)
+    program = Tonmira(rig, driver, folders, exe=BARE)
     try:
         window = wait_for_window(driver, "Bare player", program.process)
         return medians(recorder, lambda: window.press("Play"), lambda: window.press("Stop"))
@@ -76,9 +77,9 @@ def of_the_bare_player(bench: Bench, driver: Driver, recorder: Recorder) -> tupl
         program.finish()
 
 
-def of_tonmira(bench: Bench, driver: Driver, recorder: Recorder,
+def of_tonmira(rig: Rig, driver: Driver, recorder: Recorder,
                sound_mode: str) -> tuple[float, float]:
-    program = start(bench, driver, sound_mode)
+    program = start(rig, driver, sound_mode)
     try:
         window = program.window()
         window.press("Low pitch")
@@ -93,8 +94,8 @@ def of_tonmira(bench: Bench, driver: Driver, recorder: Recorder,
         program.finish()
 
 
-def endurance(bench: Bench, driver: Driver) -> None:
-    program = start(bench, driver, "128")
+def endurance(rig: Rig, driver: Driver) -> None:
+    program = start(rig, driver, "128")
     try:
         window: Window = program.window()
         window.press("Low pitch")
@@ -108,17 +109,17 @@ def endurance(bench: Bench, driver: Driver) -> None:
 
 
 def main() -> None:
-    with Bench() as bench:
-        driver, recorder = Driver(bench), Recorder(bench)
-        bare = of_the_bare_player(bench, driver, recorder)
+    with Rig() as rig:
+        driver, recorder = Driver(rig), Recorder(rig)
+        bare = of_the_bare_player(rig, driver, recorder)
         print(f"Bare player, medians of {ROUNDS}: Play to first sound {bare[0]:.0f} ms, "
               f"Stop to last sound {bare[1]:.0f} ms")
         for sound_mode in SOUND_MODES:
-            own = of_tonmira(bench, driver, recorder, sound_mode)
+            own = of_tonmira(rig, driver, recorder, sound_mode)
             print(f"Sound mode {sound_mode}: Play {own[0]:.0f} ms, ratio {own[0] / bare[0]:.2f}; "
                   f"Stop {own[1]:.0f} ms, ratio {own[1] / max(bare[1], 1):.2f}")
         if "--endurance" in sys.argv[1:]:
-            endurance(bench, driver)
+            endurance(rig, driver)
 
 
 if __name__ == "__main__":

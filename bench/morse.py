@@ -12,23 +12,24 @@ from pathlib import Path
 import numpy as np
 
 PROJECT = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(PROJECT / "tests" / "real"))
+sys.path.insert(0, str(PROJECT / "tests"))
 
-from bench import Bench, wait_for  # noqa: E402
-from measuring import RATE, loud_stretches  # noqa: E402
-from playing import start  # noqa: E402
-from sound import Recorder  # noqa: E402
-from test_morse import CHUNK, CODES, MESSAGE, open_tool, symbols, write  # noqa: E402
-from window import Driver, User  # noqa: E402
+from rig.measuring import RATE, loud_stretches  # noqa: E402
+from rig.morse import CHUNK, CODES, MESSAGE, open_tool, symbols, write  # noqa: E402
+from rig.playing import start  # noqa: E402
+from rig.rig import Rig  # noqa: E402
+from rig.sound import Recorder  # noqa: E402
+from rig.waiting import wait_for  # noqa: E402
+from rig.window import Driver, User  # noqa: E402
 
 TEXTBOOK = {**CODES, "O": "---"}
 Tones = list[tuple[float, float]]  # beginning and length in seconds
 
 
 def of_the_tool() -> Tones:
-    with Bench() as bench:
-        user, recorder = User(bench), Recorder(bench)
-        program = start(bench, Driver(bench), "256")
+    with Rig() as rig:
+        user, recorder = User(rig), Recorder(rig)
+        program = start(rig, Driver(rig), "256")
         try:
             tool = open_tool(program, user)
             write(user, tool, MESSAGE)

@@ -12,25 +12,26 @@ from pathlib import Path
 import numpy as np
 
 PROJECT = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(PROJECT / "tests" / "real"))
+sys.path.insert(0, str(PROJECT / "tests"))
 
-from bench import Bench, wait_for  # noqa: E402
-from sound import Recorder  # noqa: E402
-from tone_programs import EXTRA_MS, Entries, Heard, file_of, open_file, tones_in  # noqa: E402
-from window import Driver  # noqa: E402
+from rig.rig import Rig  # noqa: E402
+from rig.sound import Recorder  # noqa: E402
+from rig.tone_programs import EXTRA_MS, Entries, Heard, file_of, open_file, tones_in  # noqa: E402
+from rig.waiting import wait_for  # noqa: E402
+from rig.window import Driver  # noqa: E402
 
 PITCHES = [440, 880, 660, 1320, 550, 1100, 2200, 4400, 3300, 1650, 990, 495]
 MODES = ["256", "128", "64", "32", "16"]
 MANY = 200
 
 
-def play(bench: Bench, driver: Driver, recorder: Recorder, sound_bit: str,
+def play(rig: Rig, driver: Driver, recorder: Recorder, sound_bit: str,
          entries: Entries) -> list[Heard]:
-    path = bench.new_folder("tones") / "bench.tnf"
+    path = rig.new_folder("tones") / "bench.tnf"
     path.write_bytes(file_of(entries))
     recorder.wait_for_silence()
     first = recorder.frames()
-    program = open_file(bench, driver, path, sound_bit=sound_bit)
+    program = open_file(rig, driver, path, sound_bit=sound_bit)
     try:
         player = program.window()
         wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", 600)
@@ -49,9 +50,9 @@ def spread(name: str, values_ms: np.ndarray) -> str:
     return f"{name} {statistics.median(values_ms):+.1f} ms, worst {worst:+.1f} ms"
 
 
-def lengths(bench: Bench, driver: Driver, recorder: Recorder, sound_bit: str) -> None:
+def lengths(rig: Rig, driver: Driver, recorder: Recorder, sound_bit: str) -> None:
     duration_ms = 700
-    heard = play(bench, driver, recorder, sound_bit, [(pitch, duration_ms) for pitch in PITCHES])
+    heard = play(rig, driver, recorder, sound_bit, [(pitch, duration_ms) for pitch in PITCHES])
     if len(heard) != len(PITCHES):
         print(f"sound mode {sound_bit}: {len(heard)} of {len(PITCHES)} tones were told apart")
         return
@@ -64,10 +65,10 @@ def lengths(bench: Bench, driver: Driver, recorder: Recorder, sound_bit: str) ->
           f"pitch off by at most {1e6 * pitch:.1f} ppm")
 
 
-def drift(bench: Bench, driver: Driver, recorder: Recorder) -> None:
+def drift(rig: Rig, driver: Driver, recorder: Recorder) -> None:
     duration_ms = 200
     entries = [(PITCHES[i % len(PITCHES)], duration_ms) for i in range(MANY)]
-    heard = play(bench, driver, recorder, "256", entries)
+    heard = play(rig, driver, recorder, "256", entries)
     nominal = nominal_ms("256", duration_ms)
     print(f"{MANY} tones of {nominal} ms in sound mode 256: {len(heard)} heard")
     if len(heard) < 2:
@@ -84,12 +85,12 @@ def drift(bench: Bench, driver: Driver, recorder: Recorder) -> None:
 
 def main() -> None:
     modes = sys.argv[1:] or MODES
-    with Bench() as bench:
-        driver, recorder = Driver(bench), Recorder(bench)
+    with Rig() as rig:
+        driver, recorder = Driver(rig), Recorder(rig)
         for sound_bit in modes:
-            lengths(bench, driver, recorder, sound_bit)
+            lengths(rig, driver, recorder, sound_bit)
         if "256" in modes:
-            drift(bench, driver, recorder)
+            drift(rig, driver, recorder)
         recorder.stop()
 
 

@@ -1,4 +1,4 @@
-"""Figures of the real program, measured on the private test bench:
+"""Figures of the real program, measured on the private test rig:
 
 - the time from start to visible main window, as a ratio to a bare program with one empty window,
   the two started alternately;
@@ -16,24 +16,26 @@ import time
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(PROJECT / "tests" / "real"))
+sys.path.insert(0, str(PROJECT / "tests"))
 
-from bench import PROGRAM, Bench, wait_for  # noqa: E402
-from measuring import RATE, loud_stretches  # noqa: E402
-from playing import press_play, start, stop  # noqa: E402
-from program import GOOD_SETTINGS, Folders, Tonmira, play_once  # noqa: E402
-from sound import Recorder  # noqa: E402
-from window import Driver, User, wait_for_window  # noqa: E402
+from rig.measuring import RATE, loud_stretches  # noqa: E402
+from rig.paths import PROGRAM  # noqa: E402
+from rig.playing import press_play, start, stop  # noqa: E402
+from rig.program import GOOD_SETTINGS, Folders, Tonmira, play_once  # noqa: E402
+from rig.rig import Rig  # noqa: E402
+from rig.sound import Recorder  # noqa: E402
+from rig.waiting import wait_for  # noqa: E402
+from rig.window import Driver, User, wait_for_window  # noqa: E402
 
-BARE = PROJECT / "build" / "windows" / "bench" / "bare_window.exe"
+BARE = PROJECT / "build" / "windows" / "rig" / "bare_window.exe"
 PAIRS = 20
 WATCHED_S = 10
 NOMINAL_STEP_MS = 75
 
 
-def start_up_ms(bench: Bench, driver: Driver, folders: Folders, exe: Path, title: str) -> float:
-    answer = driver.ask("launch", bench.windows_path(exe), title,
-                        bench.windows_path(folders.temp), bench.windows_path(folders.appdata))
+def start_up_ms(rig: Rig, driver: Driver, folders: Folders, exe: Path, title: str) -> float:
+    answer = driver.ask("launch", rig.windows_path(exe), title,
+                        rig.windows_path(folders.temp), rig.windows_path(folders.appdata))
     time_ms, process = float(answer[0][0]), int(answer[0][1])
     time.sleep(0.3)
     wait_for_window(driver, title, process).close()
@@ -41,14 +43,14 @@ def start_up_ms(bench: Bench, driver: Driver, folders: Folders, exe: Path, title
     return time_ms
 
 
-def start_up(bench: Bench, driver: Driver, folders: Folders, where: str) -> None:
+def start_up(rig: Rig, driver: Driver, folders: Folders, where: str) -> None:
     programs = [(PROGRAM, "Tonmira"), (BARE, "Bare")]
     for program in programs:  # the first start of each reads its file from the disk
-        start_up_ms(bench, driver, folders, *program)
+        start_up_ms(rig, driver, folders, *program)
     times: list[list[float]] = [[], []]
     for _ in range(PAIRS):
         for series, program in zip(times, programs):
-            series.append(start_up_ms(bench, driver, folders, *program))
+            series.append(start_up_ms(rig, driver, folders, *program))
     own, bare = (statistics.median(series) for series in times)
     print(f"Start-up to visible main window, {where}, medians of {PAIRS} alternate starts: "
           f"Tonmira {own:.1f} ms, bare window {bare:.1f} ms, ratio {own / bare:.2f}")
@@ -74,9 +76,9 @@ def share_of_core(process: int) -> str:
     return f"{shares[1]:.2f} % (of {shares[0]:.2f} to {shares[2]:.2f})"
 
 
-def processor_time(bench: Bench, driver: Driver, folders: Folders) -> None:
-    user, recorder = User(bench), Recorder(bench)
-    program = Tonmira(bench, driver, folders)
+def processor_time(rig: Rig, driver: Driver, folders: Folders) -> None:
+    user, recorder = User(rig), Recorder(rig)
+    program = Tonmira(rig, driver, folders)
     try:
         program.wait_for_log(">> Program starting finished")
         program.window()
@@ -95,9 +97,9 @@ def processor_time(bench: Bench, driver: Driver, folders: Folders) -> None:
         recorder.stop()
 
 
-def sweep_steps(bench: Bench, driver: Driver) -> None:
-    user, recorder = User(bench), Recorder(bench)
-    program = start(bench, driver, "256")
+def sweep_steps(rig: Rig, driver: Driver) -> None:
+    user, recorder = User(rig), Recorder(rig)
+    program = start(rig, driver, "256")
     try:
         window = program.window()
         first = recorder.frames()
@@ -120,23 +122,23 @@ def start_up_on_one_processor() -> None:
     """Here a start takes what it works; on several processors of a busy machine, most of its time
     is waiting for Wine's server to be woken."""
     processors = os.sched_getaffinity(0)
-    os.sched_setaffinity(0, {min(processors)})  # for the bench's processes, too
-    with Bench() as bench:
-        driver, folders = Driver(bench), Folders(bench)
+    os.sched_setaffinity(0, {min(processors)})  # for the rig's processes, too
+    with Rig() as rig:
+        driver, folders = Driver(rig), Folders(rig)
         folders.write_settings(GOOD_SETTINGS)
-        start_up(bench, driver, folders, "on one processor")
+        start_up(rig, driver, folders, "on one processor")
     os.sched_setaffinity(0, processors)
 
 
 def main() -> None:
     print(f"Size of tonmira.exe: {PROGRAM.stat().st_size} bytes")
     start_up_on_one_processor()
-    with Bench() as bench:
-        driver, folders = Driver(bench), Folders(bench)
+    with Rig() as rig:
+        driver, folders = Driver(rig), Folders(rig)
         folders.write_settings(GOOD_SETTINGS)
-        start_up(bench, driver, folders, "on all processors")
-        processor_time(bench, driver, folders)
-        sweep_steps(bench, driver)
+        start_up(rig, driver, folders, "on all processors")
+        processor_time(rig, driver, folders)
+        sweep_steps(rig, driver)
 
 
 if __name__ == "__main__":

@@ -13,7 +13,7 @@ readonly fuzz_packages=(clang cmake libclang-rt-dev make)
 readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32 make)
 
 # What runs it, listens to it and looks at it.
-readonly bench_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
+readonly rig_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
   python3-numpy python3-pytest python3-pytest-rerunfailures wine wine64 xdotool xvfb)
 
 # What serves the site and looks at it.

@@ -42,7 +42,7 @@ ALLOWED = {
     "helpers": {"base", "tone", "platform/windows/api"},
     "tests": APP | {"app", "helpers"} | SIMULATION,
     "tests/fuzz": {"base", "helpers", "lang", "online", "program_files", "settings", "tests", "tone"},
-    "tests/real": set(),
+    "tests/rig": set(),
     "bench": APP | {"app", "tests"} | SIMULATION,
 }
 
@@ -50,7 +50,7 @@ ALLOWED = {
 SHARED_HEADERS = {"helpers": {"online/addresses.h"}}
 
 # Where the Windows API may be used.
-WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tests/real"}
+WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tests/rig"}
 
 # Beside the C++ standard library's headers.
 FURTHER_HEADERS = {

@@ -42,7 +42,7 @@ The Import Tables (interpreted .idata section contents)
     ("platform/windows/api/handles.h", '#include "platform/windows/system/file_system.h"'),
     ("helpers/mixer.cpp", '#include "platform/windows/sound/multimedia.h"'),
     ("bench/synthesis_bench.cpp", "#include <windows.h>"),
-    ("tests/real/driver.cpp", '#include "base/text.h"'),
+    ("tests/rig/driver/driver.cpp", '#include "base/text.h"'),
     ("helpers/request.cpp", '#include "online/update_check.h"'),
     ("base/text.cpp", "#include <gtest/gtest.h>"),
     ("base/text.cpp", "#include <string.h>"),
@@ -62,7 +62,7 @@ def test_a_border_crossed_is_found(path: str, line: str) -> None:
     ("platform/windows/pump.cpp", "#include <windows.h>"),
     ("platform/windows/views/picture_view.cpp", "#include <windows.h>"),
     ("platform/windows/sound/direct_sound.cpp", '#include "platform/windows/views/window.h"'),
-    ("tests/real/bare_window.cpp", "#include <windows.h>"),
+    ("tests/rig/bare/bare_window.cpp", "#include <windows.h>"),
     ("tests/tone/sine_test.cpp", "#include <gtest/gtest.h>"),
     ("tests/tone/sine_test.cpp", '#include "platform/simulated/simulation.h"'),
 ])

@@ -1,5 +1,6 @@
-"""What the tests of the real program stand on. One bench serves the whole run."""
+"""What the tests of the real program stand on. One rig serves the whole run."""
 
+import contextlib
 import re
 import signal
 import subprocess
@@ -9,91 +10,86 @@ from pathlib import Path
 
 import pytest
 
-from bench import PROGRAM, PROJECT, Bench, command_of
-from microphone import Microphone
-from program import Folders, Tonmira
-from screen import Screen
-from served_site import ServedSite, served_site
-from sound import Recorder
-from uploading import ACTIVITY, ERROR, Upsend
-from window import Driver, User
+sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 
-SCREENS = PROJECT / "out" / "screens"
-FAILURES = PROJECT / "out" / "failures"
-
-
-def what_is_left_of(bench: Bench) -> list[str]:
-    """Processes, folders and displays of a closed bench that are still there; should be nothing."""
-    number = bench.display_number
-    left = [f"process {pid}" for pid in bench.processes()]
-    left += [str(path) for path in (bench.folder, Path(f"/tmp/.X{number}-lock"),
-                                    Path(f"/tmp/.X11-unix/X{number}")) if path.exists()]
-    return left
+from rig.bad_hosts import ADDRESS, closed_port  # noqa: E402
+from rig.microphone import Microphone  # noqa: E402
+from rig.paths import FAILURES, LINK_TAKER, PROGRAM  # noqa: E402
+from rig.processes import command_of  # noqa: E402
+from rig.program import GOOD_SETTINGS, Folders, Tonmira  # noqa: E402
+from rig.resolution import set_dpi  # noqa: E402
+from rig.rig import Rig, what_is_left_of  # noqa: E402
+from rig.screen import Screen  # noqa: E402
+from rig.served_site import ServedSite, served_site  # noqa: E402
+from rig.sound import Recorder  # noqa: E402
+from rig.uploading import ACTIVITY, ERROR, Upsend  # noqa: E402
+from rig.waiting import wait_for  # noqa: E402
+from rig.window import Driver, User  # noqa: E402
 
 
 @pytest.fixture(scope="session")
-def bench() -> Iterator[Bench]:
+def rig() -> Iterator[Rig]:
     assert PROGRAM.exists(), f"not built: {PROGRAM}"
-    # A test run that is asked to end takes its bench down, too.
+    # A test run that is asked to end takes its rig down, too.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
-    with Bench() as bench:
-        yield bench
-    assert what_is_left_of(bench) == []
+    with Rig() as rig:
+        yield rig
+    assert what_is_left_of(rig) == []
 
 
 @pytest.fixture(scope="session")
-def driver(bench: Bench) -> Driver:
-    return Driver(bench)
+def driver(rig: Rig) -> Driver:
+    return Driver(rig)
 
 
 @pytest.fixture(scope="session")
-def user(bench: Bench) -> User:
-    return User(bench)
+def user(rig: Rig) -> User:
+    return User(rig)
 
 
 @pytest.fixture(scope="session")
-def recorder(bench: Bench) -> Recorder:
-    return Recorder(bench)
+def recorder(rig: Rig) -> Recorder:
+    return Recorder(rig)
 
 
 @pytest.fixture(scope="session")
-def screen(bench: Bench) -> Iterator[Screen]:
-    with Screen(bench) as screen:
+def screen(rig: Rig) -> Iterator[Screen]:
+    with Screen(rig) as screen:
         yield screen
 
 
 @pytest.fixture
-def microphone(bench: Bench) -> Iterator[Microphone]:
-    microphone = Microphone(bench)
+def microphone(rig: Rig) -> Iterator[Microphone]:
+    microphone = Microphone(rig)
     yield microphone
     microphone.silence()
 
 
 @pytest.fixture
-def folders(bench: Bench) -> Folders:
-    return Folders(bench)
+def folders(rig: Rig) -> Folders:
+    return Folders(rig)
 
 
 @pytest.fixture
-def upsend(bench: Bench, driver: Driver, folders: Folders) -> Upsend:
+def upsend(rig: Rig, driver: Driver, folders: Folders) -> Upsend:
     (folders.temp / "userdata.txt").write_bytes(ACTIVITY)
     (folders.temp / "error.log").write_bytes(ERROR)
-    return Upsend(bench, driver, folders)
+    return Upsend(rig, driver, folders)
 
 
 @pytest.fixture
-def site(bench: Bench) -> Iterator[ServedSite]:
-    with served_site(bench.folder) as site:
+def site(rig: Rig) -> Iterator[ServedSite]:
+    with served_site(rig.folder) as site:
         yield site
 
 
 @pytest.fixture
-def launch(bench: Bench, driver: Driver) -> Iterator[Callable[..., Tonmira]]:
+def launch(rig: Rig, driver: Driver) -> Iterator[Callable[..., Tonmira]]:
     """Starts the program; what a test leaves running is ended."""
     started: list[Tonmira] = []
 
     def start(folders: Folders, **options: Path) -> Tonmira:
-        started.append(Tonmira(bench, driver, folders, **options))
+        started.append(Tonmira(rig, driver, folders, **options))
         return started[-1]
 
     yield start
@@ -101,22 +97,67 @@ def launch(bench: Bench, driver: Driver) -> Iterator[Callable[..., Tonmira]]:
         program.finish()
 
 
+@pytest.fixture
+def begin(driver: Driver, launch: Callable[..., Tonmira], folders: Folders) -> Iterator[Callable[..., Tonmira]]:
+    """Starts the program with a site of its own."""
+    def start(site: str, language: str = "EN", update: str = "y", send: str = "n") -> Tonmira:
+        settings = list(GOOD_SETTINGS)
+        settings[0], settings[2], settings[3] = (
+            f"AutoUpdate={update}", f"Language={language}", f"SendData={send}")
+        folders.write_settings(settings)
+        driver.ask("set", "TONMIRA_SITE", site)
+        return launch(folders)
+
+    yield start
+    driver.ask("set", "TONMIRA_SITE", f"http://{ADDRESS}:{closed_port()}")
+
+
+@pytest.fixture
+def browser(rig: Rig) -> Iterator[str]:
+    """A program that opens web addresses and takes note of them; its path, without blanks."""
+    exe = rig.windows_path(LINK_TAKER)
+    assert " " not in exe
+
+    def add(scheme: str, program: str) -> bool:
+        # Starting a program by its bare name fails once in a while.
+        with contextlib.suppress(subprocess.CalledProcessError):
+            rig.run("wine", "reg", "add", rf"HKCR\{scheme}\shell\open\command", "/ve", "/d",
+                      f'"{program}" "%1"', "/f")
+            return True
+        return False
+
+    def use(program: str) -> None:
+        for scheme in ("http", "https"):
+            wait_for(lambda scheme=scheme: add(scheme, program), "a registry entry")
+
+    use(exe)
+    yield exe
+    use(r"C:\windows\system32\winebrowser.exe")
+
+
+@pytest.fixture(params=[96, 144])
+def driver_at_dpi(request: pytest.FixtureRequest, rig: Rig) -> Iterator[tuple[Driver, int]]:
+    set_dpi(rig, request.param)
+    yield Driver(rig), request.param
+    set_dpi(rig, 96)
+
+
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_makereport(item: pytest.Item) -> Iterator[None]:
     """Keeps what the screen showed when a test failed, and names the windows in the report."""
     outcome = yield
     report = outcome.get_result()
-    bench = getattr(item, "funcargs", {}).get("bench")
+    rig = getattr(item, "funcargs", {}).get("rig")
     driver = getattr(item, "funcargs", {}).get("driver")
-    if not (report.when == "call" and report.failed and bench):
+    if not (report.when == "call" and report.failed and rig):
         return
     picture = FAILURES / f"{re.sub('[^A-Za-z0-9]+', '-', item.name)[:80]}.png"
     try:
         picture.parent.mkdir(parents=True, exist_ok=True)
-        bench.run("import", "-window", "root", str(picture))
+        rig.run("import", "-window", "root", str(picture))
         shown = [w.title for w in driver.windows() if w.visible and w.title] if driver else []
-        processes = [command_of(pid) for pid in bench.processes()]
-        report.sections.append(("bench", "\n".join([
+        processes = [command_of(pid) for pid in rig.processes()]
+        report.sections.append(("rig", "\n".join([
             f"screen: {picture}", f"windows: {shown}", "processes:", *processes])))
     except (OSError, RuntimeError, subprocess.SubprocessError) as failure:
-        report.sections.append(("bench", f"gives no picture: {failure}"))
+        report.sections.append(("rig", f"gives no picture: {failure}"))

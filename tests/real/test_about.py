@@ -6,11 +6,12 @@ from pathlib import Path
 
 import pytest
 
-from bench import PROGRAM, PROJECT, Bench, wait_for
-from conftest import SCREENS
-from program import GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
-from test_windows import assert_shows_something
-from window import Driver, User, Window, wait_for_window
+from rig.paths import PROGRAM, PROJECT, SCREENS
+from rig.pictures import assert_shows_something
+from rig.program import GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
+from rig.rig import Rig
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window, wait_for_window
 
 TITLE = "About Tonmira"
 UNAVAILABLE = "System Information Is Unavailable At This Time"
@@ -24,7 +25,7 @@ FOLDER_KEY = r"SOFTWARE\Microsoft\Shared Tools Location"
 # The system's numbers of the kinds of values.
 TEXT, EXPANDED_TEXT, BINARY, NUMBER = 1, 2, 3, 4
 # A program that shows a window "Bare" and nothing more.
-BARE = PROJECT / "build" / "windows" / "bench" / "bare_window.exe"
+BARE = PROJECT / "build" / "windows" / "rig" / "bare_window.exe"
 
 
 class Registry:
@@ -51,9 +52,9 @@ def registry(driver: Driver) -> Iterator[Registry]:
 
 
 @pytest.fixture
-def tool(bench: Bench) -> Path:
+def tool(rig: Rig) -> Path:
     """An information tool in a folder with blanks."""
-    folder = bench.new_folder("Common Files") / "Microsoft Shared (x64)"
+    folder = rig.new_folder("Common Files") / "Microsoft Shared (x64)"
     folder.mkdir()
     return Path(shutil.copy(BARE, folder / "MSINFO32.EXE"))
 
@@ -111,15 +112,15 @@ def test_the_box_in_both_languages_and_its_message_without_the_keys(
 
 
 def test_the_tool_that_the_registry_names_is_started(
-        bench: Bench, launch: Callable[..., Tonmira], folders: Folders, driver: Driver,
+        rig: Rig, launch: Callable[..., Tonmira], folders: Folders, driver: Driver,
         user: User, registry: Registry, tool: Path) -> None:
-    registry.put(TOOL_KEY, "PATH", TEXT, stored(bench.windows_path(tool)))
+    registry.put(TOOL_KEY, "PATH", TEXT, stored(rig.windows_path(tool)))
     program, box = open_box(launch, folders)
     user.activate(box)
     user.type_keys("alt+s")
     end_tool(driver)
     # Once more with a path that names a variable.
-    relative = bench.windows_path(tool).removeprefix(bench.windows_path(bench.folder))
+    relative = rig.windows_path(tool).removeprefix(rig.windows_path(rig.folder))
     registry.put(TOOL_KEY, "PATH", EXPANDED_TEXT, stored("%TEMP%\\..\\.." + relative))
     box.press("System Info...")
     end_tool(driver)
@@ -127,9 +128,9 @@ def test_the_tool_that_the_registry_names_is_started(
 
 
 def test_the_folder_of_the_shared_tools_is_used_where_the_path_is_missing(
-        bench: Bench, launch: Callable[..., Tonmira], folders: Folders, driver: Driver,
+        rig: Rig, launch: Callable[..., Tonmira], folders: Folders, driver: Driver,
         registry: Registry, tool: Path) -> None:
-    registry.put(FOLDER_KEY, "MSINFO", TEXT, stored(bench.windows_path(tool.parent)))
+    registry.put(FOLDER_KEY, "MSINFO", TEXT, stored(rig.windows_path(tool.parent)))
     _, box = open_box(launch, folders)
     box.press("System Info...")
     end_tool(driver)
@@ -160,8 +161,8 @@ def test_a_value_that_names_no_program_leads_to_the_message(
 
 
 def test_the_description_is_dutch_beside_the_old_language_file(
-        bench: Bench, launch: Callable[..., Tonmira], folders: Folders) -> None:
-    home = bench.new_folder("old") / "Tonmira"
+        rig: Rig, launch: Callable[..., Tonmira], folders: Folders) -> None:
+    home = rig.new_folder("old") / "Tonmira"
     shutil.copytree(PROGRAM.parent, home)
     (home / "nl.ini").write_bytes(b"")
     _, box = open_box(launch, folders, exe=home / PROGRAM.name)

@@ -6,13 +6,14 @@ from collections.abc import Callable, Iterator
 import numpy as np
 import pytest
 
-from bench import Bench, wait_for
-from conftest import SCREENS
-from microphone import Microphone
-from program import GOOD_SETTINGS, MODES, Folders, Tonmira, hear_tone
-from screen import Screen, drawn, periods
-from sound import Recorder
-from window import Driver, Place, User, Window
+from rig.microphone import Microphone
+from rig.paths import SCREENS
+from rig.program import GOOD_SETTINGS, MODES, Folders, Tonmira, hear_tone
+from rig.rig import Rig
+from rig.screen import Screen, drawn, periods
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, Place, User, Window
 
 MICROPHONE_MENU = 1015
 FIXED_MODES = MODES[:5]
@@ -133,12 +134,12 @@ def test_turning_it_on_and_off_a_hundred_times_leaves_no_handles(
 
 
 def test_without_a_recording_device_it_says_so_and_stays_off(
-        bench: Bench, folders: Folders, user: User, screen: Screen,
+        rig: Rig, folders: Folders, user: User, screen: Screen,
         monkeypatch: pytest.MonkeyPatch) -> None:
     # What this driver starts finds no sound server, so neither a loudspeaker nor a microphone.
-    monkeypatch.setitem(bench.env, "PULSE_SERVER", "unix:/nowhere")
+    monkeypatch.setitem(rig.env, "PULSE_SERVER", "unix:/nowhere")
     folders.write_settings(GOOD_SETTINGS)
-    program = Tonmira(bench, Driver(bench), folders)
+    program = Tonmira(rig, Driver(rig), folders)
     try:
         message = program.window("DirectSound Error")
         assert "No recording device was found." in message.texts()
@@ -267,15 +268,15 @@ def test_a_thousand_choices_leave_one_animation_and_a_program_that_answers(
 
 
 @pytest.fixture
-def high_contrast(bench: Bench) -> Iterator[None]:
+def high_contrast(rig: Rig) -> Iterator[None]:
     """White text on black windows."""
     key = "HKCU\\Control Panel\\Colors"
     colours = {"Window": "0 0 0", "WindowText": "255 255 255"}
     for name, colour in colours.items():
-        bench.run("wine", "reg", "add", key, "/v", name, "/f", "/d", colour)
+        rig.run("wine", "reg", "add", key, "/v", name, "/f", "/d", colour)
     yield
     for name in colours:
-        bench.run("wine", "reg", "delete", key, "/v", name, "/f")
+        rig.run("wine", "reg", "delete", key, "/v", name, "/f")
 
 
 def test_the_pictures_take_the_systems_colours(

@@ -5,11 +5,12 @@ from collections.abc import Callable
 
 import pytest
 
-from bench import PROGRAM, Bench, wait_for
-from conftest import SCREENS
-from program import FIRST_RUN_TITLE, MAIN_TITLE, Folders, Tonmira
-from test_windows import assert_shows_something
-from window import User, Window
+from rig.paths import PROGRAM, SCREENS
+from rig.pictures import assert_shows_something
+from rig.program import FIRST_RUN_TITLE, MAIN_TITLE, Folders, Tonmira
+from rig.rig import Rig
+from rig.waiting import wait_for
+from rig.window import User, Window
 
 ENGLISH = [
     "Language:",
@@ -168,8 +169,8 @@ def test_leaving_it_otherwise_ends_the_program_and_the_next_start_shows_it_again
 
 
 def test_it_starts_anew_from_a_folder_with_blanks_and_special_characters_and_any_name(
-        bench: Bench, launch: Callable[..., Tonmira], folders: Folders) -> None:
-    home = bench.new_folder("first") / "Tonmira (x86) & Söhne 100% ^!"
+        rig: Rig, launch: Callable[..., Tonmira], folders: Folders) -> None:
+    home = rig.new_folder("first") / "Tonmira (x86) & Söhne 100% ^!"
     shutil.copytree(PROGRAM.parent, home)
     renamed = home / "my tonmira & co.exe"
     (home / PROGRAM.name).rename(renamed)

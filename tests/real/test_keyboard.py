@@ -4,10 +4,10 @@ from collections.abc import Callable
 
 import pytest
 
-from bench import wait_for
-from program import GOOD_SETTINGS, Folders, Tonmira, hear_tone
-from sound import Recorder
-from window import User, Window
+from rig.program import GOOD_SETTINGS, Folders, Tonmira, hear_tone
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import User, Window
 
 
 @pytest.fixture

@@ -4,10 +4,10 @@ import re
 import time
 from collections.abc import Callable
 
-from bench import wait_for
-from program import GOOD_SETTINGS, LOG_OF_START, Folders, Tonmira, play_once
-from sound import Recorder
-from window import User
+from rig.program import GOOD_SETTINGS, LOG_OF_START, Folders, Tonmira, play_once
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import User
 
 # The number of the entry "Winmm" in the menu, as its position gives it.
 MENU_WINMM = 1010

@@ -4,68 +4,25 @@ from collections.abc import Iterator
 
 import pytest
 
-from bench import Bench, wait_for
-from measuring import RATE, loud_stretches, short_pitch
-from playing import start
-from program import TEMPORARY_WAVE, Tonmira
-from sound import Recorder
-from window import Control, Driver, User, Window
+from rig.measuring import RATE, short_pitch
+from rig.morse import (CODES, MESSAGE, MESSAGE_BOX, PITCH_BOX, SPEED_BOX, click, open_tool,
+                       symbols, text, text_box, write)
+from rig.playing import start
+from rig.program import TEMPORARY_WAVE, Tonmira
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, User
 
-CODES = {"S": "...", "O": "----", "P": ".--.", "A": ".-", "R": ".-.", "I": "..", "7": "--...",
-         "3": "...--"}
-# The pauses within a character are the player's own, some 15 ms.
-CHUNK = RATE // 500
-MESSAGE = "SOS PARIS 73"
 PITCH_HZ = 700
 PLAYS = 4
 
 
 @pytest.fixture
-def program(bench: Bench, driver: Driver) -> Iterator[Tonmira]:
-    program = start(bench, driver, "256")
+def program(rig: Rig, driver: Driver) -> Iterator[Tonmira]:
+    program = start(rig, driver, "256")
     yield program
     program.finish()
-
-
-def open_tool(program: Tonmira, user: User) -> Window:
-    main = program.window()
-    user.activate(main)
-    user.click_button(main, "Morse tool")
-    wait_for(lambda: main.is_checked("Morse tool"), "the mode 'Morse tool'")
-    user.click_button(main, "Start")
-    return program.window("Morse tool")
-
-
-# The text boxes by their place in the tab order; their texts are no captions.
-MESSAGE_BOX, SPEED_BOX, PITCH_BOX = 101, 103, 105
-
-
-def text_box(tool: Window, number: int) -> Control:
-    return next(c for c in tool.controls() if c.id == number)
-
-
-def text(tool: Window, number: int) -> str:
-    return tool.driver.ask("text", text_box(tool, number).handle)[0][0]
-
-
-def click(user: User, control: Control) -> None:
-    user.point_at(control)
-    user.xdotool("click", "1")
-
-
-def write(user: User, tool: Window, message: str) -> None:
-    wait_for(lambda: text(tool, MESSAGE_BOX) == "Type your message here...", "the invitation")
-    user.activate(tool)
-    click(user, text_box(tool, MESSAGE_BOX))
-    user.type_keys("ctrl+End", *["BackSpace"] * 25)
-    user.xdotool("type", "--delay", "40", message)
-    wait_for(lambda: text(tool, MESSAGE_BOX) == message, "the message")
-
-
-def symbols(recorder: Recorder, first_frame: int) -> list[tuple[float, float]]:
-    """Beginning and length, in seconds, of every tone since `first_frame`."""
-    return [(a / RATE, (b - a) / RATE)
-            for a, b in loud_stretches(recorder.samples(first_frame), CHUNK)]
 
 
 def as_code(tones: list[tuple[float, float]]) -> str:

@@ -7,16 +7,17 @@ from pathlib import Path
 import numpy as np
 import pytest
 
-from bench import PROGRAM, Bench, wait_for
-from conftest import SCREENS
-from measuring import RATE
-from playing import press_play, start
-from program import Folders, Tonmira
-from sound import Recorder
-from test_texts_fit import cut_off, set_dpi
-from tone_programs import (PATH, PITCH, TIME, TONES, Entries, file_of, label, matches, open_file,
-                           tones_in, wait_until_played)
-from window import Driver, User, Window
+from rig.measuring import RATE
+from rig.paths import PROGRAM, SCREENS
+from rig.playing import press_play, start
+from rig.program import Folders, Tonmira
+from rig.resolution import cut_off, set_dpi
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.tone_programs import (PATH, PITCH, TIME, TONES, Entries, file_of, label, matches,
+                               open_file, tones_in, wait_until_played)
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window
 
 OPEN_COMMAND = 1001  # the id of the menu entry "Open tone program..."
 
@@ -24,39 +25,39 @@ OPEN_COMMAND = 1001  # the id of the menu entry "Open tone program..."
 @pytest.mark.parametrize("name", ["a name with blanks.tnf", "\u6f22\u5b57 \u0430\u0431\u0432.tnf",
                                   "(odd) & 100% ^name'.tnf"])
 @pytest.mark.parametrize("quoted", [True, False])
-def test_any_name_reaches_the_player_whole(bench: Bench, driver: Driver, name: str,
+def test_any_name_reaches_the_player_whole(rig: Rig, driver: Driver, name: str,
                                            quoted: bool) -> None:
-    path = bench.new_folder("tones") / name
+    path = rig.new_folder("tones") / name
     path.write_bytes(file_of([(440, 100)]))
-    program = open_file(bench, driver, path, quoted=quoted)
+    program = open_file(rig, driver, path, quoted=quoted)
     try:
-        wait_for(lambda: label(program.window(), PATH) == bench.windows_path(path), "the path")
+        wait_for(lambda: label(program.window(), PATH) == rig.windows_path(path), "the path")
     finally:
         program.finish()
 
 
-def test_a_path_longer_than_older_programs_know_is_played(bench: Bench, driver: Driver) -> None:
-    folder = bench.new_folder("tones") / ("a" * 120) / ("b" * 120)
+def test_a_path_longer_than_older_programs_know_is_played(rig: Rig, driver: Driver) -> None:
+    folder = rig.new_folder("tones") / ("a" * 120) / ("b" * 120)
     folder.mkdir(parents=True)
     path = folder / "long.tnf"
     path.write_bytes(file_of([(440, 100)]))
-    program = open_file(bench, driver, path)
+    program = open_file(rig, driver, path)
     try:
         player = program.window()
         wait_until_played(player)
-        assert label(player, PATH) == bench.windows_path(path)
+        assert label(player, PATH) == rig.windows_path(path)
         assert label(player, TONES) == "1"
     finally:
         program.finish()
 
 
 def test_a_relative_path_is_looked_for_where_the_program_was_started(
-        bench: Bench, driver: Driver) -> None:
-    folder = bench.new_folder("tones")
+        rig: Rig, driver: Driver) -> None:
+    folder = rig.new_folder("tones")
     (folder / "a b.tnf").write_bytes(file_of([(440, 100)]))
-    program = open_file(bench, driver, folder, name="a b.tnf", start_folder=folder)
+    program = open_file(rig, driver, folder, name="a b.tnf", start_folder=folder)
     try:
-        expected = bench.windows_path(folder / "a b.tnf")
+        expected = rig.windows_path(folder / "a b.tnf")
         wait_for(lambda: label(program.window(), PATH) == expected, "the path")
     finally:
         program.finish()
@@ -65,8 +66,8 @@ def test_a_relative_path_is_looked_for_where_the_program_was_started(
 @pytest.mark.parametrize("name", [r"Q:\gone\a.tnf", r"\\nowhere\share\a.tnf", "NUL", "COM1",
                                   r"C:\windows"])
 def test_what_is_no_file_starts_the_program_with_its_main_window(
-        bench: Bench, driver: Driver, name: str) -> None:
-    program = open_file(bench, driver, PROGRAM, name=name)
+        rig: Rig, driver: Driver, name: str) -> None:
+    program = open_file(rig, driver, PROGRAM, name=name)
     try:
         program.wait_for_log(">> Program starting finished")
         assert "> Starting tnf file" not in program.folders.log()
@@ -76,18 +77,18 @@ def test_what_is_no_file_starts_the_program_with_its_main_window(
 
 
 def test_a_folder_with_special_characters_plays_in_sound_mode_16(
-        bench: Bench, driver: Driver, recorder: Recorder) -> None:
-    folder = bench.new_folder("special") / "Tones (x86) & more"
+        rig: Rig, driver: Driver, recorder: Recorder) -> None:
+    folder = rig.new_folder("special") / "Tones (x86) & more"
     shutil.copytree(PROGRAM.parent, folder)
-    path = bench.new_folder("tones") / "a.tnf"
+    path = rig.new_folder("tones") / "a.tnf"
     path.write_bytes(file_of([(440, 1000)]))
-    folders = Folders(bench)
+    folders = Folders(rig)
     recorder.wait_for_silence()
     first = recorder.frames()
     folders.write_settings(["AutoUpdate=n", "SoundBit=16", "Language=EN", "SendData=n",
                             "Microphone=1", "MicrophoneON=n"])
-    program = Tonmira(bench, driver, folders, exe=folder / "tonmira.exe",
-                      arguments=bench.windows_path(path))
+    program = Tonmira(rig, driver, folders, exe=folder / "tonmira.exe",
+                      arguments=rig.windows_path(path))
     try:
         wait_until_played(program.window())
         assert matches(tones_in(recorder.samples(first)), [440])
@@ -113,16 +114,16 @@ def open_by_dialog(program: Tonmira, user: User, path: str) -> None:
     wait_for(lambda: not dialog.is_open(), "the end of the dialog")
 
 
-def drive_path(bench: Bench, entries: Entries, name: str) -> str:
+def drive_path(rig: Rig, entries: Entries, name: str) -> str:
     """A file on drive C:, whose path is easily typed."""
-    (bench.prefix / "drive_c" / name).write_bytes(file_of(entries))
+    (rig.prefix / "drive_c" / name).write_bytes(file_of(entries))
     return "C:\\" + name
 
 
 def test_a_file_chosen_in_the_dialog_is_played_by_another_copy(
-        bench: Bench, driver: Driver, user: User) -> None:
-    path = drive_path(bench, [(440, 300)], "my tune.tnf")
-    program = start(bench, driver, "256")
+        rig: Rig, driver: Driver, user: User) -> None:
+    path = drive_path(rig, [(440, 300)], "my tune.tnf")
+    program = start(rig, driver, "256")
     try:
         open_by_dialog(program, user, path)
         wait_for(lambda: len(copies(driver, program)) == 1, "the player")
@@ -138,9 +139,9 @@ def test_a_file_chosen_in_the_dialog_is_played_by_another_copy(
 
 @pytest.mark.parametrize("sound_bit", ["256", "128", "64"])
 def test_a_file_is_heard_while_the_main_window_plays(
-        bench: Bench, driver: Driver, user: User, recorder: Recorder, sound_bit: str) -> None:
-    path = drive_path(bench, [(3000, 1500), (6000, 1500)], "over.tnf")
-    program = start(bench, driver, sound_bit)
+        rig: Rig, driver: Driver, user: User, recorder: Recorder, sound_bit: str) -> None:
+    path = drive_path(rig, [(3000, 1500), (6000, 1500)], "over.tnf")
+    program = start(rig, driver, sound_bit)
     main = program.window()
     try:
         press_play(user, main, "Low pitch")
@@ -174,16 +175,16 @@ def seconds_of(samples: np.ndarray, pitch: int) -> float:
     return float((amplitudes > 5000).sum()) * 0.1
 
 
-def long_folder(bench: Bench) -> Path:
-    folder = bench.new_folder("tones") / "Recordings of the year" / "Sirens & signals" / "Summer"
+def long_folder(rig: Rig) -> Path:
+    folder = rig.new_folder("tones") / "Recordings of the year" / "Sirens & signals" / "Summer"
     folder.mkdir(parents=True)
     return folder
 
 
-def test_pointing_at_a_path_shows_all_of_it(bench: Bench, driver: Driver, user: User) -> None:
-    path = long_folder(bench) / "a siren that rises and falls.tnf"
+def test_pointing_at_a_path_shows_all_of_it(rig: Rig, driver: Driver, user: User) -> None:
+    path = long_folder(rig) / "a siren that rises and falls.tnf"
     path.write_bytes(file_of([(440, 100)]))
-    program = open_file(bench, driver, path)
+    program = open_file(rig, driver, path)
     try:
         player = program.window()
         wait_until_played(player)
@@ -196,30 +197,30 @@ def test_pointing_at_a_path_shows_all_of_it(bench: Bench, driver: Driver, user: 
             return any(w.kind == "tooltips_class32" and w.visible for w in driver.windows())
 
         wait_for(tip_is_shown, "the tool tip")
-        bench.run("import", "-window", "root", str(SCREENS / "player-tip.png"))
+        rig.run("import", "-window", "root", str(SCREENS / "player-tip.png"))
     finally:
         program.finish()
 
 
 @pytest.mark.parametrize("dpi", [96, 144])
 def test_a_long_path_is_shortened_and_nothing_is_cut_off(
-        bench: Bench, user: User, dpi: int) -> None:
-    path = long_folder(bench) / "a siren that rises and falls.tnf"
+        rig: Rig, user: User, dpi: int) -> None:
+    path = long_folder(rig) / "a siren that rises and falls.tnf"
     path.write_bytes(file_of([(32000, 3000), (880, 31000)]))
-    set_dpi(bench, dpi)
-    driver = Driver(bench)
-    program = open_file(bench, driver, path)
+    set_dpi(rig, dpi)
+    driver = Driver(rig)
+    program = open_file(rig, driver, path)
     try:
         if dpi != 96:
             program.window("Warning").press("OK")
         player = program.window()
         wait_for(lambda: label(player, PITCH) == "32000", "the first tone")
         assert cut_off(driver, player) == []
-        assert label(player, PATH) == bench.windows_path(path)
+        assert label(player, PATH) == rig.windows_path(path)
         user.screenshot(player, SCREENS / f"player-{dpi}.png")
         wait_for(lambda: label(player, TIME) == "31000", "the second tone")
         assert cut_off(driver, player) == []
         user.screenshot(player, SCREENS / f"player-second-{dpi}.png")
     finally:
         program.finish()
-        set_dpi(bench, 96)
+        set_dpi(rig, 96)

@@ -4,14 +4,15 @@ from collections.abc import Callable, Iterator
 
 import pytest
 
-from bench import Bench, wait_for
-from conftest import SCREENS
-from playing import helpers_running
-from program import Tonmira
-from sound import Recorder
-from tone_programs import (EXTRA_MS, PATH, PITCH, PLAYED, TIME, TONES, file_of, hear, label,
-                           matches, open_file, tones_in, wait_until_played)
-from window import Driver, User
+from rig.paths import SCREENS
+from rig.playing import helpers_running
+from rig.program import Tonmira
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.tone_programs import (EXTRA_MS, PATH, PITCH, PLAYED, TIME, TONES, file_of, hear, label,
+                               matches, open_file, tones_in, wait_until_played)
+from rig.waiting import wait_for
+from rig.window import Driver, User
 
 DOZEN = [440, 880, 660, 1320, 550, 1100, 2200, 4400, 3300, 1650, 990, 495]
 # What starting and ending a tone may take; the helpers are processes of their own.
@@ -21,14 +22,14 @@ Opener = Callable[..., Tonmira]
 
 
 @pytest.fixture
-def opened(bench: Bench, driver: Driver) -> Iterator[Opener]:
+def opened(rig: Rig, driver: Driver) -> Iterator[Opener]:
     """Opens a tone program file; what is left running is ended."""
     programs: list[Tonmira] = []
 
     def open_content(content: bytes, **options: object) -> Tonmira:
-        path = bench.new_folder("tones") / "test.tnf"
+        path = rig.new_folder("tones") / "test.tnf"
         path.write_bytes(content)
-        programs.append(open_file(bench, driver, path, **options))
+        programs.append(open_file(rig, driver, path, **options))
         return programs[-1]
 
     yield open_content
@@ -38,7 +39,7 @@ def opened(bench: Bench, driver: Driver) -> Iterator[Opener]:
 
 @pytest.mark.parametrize("sound_bit", ["256", "128", "64", "32", "16"])
 def test_a_dozen_tones_are_heard_in_order_at_their_pitches(
-        opened: Opener, bench: Bench, recorder: Recorder, sound_bit: str) -> None:
+        opened: Opener, rig: Rig, recorder: Recorder, sound_bit: str) -> None:
     duration_ms = 400 if sound_bit in ("256", "128", "64") else 700
     program = opened(file_of([(pitch, duration_ms) for pitch in DOZEN]), sound_bit=sound_bit)
     player = program.window()
@@ -60,7 +61,7 @@ def test_a_dozen_tones_are_heard_in_order_at_their_pitches(
     assert all(nominal - late < length < nominal + late for length in lengths), lengths
     periods = [b.start_s - a.start_s for a, b in zip(heard, heard[1:])]
     assert all(nominal - late < period < nominal + late for period in periods), periods
-    wait_for(lambda: not helpers_running(bench), "the end of the helpers", 3)
+    wait_for(lambda: not helpers_running(rig), "the end of the helpers", 3)
 
 
 def test_the_window_tells_what_is_played(opened: Opener, user: User) -> None:
@@ -114,7 +115,7 @@ def test_replay_starts_at_the_first_tone(opened: Opener, user: User, recorder: R
 
 @pytest.mark.parametrize("sound_bit", ["256", "32", "16"])
 @pytest.mark.parametrize("way", ["Exit", "frame"])
-def test_leaving_while_it_plays_ends_everything(opened: Opener, bench: Bench, recorder: Recorder,
+def test_leaving_while_it_plays_ends_everything(opened: Opener, rig: Rig, recorder: Recorder,
                                                 sound_bit: str, way: str) -> None:
     program = opened(file_of([(440, 1500)] * 5), sound_bit=sound_bit)
     player = program.window()
@@ -125,7 +126,7 @@ def test_leaving_while_it_plays_ends_everything(opened: Opener, bench: Bench, re
         player.close()
     program.wait_for_end()
     recorder.wait_for_silence()
-    wait_for(lambda: not helpers_running(bench), "the end of the helpers", 3)
+    wait_for(lambda: not helpers_running(rig), "the end of the helpers", 3)
     assert "tnfwinmmtmp.wav" not in program.folders.names()
 
 
@@ -151,13 +152,13 @@ def test_an_invisible_file_is_heard_without_a_window_and_ends(
 
 
 def test_a_damaged_file_shows_its_messages_one_after_another(
-        bench: Bench, driver: Driver, user: User, recorder: Recorder) -> None:
+        rig: Rig, driver: Driver, user: User, recorder: Recorder) -> None:
     lines = file_of([(440, 1000)]).split(b"\r\n")
     lines[0], lines[2], lines[4] = b"invalid", b"{237}", b"{seen}"
-    path = bench.new_folder("tones") / "damaged.tnf"
+    path = rig.new_folder("tones") / "damaged.tnf"
     path.write_bytes(b"\r\n".join(lines))
-    program = open_file(bench, driver, path)
-    illegal = bench.windows_path(path) + " is not a legal tnf file!"
+    program = open_file(rig, driver, path)
+    illegal = rig.windows_path(path) + " is not a legal tnf file!"
     for number, text in enumerate(
             [illegal, "Your Tonmira version is not compatible with this file!", illegal]):
         message = program.window("Error")

@@ -4,14 +4,14 @@ import re
 import time
 from collections.abc import Callable
 
-from bench import Bench, wait_for
-from program import MAIN_TITLE, Folders, Tonmira
-from served_site import ServedSite, served_site
-from test_online import NEWS_TITLES, PATIENCE_S, begin  # noqa: F401
+from rig.online import NEWS_TITLES, PATIENCE_S
+from rig.program import MAIN_TITLE, Folders, Tonmira
+from rig.rig import Rig
+from rig.served_site import ServedSite, served_site
+from rig.waiting import wait_for
 
 
-def start(begin: Callable[..., Tonmira], site: ServedSite,  # noqa: F811
-          **settings: str) -> Tonmira:
+def start(begin: Callable[..., Tonmira], site: ServedSite, **settings: str) -> Tonmira:
     program = begin(site.base_url, **settings)
     program.window(seconds=PATIENCE_S)
     program.wait_for_log(">> Program starting finished")
@@ -19,7 +19,7 @@ def start(begin: Callable[..., Tonmira], site: ServedSite,  # noqa: F811
 
 
 def test_a_start_asks_the_site_for_the_update_the_connection_test_and_the_news(
-        begin: Callable[..., Tonmira], site: ServedSite) -> None:  # noqa: F811
+        begin: Callable[..., Tonmira], site: ServedSite) -> None:
     program = start(begin, site)
     wait_for(lambda: sorted(program.titles()) == sorted([MAIN_TITLE, NEWS_TITLES["EN"]]),
              "the main window and the news")
@@ -31,9 +31,9 @@ def test_a_start_asks_the_site_for_the_update_the_connection_test_and_the_news(
 
 
 def test_a_newer_version_on_the_site_is_offered(
-        bench: Bench, begin: Callable[..., Tonmira]) -> None:  # noqa: F811
+        rig: Rig, begin: Callable[..., Tonmira]) -> None:
     update = {"updatetonmira.txt": b"237\r\nhttps://www.tonmira.example/get\r\n"}
-    with served_site(bench.folder, update) as site:
+    with served_site(rig.folder, update) as site:
         program = begin(site.base_url)
         dialog = program.window("Update found", seconds=PATIENCE_S)
         dialog.press("Don't update")
@@ -41,7 +41,7 @@ def test_a_newer_version_on_the_site_is_offered(
 
 
 def test_with_consent_the_log_arrives_at_the_site_byte_for_byte_when_the_program_ends(
-        begin: Callable[..., Tonmira], site: ServedSite, folders: Folders) -> None:  # noqa: F811
+        begin: Callable[..., Tonmira], site: ServedSite, folders: Folders) -> None:
     program = start(begin, site, send="y")
     program.window().close()
     program.wait_for_end()
@@ -53,7 +53,7 @@ def test_with_consent_the_log_arrives_at_the_site_byte_for_byte_when_the_program
 
 
 def test_without_consent_nothing_is_sent(
-        begin: Callable[..., Tonmira], site: ServedSite, folders: Folders) -> None:  # noqa: F811
+        begin: Callable[..., Tonmira], site: ServedSite, folders: Folders) -> None:
     program = start(begin, site, send="n")
     program.window().close()
     program.wait_for_end()

@@ -4,23 +4,25 @@ from pathlib import Path
 
 import pytest
 
-from bench import PROGRAM, PROJECT, Bench, wait_for
-from sound import Recorder
-from tone_programs import Heard, file_of, open_file, tones_in
-from window import Driver
+from rig.paths import PROGRAM, PROJECT
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.tone_programs import Heard, file_of, open_file, tones_in
+from rig.waiting import wait_for
+from rig.window import Driver
 
 SCALE = [523, 587, 659, 698, 784, 880, 988, 1047, 988, 880, 784, 698, 659, 587, 523]
 REST_HZ = 22050
 
 
-def hear(bench: Bench, driver: Driver, recorder: Recorder, path: Path, sound_bit: str,
+def hear(rig: Rig, driver: Driver, recorder: Recorder, path: Path, sound_bit: str,
          wanted: list[int]) -> list[Heard]:
     """What a whole play sounds like; taken once more when it is not what is wanted."""
     heard: list[Heard] = []
     for _ in range(2):
         recorder.wait_for_silence()
         first = recorder.frames()
-        program = open_file(bench, driver, path, sound_bit=sound_bit)
+        program = open_file(rig, driver, path, sound_bit=sound_bit)
         try:
             player = program.window()
             wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", 60)
@@ -42,18 +44,18 @@ def test_they_ship_as_they_are() -> None:
     assert contents(PROGRAM.parent / "samples") == samples
 
 
-def test_the_scale_is_heard_up_and_down(bench: Bench, driver: Driver, recorder: Recorder) -> None:
+def test_the_scale_is_heard_up_and_down(rig: Rig, driver: Driver, recorder: Recorder) -> None:
     path = PROGRAM.parent / "samples" / "scale.tnf"
-    heard = hear(bench, driver, recorder, path, "256", SCALE)
+    heard = hear(rig, driver, recorder, path, "256", SCALE)
     assert [tone.pitch_hz for tone in heard] == pytest.approx(SCALE, rel=1e-3)
 
 
 @pytest.mark.parametrize("sound_bit", ["256", "32"])
-def test_a_rest_is_silent_for_its_time(bench: Bench, driver: Driver, recorder: Recorder,
+def test_a_rest_is_silent_for_its_time(rig: Rig, driver: Driver, recorder: Recorder,
                                        sound_bit: str) -> None:
-    path = bench.new_folder("tones") / "rest.tnf"
+    path = rig.new_folder("tones") / "rest.tnf"
     path.write_bytes(file_of([(659, 600), (REST_HZ, 600), (784, 600)], extra_ms=10))
-    heard = hear(bench, driver, recorder, path, sound_bit, [659, 784])
+    heard = hear(rig, driver, recorder, path, sound_bit, [659, 784])
     assert [tone.pitch_hz for tone in heard] == pytest.approx([659, 784], rel=1e-3)
     pause_s = heard[1].start_s - heard[0].start_s - heard[0].length_s
     assert 0.5 < pause_s < 2.5

@@ -3,7 +3,8 @@
 import subprocess
 from pathlib import Path
 
-from bench import PROJECT, Bench
+from rig.paths import PROJECT
+from rig.rig import Rig
 
 SOURCES = ["tests/tone/digest.cpp", "tone/sine.cpp", "base/numbers.cpp", "base/errors.cpp"]
 FLAGS = ["-std=c++20", "-O3", "-I."]
@@ -14,13 +15,13 @@ BUILDS = {
 }
 
 
-def test_every_build_makes_the_samples_of_the_plain_formula(bench: Bench, tmp_path: Path) -> None:
+def test_every_build_makes_the_samples_of_the_plain_formula(rig: Rig, tmp_path: Path) -> None:
     digests = {}
     for name, compiler in BUILDS.items():
         program = tmp_path / f"{name.replace(' ', '')}.exe"
         subprocess.run([*compiler, *FLAGS, *SOURCES, "-o", str(program)], cwd=PROJECT, check=True)
         if name == "Windows":
-            digests[name] = bench.run("wine", str(program), timeout=300).strip()
+            digests[name] = rig.run("wine", str(program), timeout=300).strip()
         else:
             compare = ["compare"] if name == "native" else []
             digests[name] = subprocess.run([str(program), *compare], check=True, text=True,

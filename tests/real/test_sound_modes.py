@@ -4,28 +4,29 @@ from collections.abc import Iterator
 
 import pytest
 
-from bench import Bench, wait_for
-from measuring import Tone, measure
-from playing import expect_nothing_left, start, stop
-from program import Tonmira
-from sound import Recorder
-from window import Driver, User
+from rig.measuring import Tone, measure
+from rig.playing import expect_nothing_left, start, stop
+from rig.program import Tonmira
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, User
 
 SILENT_WITHIN_S = 0.5
-# How far the bench's own moments may be off; see Recorder.
-BENCH_DELAY_S = 0.04
+# How far the rig's own moments may be off; see Recorder.
+RIG_DELAY_S = 0.04
 
 
 @pytest.fixture(scope="module", params=["16", "32", "64"])
-def program(request: pytest.FixtureRequest, bench: Bench, driver: Driver) -> Iterator[Tonmira]:
-    program = start(bench, driver, request.param)
+def program(request: pytest.FixtureRequest, rig: Rig, driver: Driver) -> Iterator[Tonmira]:
+    program = start(rig, driver, request.param)
     yield program
     program.finish()
 
 
 @pytest.mark.parametrize(("mode", "pitch"), [("Custom pitch", 440), ("High pitch", 10000)])
 def test_a_tone_is_heard_at_its_pitch_and_stop_leaves_nothing_running_or_lying_about(
-        bench: Bench, program: Tonmira, user: User, recorder: Recorder, mode: str,
+        rig: Rig, program: Tonmira, user: User, recorder: Recorder, mode: str,
         pitch: int) -> None:
     window = program.window()
 
@@ -46,9 +47,9 @@ def test_a_tone_is_heard_at_its_pitch_and_stop_leaves_nothing_running_or_lying_a
 
     tone, silent_after = once()
     if (tone is None or abs(tone.frequency_hz / pitch - 1) > 1e-4
-            or silent_after > SILENT_WITHIN_S + BENCH_DELAY_S):
+            or silent_after > SILENT_WITHIN_S + RIG_DELAY_S):
         tone, silent_after = once()
     assert tone is not None, "no steady tone"
     assert tone.frequency_hz == pytest.approx(pitch, rel=1e-4)
-    assert silent_after <= SILENT_WITHIN_S + BENCH_DELAY_S
-    expect_nothing_left(bench, program)
+    assert silent_after <= SILENT_WITHIN_S + RIG_DELAY_S
+    expect_nothing_left(rig, program)

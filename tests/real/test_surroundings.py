@@ -2,19 +2,19 @@
 
 import re
 import shutil
-import time
 from collections.abc import Callable
-from pathlib import Path
 
 import pytest
 
-from bench import PROGRAM, Bench, wait_for
-from conftest import what_is_left_of
-from measuring import measure
-from program import (GOOD_SETTINGS, LOG_OF_START, MODES, TEMPORARY_WAVE, Folders, Tonmira,
-                     hear_tone, play_once)
-from sound import Recorder
-from window import Driver, User, Window
+from rig.measuring import measure
+from rig.paths import PROGRAM
+from rig.program import (GOOD_SETTINGS, LOG_OF_START, MODES, TEMPORARY_WAVE, Folders, Tonmira,
+                         hear_tone, play_once)
+from rig.rig import Rig, what_is_left_of
+from rig.sound import Recorder
+from rig.usage import play_and_stop_often, usage
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window
 
 ENTRY = re.compile("|".join([*LOG_OF_START, "#Option [1-9] Clicked"]))
 
@@ -26,9 +26,9 @@ def stop(program: Tonmira, window: Window, user: User) -> None:
 
 
 def test_it_starts_from_a_folder_with_blanks_and_from_anywhere(
-        bench: Bench, launch: Callable[..., Tonmira], folders: Folders, user: User,
+        rig: Rig, launch: Callable[..., Tonmira], folders: Folders, user: User,
         recorder: Recorder) -> None:
-    home = bench.new_folder("My Tools (x64) & more") / "Ton mira"
+    home = rig.new_folder("My Tools (x64) & more") / "Ton mira"
     shutil.copytree(PROGRAM.parent, home)
     folders.write_settings(GOOD_SETTINGS)
     program = launch(folders, exe=home / PROGRAM.name, start_folder=folders.temp)
@@ -52,8 +52,8 @@ def test_the_version_is_written_in_the_file_and_in_the_log(
 
 
 def test_folders_with_characters_outside_the_code_page_work(
-        bench: Bench, launch: Callable[..., Tonmira], user: User, recorder: Recorder) -> None:
-    folders = Folders(bench, "Zoë 東京")
+        rig: Rig, launch: Callable[..., Tonmira], user: User, recorder: Recorder) -> None:
+    folders = Folders(rig, "Zoë 東京")
     folders.write_settings(GOOD_SETTINGS)
     program = launch(folders)
     window = play_once(program, user, "Average pitch")
@@ -87,15 +87,6 @@ def test_two_copies_started_at_once_both_work_and_the_log_stays_readable(
     assert folders.settings_file.read_bytes().decode().split("\r\n") == [*GOOD_SETTINGS, ""]
 
 
-def usage(driver: Driver, program: Tonmira) -> dict[str, int]:
-    process = Path(f"/proc/{program.linux_process()}")
-    status = (process / "status").read_text()
-    found = dict(re.findall(r"^(Threads|VmRSS):\s+(\d+)", status, re.MULTILINE))
-    return {"handles": driver.handles(program.process),
-            "files": len(list((process / "fd").iterdir())), "threads": int(found["Threads"]),
-            "memory_kb": int(found["VmRSS"])}
-
-
 def choose_modes_often(program: Tonmira, window: Window, rounds: int) -> None:
     """A hundred choices a round. Each round is waited for: the program works off its clicks one
     by one, and the system would drop those that pile up."""
@@ -108,16 +99,6 @@ def choose_modes_often(program: Tonmira, window: Window, rounds: int) -> None:
                  "the last choice of a round")
     window.press(MODES[1])
     wait_for(lambda: program.folders.log()[-1] == "#Option 2 Clicked", "the mode to play")
-
-
-def play_and_stop_often(program: Tonmira, window: Window, rounds: int) -> None:
-    for _ in range(rounds):
-        window.press("Play Sound")
-        program.wait_for_buttons(window, playing=True)
-        window.press("Stop Sound")
-        program.wait_for_buttons(window, playing=False)
-    # The loop itself ends a tick after its Stop.
-    time.sleep(0.5)
 
 
 def test_ten_thousand_clicks_and_thirty_tones_leave_handles_threads_and_memory_where_they_were(
@@ -142,8 +123,8 @@ def test_ten_thousand_clicks_and_thirty_tones_leave_handles_threads_and_memory_w
     assert len(folders.log()) == 100
 
 
-def test_a_bench_that_ends_while_a_tone_plays_leaves_nothing_behind() -> None:
-    with Bench() as own:
+def test_a_rig_that_ends_while_a_tone_plays_leaves_nothing_behind() -> None:
+    with Rig() as own:
         driver, user, recorder = Driver(own), User(own), Recorder(own)
         folders = Folders(own)
         folders.write_settings(GOOD_SETTINGS)

@@ -3,18 +3,18 @@
 import numpy as np
 import pytest
 
-from bench import Bench
-from measuring import steady_pitches
-from playing import expect_nothing_left, press_play, start, stop
-from sound import Recorder
-from window import Driver, User
+from rig.measuring import steady_pitches
+from rig.playing import expect_nothing_left, press_play, start, stop
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.window import Driver, User
 
 
 @pytest.mark.parametrize(("sound_bit", "seconds", "highest"), [("256", 12, 9000), ("32", 5, 3000)])
-def test_low_to_high_climbs_by_200_hz_a_step(bench: Bench, driver: Driver, user: User,
+def test_low_to_high_climbs_by_200_hz_a_step(rig: Rig, driver: Driver, user: User,
                                              recorder: Recorder, sound_bit: str, seconds: int,
                                              highest: int) -> None:
-    program = start(bench, driver, sound_bit)
+    program = start(rig, driver, sound_bit)
     try:
         window = program.window()
 
@@ -32,7 +32,7 @@ def test_low_to_high_climbs_by_200_hz_a_step(bench: Bench, driver: Driver, user:
         if not climbs(pitches, highest):
             pitches = heard_pitches()
         assert climbs(pitches, highest), " ".join(map(str, pitches))
-        expect_nothing_left(bench, program)
+        expect_nothing_left(rig, program)
     finally:
         program.finish()
 

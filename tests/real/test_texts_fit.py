@@ -1,62 +1,33 @@
 """No caption is cut off in its control, in either language, at 96 and 144 DPI."""
 
-from collections.abc import Iterator
 from itertools import combinations
 
 import pytest
 
-from bench import PROJECT, Bench, wait_for
-from program import (FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, MODES, Folders,
-                     Tonmira)
-from window import Driver, Place, User, Window
+from rig.paths import SCREENS
+from rig.program import FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, MODES, Folders
+from rig.resolution import cut_off, start_at_dpi
+from rig.rig import Rig
+from rig.waiting import wait_for
+from rig.window import Driver, Place, User, Window
 
-SCREENS = PROJECT / "out" / "screens"
 DUTCH_MODES = ["Lage toon", "Gemiddelde toon", "Hoge toon", "Extreme toon", "Spooktoon",
                "Laag naar hoog", "Eigen toonhoogte", "Morsetool", "Gehoorleeftijd"]
-
-
-def set_dpi(bench: Bench, dpi: int) -> None:
-    bench.run("wine", "reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t",
-              "REG_DWORD", "/d", str(dpi), "/f", timeout=60)
-
-
-@pytest.fixture(params=[96, 144])
-def driver_at_dpi(request: pytest.FixtureRequest, bench: Bench) -> Iterator[tuple[Driver, int]]:
-    set_dpi(bench, request.param)
-    yield Driver(bench), request.param
-    set_dpi(bench, 96)
-
-
-def start(bench: Bench, driver: Driver, folders: Folders, dpi: int) -> Tonmira:
-    """Starts the program; past the warning of a screen that is not of 96 DPI."""
-    program = Tonmira(bench, driver, folders)
-    try:
-        if dpi != 96:
-            program.window("Warning").press("OK")
-        program.wait_for_log(">> Program starting finished")
-    except BaseException:
-        program.finish()
-        raise
-    return program
-
-
-def cut_off(driver: Driver, window: Window) -> list[str]:
-    return [line[0] for line in driver.ask("cut", window.handle)]
 
 
 @pytest.mark.parametrize(("language", "modes", "custom", "help_button", "play", "tool"), [
     ("EN", MODES, "Custom pitch", "Help", "Start", "Morse tool"),
     ("NL", DUTCH_MODES, "Eigen toonhoogte", "Help", "Starten", "Morsetool"),
 ])
-def test_no_caption_is_cut_off(bench: Bench, user: User, driver_at_dpi: tuple[Driver, int],
+def test_no_caption_is_cut_off(rig: Rig, user: User, driver_at_dpi: tuple[Driver, int],
                                language: str, modes: list[str], custom: str, help_button: str,
                                play: str, tool: str) -> None:
     driver, dpi = driver_at_dpi
-    folders = Folders(bench)
+    folders = Folders(rig)
     settings = list(GOOD_SETTINGS)
     settings[2] = f"Language={language}"
     folders.write_settings(settings)
-    program = start(bench, driver, folders, dpi)
+    program = start_at_dpi(rig, driver, folders, dpi)
 
     def look_at(window: Window, name: str) -> None:
         user.screenshot(window, SCREENS / f"{name}-{language.lower()}-{dpi}.png")
@@ -99,10 +70,10 @@ def overlap(a: Place, b: Place) -> bool:
     ("nl", 1, "Ik wil geen anonieme data verzenden"),
 ])
 def test_the_first_run_dialog_shows_all_of_its_texts(
-        bench: Bench, user: User, driver_at_dpi: tuple[Driver, int], language: str, index: int,
+        rig: Rig, user: User, driver_at_dpi: tuple[Driver, int], language: str, index: int,
         refusal: str) -> None:
     driver, dpi = driver_at_dpi
-    program = start(bench, driver, Folders(bench), dpi)
+    program = start_at_dpi(rig, driver, Folders(rig), dpi)
     try:
         dialog = program.window(FIRST_RUN_TITLE)
         dialog.select(index)

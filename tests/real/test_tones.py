@@ -6,18 +6,19 @@ from dataclasses import dataclass
 
 import pytest
 
-from bench import Bench, wait_for
-from measuring import Tone, measure
-from program import GOOD_SETTINGS, MODES, TEMPORARY_WAVE, Folders, Tonmira
-from sound import Recorder
-from window import Driver, User, Window
+from rig.measuring import Tone, measure
+from rig.program import GOOD_SETTINGS, MODES, TEMPORARY_WAVE, Folders, Tonmira
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window
 
 FIXED = list(zip(MODES[:5], [1000, 4500, 10000, 16600, 21000]))
 CUSTOM = [("Custom pitch", 4), ("Custom pitch", 440), ("Custom pitch", 15000)]
 
 SILENT_WITHIN_S = 0.3
-# How far the bench's own moments may be off; see Recorder.
-BENCH_DELAY_S = 0.04
+# How far the rig's own moments may be off; see Recorder.
+RIG_DELAY_S = 0.04
 
 
 @dataclass
@@ -34,16 +35,16 @@ class Round:
         return (self.tone is not None
                 and abs(self.tone.frequency_hz / pitch - 1) <= tolerance
                 and 29000 <= self.tone.peak <= 30500
-                and self.silent_after_s <= SILENT_WITHIN_S + BENCH_DELAY_S)
+                and self.silent_after_s <= SILENT_WITHIN_S + RIG_DELAY_S)
 
 
 @pytest.fixture(scope="module", params=["128", "256"])
-def program(request: pytest.FixtureRequest, bench: Bench, driver: Driver) -> Iterator[Tonmira]:
-    folders = Folders(bench)
+def program(request: pytest.FixtureRequest, rig: Rig, driver: Driver) -> Iterator[Tonmira]:
+    folders = Folders(rig)
     settings = list(GOOD_SETTINGS)
     settings[1] = f"SoundBit={request.param}"
     folders.write_settings(settings)
-    program = Tonmira(bench, driver, folders)
+    program = Tonmira(rig, driver, folders)
     program.wait_for_log(">> Program starting finished")
     yield program
     program.finish()
@@ -97,5 +98,5 @@ def test_a_tone_is_heard_at_its_pitch_and_ends_with_stop(
     assert 29000 <= heard.tone.peak <= 30500
     assert heard.status == f"Actual pitch (Hertz): {pitch}"
     assert window.status().strip() == "Actual pitch (Hertz):"
-    assert heard.silent_after_s <= SILENT_WITHIN_S + BENCH_DELAY_S
+    assert heard.silent_after_s <= SILENT_WITHIN_S + RIG_DELAY_S
     assert TEMPORARY_WAVE not in heard.files

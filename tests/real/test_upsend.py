@@ -7,11 +7,11 @@ from pathlib import Path
 
 import pytest
 
-from bench import Bench
-from program import Folders
-from served_site import ServedSite
-from uploading import ACTIVITY, ERROR, MIB, NOT_SENT, SENT, UPSEND, Upsend
-from window import Driver
+from rig.program import Folders
+from rig.rig import Rig
+from rig.served_site import ServedSite
+from rig.uploading import ACTIVITY, ERROR, MIB, NOT_SENT, SENT, UPSEND, Upsend
+from rig.window import Driver
 
 
 def test_the_activity_log_arrives_byte_for_byte(upsend: Upsend, site: ServedSite) -> None:
@@ -106,10 +106,10 @@ def test_a_damaged_hand_over_file_sends_nothing(
 
 
 def test_folders_with_any_characters_work(
-        bench: Bench, driver: Driver, site: ServedSite) -> None:
-    folders = Folders(bench, "Zo\u00eb \u6771\u4eac & (x86)")
-    upsend = Upsend(bench, driver, folders)
-    home = bench.new_folder("My Tools (x64) & more")
+        rig: Rig, driver: Driver, site: ServedSite) -> None:
+    folders = Folders(rig, "Zo\u00eb \u6771\u4eac & (x86)")
+    upsend = Upsend(rig, driver, folders)
+    home = rig.new_folder("My Tools (x64) & more")
     upsend.exe = Path(shutil.copy(UPSEND, home))
     (folders.temp / "userdata.txt").write_bytes(ACTIVITY)
     # The program writes a question mark for what its code page lacks.

@@ -10,11 +10,11 @@ from pathlib import Path
 
 import pytest
 
-from bad_servers import babble, bad_server, drip, hang_up, silent
-from bench import Bench
-from served_site import ServedSite, served_site
-from uploading import ERROR, NOT_SENT, SENT, TOO_SLOW, Upsend
-from window import Driver
+from rig.bad_servers import babble, bad_server, drip, hang_up, silent
+from rig.rig import Rig
+from rig.served_site import ServedSite, served_site
+from rig.uploading import ERROR, NOT_SENT, SENT, TOO_SLOW, Upsend
+from rig.window import Driver
 
 
 @pytest.mark.parametrize("form", ["ftp{rest}", "{address}", "http:{address}", "{base} ",
@@ -29,9 +29,9 @@ def test_nonsense_for_a_site_reaches_no_server(
     assert site.requests() == []
 
 
-def test_a_site_in_a_folder_of_its_host_gets_the_log_there(bench: Bench, upsend: Upsend) -> None:
+def test_a_site_in_a_folder_of_its_host_gets_the_log_there(rig: Rig, upsend: Upsend) -> None:
     rules = "location /tones/ { rewrite ^/tones(/.*)$ $1; }"
-    with served_site(bench.folder, rules=rules) as site:
+    with served_site(rig.folder, rules=rules) as site:
         upsend.hand_over("error.log", "4711error.log")
         assert upsend.run(site.base_url + "/tones/") == SENT
         assert site.received() == {"4711error.log": ERROR}
@@ -40,10 +40,10 @@ def test_a_site_in_a_folder_of_its_host_gets_the_log_there(bench: Bench, upsend:
 
 @pytest.mark.parametrize("status", [301, 302, 303, 307, 308])
 def test_a_redirection_is_not_followed(
-        bench: Bench, upsend: Upsend, site: ServedSite, status: int) -> None:
+        rig: Rig, upsend: Upsend, site: ServedSite, status: int) -> None:
     # On this machine, "localhost" is another host than "127.0.0.1".
     target = site.base_url.replace("127.0.0.1", "localhost")
-    with served_site(bench.folder, rules=f"location ~ ^/usage/ {{ return {status} "
+    with served_site(rig.folder, rules=f"location ~ ^/usage/ {{ return {status} "
                                          f"{target}$request_uri; }}") as redirecting:
         upsend.hand_over("error.log", "4711error.log")
         assert upsend.run(redirecting.base_url) == NOT_SENT
@@ -58,21 +58,21 @@ def test_a_name_that_is_taken_is_left_alone(upsend: Upsend, site: ServedSite) ->
     assert site.received() == {"4711error.log": b"first"}
 
 
-def trust(bench: Bench, certificate: Path) -> None:
+def trust(rig: Rig, certificate: Path) -> None:
     """Puts a certificate among those that this user of Windows trusts."""
     der = ssl.PEM_cert_to_DER_cert(certificate.read_text())
     blob = struct.pack("<III", 32, 1, len(der)) + der  # one property: the certificate itself
     key = (r"HKEY_CURRENT_USER\Software\Microsoft\SystemCertificates\Root\Certificates" + "\\"
            + hashlib.sha1(der).hexdigest().upper())
-    bench.run("wine", "reg", "add", key, "/v", "Blob", "/t", "REG_BINARY", "/d", blob.hex(), "/f")
+    rig.run("wine", "reg", "add", key, "/v", "Blob", "/t", "REG_BINARY", "/d", blob.hex(), "/f")
 
 
-def test_https_takes_a_good_certificate_and_no_other(bench: Bench, upsend: Upsend) -> None:
-    with served_site(bench.folder, tls=True) as site:
+def test_https_takes_a_good_certificate_and_no_other(rig: Rig, upsend: Upsend) -> None:
+    with served_site(rig.folder, tls=True) as site:
         named = site.base_url.replace("127.0.0.1", "localhost")
         upsend.hand_over("error.log", "4711error.log")
         assert upsend.run(named) == NOT_SENT  # nobody vouches for it
-        trust(bench, site.certificate)
+        trust(rig, site.certificate)
         # Wine finds only host names in a certificate, no addresses: it is another host's.
         assert upsend.run(site.base_url) == NOT_SENT
         assert (site.received(), site.requests()) == ({}, [])

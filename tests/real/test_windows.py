@@ -1,32 +1,17 @@
 """Each window on the screen, and how the program ends by its messages."""
 
 import re
-import subprocess
 from collections.abc import Callable, Iterator
-from pathlib import Path
 
-import numpy as np
 import pytest
 
-from bench import Bench, wait_for
-from conftest import SCREENS
-from program import GOOD_SETTINGS, MODES, Folders, Tonmira, play_once
-from sound import Recorder
-from window import Driver, User
-
-
-def assert_shows_something(picture: Path, width: int, height: int) -> None:
-    """At least this large, and no single colour fills nearly all of it."""
-    size = subprocess.run(["identify", "-format", "%w %h", picture], check=True,
-                          stdout=subprocess.PIPE, text=True).stdout.split()
-    assert int(size[0]) >= width and int(size[1]) >= height, size
-    data = subprocess.run(["convert", picture, "-depth", "8", "rgb:-"], check=True,
-                          stdout=subprocess.PIPE).stdout
-    pixels = np.frombuffer(data, np.uint8).reshape(-1, 3).astype(np.uint32)
-    colours = pixels[:, 0] << 16 | pixels[:, 1] << 8 | pixels[:, 2]
-    counts = np.unique(colours, return_counts=True)[1]
-    assert len(counts) >= 8
-    assert counts.max() < 0.97 * len(colours)
+from rig.paths import SCREENS
+from rig.pictures import assert_shows_something
+from rig.program import GOOD_SETTINGS, MODES, Folders, Tonmira, play_once
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, User
 
 
 @pytest.fixture
@@ -38,12 +23,12 @@ def started(launch: Callable[..., Tonmira], folders: Folders) -> Tonmira:
 
 
 @pytest.fixture
-def fine_screen(bench: Bench) -> Iterator[None]:
+def fine_screen(rig: Rig) -> Iterator[None]:
     """A screen of 144 dots per inch."""
     key = ("HKCU\\Control Panel\\Desktop", "/v", "LogPixels", "/f")
-    bench.run("wine", "reg", "add", *key, "/t", "REG_DWORD", "/d", "144")
+    rig.run("wine", "reg", "add", *key, "/t", "REG_DWORD", "/d", "144")
     yield
-    bench.run("wine", "reg", "delete", *key)
+    rig.run("wine", "reg", "delete", *key)
 
 
 def test_the_main_window(started: Tonmira, user: User) -> None:

@@ -6,10 +6,10 @@ from pathlib import Path
 
 import pytest
 
-sys.path.append(str(Path(__file__).resolve().parents[1] / "real"))
+sys.path.append(str(Path(__file__).resolve().parents[1]))
 
 from browser import Browser, chromium  # noqa: E402
-from served_site import ServedSite, make_site, served_site  # noqa: E402
+from rig.served_site import ServedSite, make_site, served_site  # noqa: E402
 
 
 @pytest.fixture(scope="session")

@@ -6,8 +6,8 @@ from urllib.parse import urlsplit
 
 import pytest
 
-from bench import PROJECT
-from served_site import ServedSite
+from rig.paths import PROJECT
+from rig.served_site import ServedSite
 
 MIB = 1024 * 1024
 BUILT_IN_SITE = "https://www.tonmira.example"

@@ -7,9 +7,9 @@ from pathlib import Path
 import pytest
 from selenium.webdriver.common.keys import Keys
 
-from bench import PROJECT
 from browser import Browser
-from served_site import ServedSite, served_site
+from rig.paths import PROJECT
+from rig.served_site import ServedSite, served_site
 
 # Path that the program asks for -> heading of the page that it must lead to.
 PAGES = {

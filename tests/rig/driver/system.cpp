@@ -1,4 +1,4 @@
-#include "tests/real/driver_system.h"
+#include "tests/rig/driver/system.h"
 
 #include <algorithm>
 #include <cwchar>

@@ -1,12 +1,12 @@
-"""What stands on the bench's display at this moment, as pixels, and what a drawn wave holds."""
+"""What stands on the rig's display at this moment, as pixels, and what a drawn wave holds."""
 
 import ctypes
 import time
 
 import numpy as np
 
-from bench import Bench
-from window import Place
+from rig.rig import Rig
+from rig.window import Place
 
 ALL_PLANES = ctypes.c_ulong(-1)
 Z_PIXMAP = 2
@@ -23,7 +23,7 @@ class XImage(ctypes.Structure):
 class Screen:
     """Looks without waiting for anything to settle; one look takes about a millisecond."""
 
-    def __init__(self, bench: Bench):
+    def __init__(self, rig: Rig):
         self._x11 = ctypes.CDLL("libX11.so.6")
         self._x11.XOpenDisplay.restype = ctypes.c_void_p
         self._x11.XDefaultRootWindow.argtypes = [ctypes.c_void_p]
@@ -34,7 +34,7 @@ class Screen:
             ctypes.c_uint, ctypes.c_ulong, ctypes.c_int]
         self._x11.XDestroyImage.argtypes = [ctypes.POINTER(XImage)]
         self._x11.XCloseDisplay.argtypes = [ctypes.c_void_p]
-        self._display = self._x11.XOpenDisplay(bench.env["DISPLAY"].encode())
+        self._display = self._x11.XOpenDisplay(rig.env["DISPLAY"].encode())
         if not self._display:
             raise OSError("no display")
         self._root = self._x11.XDefaultRootWindow(self._display)

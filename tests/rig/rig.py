@@ -1,6 +1,6 @@
-"""The test bench: a display, a sound card with ears and a Wine prefix, all private.
+"""The test rig: a display, a sound card with ears and a Wine prefix, all private.
 
-Everything lives in one temporary folder and ends with the bench; several benches can run side by
+Everything lives in one temporary folder and ends with the rig; several rigs can run side by
 side. Nothing outside the folder is written, except the cache of prepared things under build/.
 """
 
@@ -10,15 +10,12 @@ import shutil
 import signal
 import subprocess
 import tempfile
-import time
 from contextlib import ExitStack
 from pathlib import Path
-from typing import Callable
 
-PROJECT = Path(__file__).resolve().parents[2]
-CACHE = PROJECT / "build" / "test-bench"
-PROGRAM = PROJECT / "build" / "windows" / "tonmira" / "tonmira.exe"
-DRIVER_SOURCES = sorted((PROJECT / "tests" / "real").glob("driver*.*"))
+from rig.paths import CACHE
+from rig.processes import all_processes, end_process, environment_of, executable_of
+from rig.waiting import wait_for
 
 SCREEN = "1280x1024x24"
 QUIET_WINE = {
@@ -35,20 +32,8 @@ set-default-source mic.monitor
 """
 
 
-def wait_for(condition: Callable[[], object], what: str, seconds: float = 20) -> object:
-    """Returns the first true value of `condition`; fails when none comes in time."""
-    end = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > end:
-            raise TimeoutError(f"waited {seconds} s in vain for {what}")
-        time.sleep(0.02)
-
-
 class Locked:
-    """Holds a lock file, so that two benches do not prepare the same thing at once."""
+    """Holds a lock file, so that two rigs do not prepare the same thing at once."""
 
     def __init__(self, path: Path):
         path.parent.mkdir(parents=True, exist_ok=True)
@@ -61,25 +46,11 @@ class Locked:
         self._file.close()
 
 
-def build_driver() -> Path:
-    exe = CACHE / "driver.exe"
-    with Locked(CACHE / "lock"):
-        newest = max(source.stat().st_mtime for source in DRIVER_SOURCES)
-        if not exe.exists() or exe.stat().st_mtime < newest:
-            subprocess.run(
-                ["x86_64-w64-mingw32-g++-win32", "-std=c++20", "-O2", "-static", "-Wall",
-                 "-Wextra", "-Wconversion", "-Wshadow", "-Werror", "-I", PROJECT,
-                 *(source for source in DRIVER_SOURCES if source.suffix == ".cpp"), "-o", exe,
-                 "-lgdi32", "-ladvapi32"],
-                check=True)
-    return exe
-
-
-class Bench:
+class Rig:
     """Starts everything on construction; `close` ends it, also after a failed start."""
 
     def __init__(self) -> None:
-        self.folder = Path(tempfile.mkdtemp(prefix="tonmira-bench-"))
+        self.folder = Path(tempfile.mkdtemp(prefix="tonmira-rig-"))
         self._stack = ExitStack()
         self._stack.callback(shutil.rmtree, self.folder, ignore_errors=True)
         self.env = self._private_environment()
@@ -95,7 +66,7 @@ class Bench:
     def close(self) -> None:
         self._stack.close()
 
-    def __enter__(self) -> "Bench":
+    def __enter__(self) -> "Rig":
         return self
 
     def __exit__(self, *_: object) -> None:
@@ -113,21 +84,21 @@ class Bench:
         return "Z:" + str(path).replace("/", "\\")
 
     def run(self, *command: str, timeout: float = 60, stderr: int | None = None) -> str:
-        """Runs a tool on the bench and returns what it prints."""
+        """Runs a tool on the rig and returns what it prints."""
         return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL, check=True,
                               timeout=timeout, stdout=subprocess.PIPE, stderr=stderr,
                               text=True).stdout
 
     def start(self, *command: str, **options: object) -> subprocess.Popen:
-        """Starts a process that ends with the bench."""
+        """Starts a process that ends with the rig."""
         process = subprocess.Popen(command, env=self.env, start_new_session=True,
                                    **{"stdin": subprocess.DEVNULL, **options})
         self._stack.callback(end_process, process)
         return process
 
     def processes(self) -> list[int]:
-        """Every process that runs on this bench, found by its environment."""
-        mark = f"TONMIRA_BENCH={self.folder}".encode()
+        """Every process that runs on this rig, found by its environment."""
+        mark = f"TONMIRA_RIG={self.folder}".encode()
         return [pid for pid in all_processes() if mark in environment_of(pid)]
 
     def _private_environment(self) -> dict[str, str]:
@@ -143,7 +114,7 @@ class Bench:
             "PULSE_RUNTIME_PATH": str(self.folder / "runtime" / "pulse"),
             "PULSE_SERVER": f"unix:{self.folder}/runtime/sound",
             "WINEPREFIX": str(self.prefix),
-            "TONMIRA_BENCH": str(self.folder),
+            "TONMIRA_RIG": str(self.folder),
             # Nobody listens there: a test that wants a site names another.
             "TONMIRA_SITE": "http://127.0.0.1:1",
             **QUIET_WINE,
@@ -191,7 +162,7 @@ class Bench:
         self.run("wineserver", "-p")
 
     def _make_user_folders(self) -> None:
-        """The desktop and the like are links into the home of the bench that made the template.
+        """The desktop and the like are links into the home of the rig that made the template.
         Without a desktop the system's file dialog shows no files and opens none."""
         for folder in (self.prefix / "drive_c" / "users").glob("*/*"):
             if folder.is_symlink() and not folder.exists():
@@ -222,37 +193,10 @@ class Bench:
         return template
 
 
-def all_processes() -> list[int]:
-    return [int(name) for name in os.listdir("/proc") if name.isdigit()]
-
-
-def environment_of(pid: int) -> list[bytes]:
-    try:
-        return Path(f"/proc/{pid}/environ").read_bytes().split(b"\0")
-    except OSError:
-        return []
-
-
-def executable_of(pid: int) -> str:
-    try:
-        return os.path.basename(os.readlink(f"/proc/{pid}/exe"))
-    except OSError:
-        return ""
-
-
-def command_of(pid: int) -> str:
-    try:
-        return Path(f"/proc/{pid}/cmdline").read_bytes().replace(b"\0", b" ").decode(
-            errors="replace").strip()
-    except OSError:
-        return ""
-
-
-def end_process(process: subprocess.Popen) -> None:
-    if process.poll() is None:
-        process.terminate()
-        try:
-            process.wait(timeout=5)
-        except subprocess.TimeoutExpired:
-            process.kill()
-            process.wait()
+def what_is_left_of(rig: Rig) -> list[str]:
+    """Processes, folders and displays of a closed rig that are still there; should be nothing."""
+    number = rig.display_number
+    left = [f"process {pid}" for pid in rig.processes()]
+    left += [str(path) for path in (rig.folder, Path(f"/tmp/.X{number}-lock"),
+                                    Path(f"/tmp/.X11-unix/X{number}")) if path.exists()]
+    return left

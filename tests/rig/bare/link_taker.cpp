@@ -1,4 +1,4 @@
-// Stands in for the default browser on the test bench: adds what it was started with, as one line,
+// Stands in for the default browser on the rig: adds what it was started with, as one line,
 // to the file "links.txt" in the temporary folder.
 #include <windows.h>
 

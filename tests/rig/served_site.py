@@ -13,7 +13,9 @@ from collections.abc import Iterator, Mapping
 from dataclasses import dataclass
 from pathlib import Path
 
-from bench import PROJECT, end_process, wait_for
+from rig.paths import PROJECT
+from rig.processes import end_process
+from rig.waiting import wait_for
 
 SITE = PROJECT / "site"
 RULES = PROJECT / "docs" / "nginx-site.conf"

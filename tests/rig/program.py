@@ -1,12 +1,15 @@
-"""One run of Tonmira on the bench, with folders of its own."""
+"""One run of Tonmira on the rig, with folders of its own."""
 
 from copy import copy
 from pathlib import Path
 
-from bench import PROGRAM, Bench, all_processes, command_of, environment_of, wait_for
-from measuring import Tone, measure
-from sound import Recorder
-from window import Driver, User, Window, wait_for_window
+from rig.measuring import Tone, measure
+from rig.paths import PROGRAM
+from rig.processes import all_processes, command_of, environment_of
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window, wait_for_window
 
 MAIN_TITLE = "Tonmira"
 FIRST_RUN_TITLE = "License agreements"
@@ -43,8 +46,8 @@ LOG_OF_START = [
 class Folders:
     """The user's two folders, TEMP and APPDATA, and the files that the program keeps there."""
 
-    def __init__(self, bench: Bench, name: str = "user"):
-        root = bench.new_folder(name)
+    def __init__(self, rig: Rig, name: str = "user"):
+        root = rig.new_folder(name)
         self.temp = root / "Temp"
         self.appdata = root / "Roaming"
         self.temp.mkdir()
@@ -79,16 +82,16 @@ class Folders:
 class Tonmira:
     """The running program. Its process is ended by `finish`, whatever state it is in."""
 
-    def __init__(self, bench: Bench, driver: Driver, folders: Folders, exe: Path = PROGRAM,
+    def __init__(self, rig: Rig, driver: Driver, folders: Folders, exe: Path = PROGRAM,
                  start_folder: Path | None = None, arguments: str = ""):
-        self.bench = bench
+        self.rig = rig
         self.driver = driver
         self.folders = folders
         self._successor: Tonmira | None = None
         before = set(all_processes())
         self.process = int(driver.ask(
-            "start", bench.windows_path(exe), bench.windows_path(start_folder or exe.parent),
-            bench.windows_path(folders.temp), bench.windows_path(folders.appdata),
+            "start", rig.windows_path(exe), rig.windows_path(start_folder or exe.parent),
+            rig.windows_path(folders.temp), rig.windows_path(folders.appdata),
             arguments)[0][0])
         self._before = before
 
@@ -129,7 +132,7 @@ class Tonmira:
 
     def linux_process(self) -> int:
         """The process as Linux numbers it."""
-        mark = f"TONMIRA_BENCH={self.bench.folder}".encode()
+        mark = f"TONMIRA_RIG={self.rig.folder}".encode()
         found = [pid for pid in all_processes()
                  if pid not in self._before and "tonmira.exe" in command_of(pid).lower()
                  and mark in environment_of(pid)]

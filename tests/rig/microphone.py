@@ -1,19 +1,21 @@
-"""The bench's microphone: what is played into it is recorded by the program."""
+"""The rig's microphone: what is played into it is recorded by the program."""
 
 import subprocess
 
 import numpy as np
 
-from bench import Bench, end_process, wait_for
-from measuring import RATE
-from sound import save_wav
+from rig.measuring import RATE
+from rig.processes import end_process
+from rig.rig import Rig
+from rig.sound import save_wav
+from rig.waiting import wait_for
 
 SECONDS = 120
 
 
 class Microphone:
-    def __init__(self, bench: Bench):
-        self._bench = bench
+    def __init__(self, rig: Rig):
+        self._rig = rig
         self._player: subprocess.Popen | None = None
 
     def feed(self, left_hz: float, right_hz: float, amplitude: int = 8000) -> None:
@@ -21,11 +23,11 @@ class Microphone:
         self.silence()
         moments = np.arange(SECONDS * RATE) / RATE
         channels = [np.sin(2 * np.pi * hz * moments) for hz in (left_hz, right_hz)]
-        path = self._bench.folder / "microphone.wav"
+        path = self._rig.folder / "microphone.wav"
         save_wav(path, (amplitude * np.stack(channels, axis=1)).astype("<i2"))
-        self._player = self._bench.start("paplay", "--device=mic", "--latency-msec=20", str(path),
+        self._player = self._rig.start("paplay", "--device=mic", "--latency-msec=20", str(path),
                                          stderr=subprocess.DEVNULL)
-        wait_for(lambda: "paplay" in self._bench.run("pactl", "list", "clients"), "the feed")
+        wait_for(lambda: "paplay" in self._rig.run("pactl", "list", "clients"), "the feed")
 
     def silence(self) -> None:
         if self._player:
@@ -35,20 +37,20 @@ class Microphone:
     def unplug(self) -> None:
         """The sound server's device goes while others may be using it."""
         self.silence()
-        self._bench.run("pactl", "unload-module", self._module())
+        self._rig.run("pactl", "unload-module", self._module())
 
     def plug_in(self) -> None:
-        self._bench.run("pactl", "load-module", "module-null-sink", "sink_name=mic",
+        self._rig.run("pactl", "load-module", "module-null-sink", "sink_name=mic",
                         f"rate={RATE}", "channels=2", "format=s16le")
-        self._bench.run("pactl", "set-default-source", "mic.monitor")
-        # The server lets every recording follow the default source; the bench's own one hears what
+        self._rig.run("pactl", "set-default-source", "mic.monitor")
+        # The server lets every recording follow the default source; the rig's own one hears what
         # is played.
-        outputs = self._bench.run("pactl", "list", "source-outputs").split("Source Output #")[1:]
+        outputs = self._rig.run("pactl", "list", "source-outputs").split("Source Output #")[1:]
         for output in outputs:
             if 'application.name = "parec"' in output:
-                self._bench.run("pactl", "move-source-output", output.split("\n")[0],
+                self._rig.run("pactl", "move-source-output", output.split("\n")[0],
                                 "out.monitor")
 
     def _module(self) -> str:
-        modules = self._bench.run("pactl", "list", "short", "modules").splitlines()
+        modules = self._rig.run("pactl", "list", "short", "modules").splitlines()
         return next(line.split("\t")[0] for line in modules if "sink_name=mic" in line)

@@ -1,4 +1,4 @@
-"""Listening to what the bench's sound card plays."""
+"""Listening to what the rig's sound card plays."""
 
 import subprocess
 import threading
@@ -8,8 +8,8 @@ from pathlib import Path
 
 import numpy as np
 
-from bench import Bench
-from measuring import LOUD, RATE, last_loud_sample
+from rig.measuring import LOUD, RATE, last_loud_sample
+from rig.rig import Rig
 
 FRAME_BYTES = 4
 
@@ -22,8 +22,8 @@ class Recorder:
     of 20 ms.
     """
 
-    def __init__(self, bench: Bench):
-        self._process = bench.start(
+    def __init__(self, rig: Rig):
+        self._process = rig.start(
             "parec", "--device=out.monitor", "--format=s16le", f"--rate={RATE}", "--channels=2",
             "--latency-msec=20", stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self._bytes = bytearray()

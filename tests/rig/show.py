@@ -6,11 +6,12 @@ stops and leaves.
 import signal
 import sys
 
-from bench import PROJECT, Bench
-from measuring import measure
-from program import FIRST_RUN_TITLE, Folders, Tonmira, play_once
-from sound import Recorder, save_wav
-from window import Driver, User
+from rig.measuring import measure
+from rig.paths import PROJECT
+from rig.program import FIRST_RUN_TITLE, Folders, Tonmira, play_once
+from rig.rig import Rig
+from rig.sound import Recorder, save_wav
+from rig.window import Driver, User
 
 FIRST_PICTURE = PROJECT / "out" / "first-run.png"
 PICTURE = PROJECT / "out" / "tonmira.png"
@@ -29,13 +30,13 @@ def pass_first_run(program: Tonmira, user: User) -> Tonmira:
     return program.successor()
 
 
-def show(bench: Bench) -> bool:
-    driver, user = Driver(bench), User(bench)
-    recorder = Recorder(bench)
-    first = Tonmira(bench, driver, Folders(bench))
+def show(rig: Rig) -> bool:
+    driver, user = Driver(rig), User(rig)
+    recorder = Recorder(rig)
+    first = Tonmira(rig, driver, Folders(rig))
     try:
         program = pass_first_run(first, user)
-        print(f'Tonmira is open on the virtual display :{bench.display_number}. '
+        print(f'Tonmira is open on the virtual display :{rig.display_number}. '
               f'Playing "{MODE}" ...')
         window = play_once(program, user, MODE)
         recorder.wait_for_tone()
@@ -64,8 +65,8 @@ def show(bench: Bench) -> bool:
 
 def main() -> int:
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
-    with Bench() as bench:
-        good = show(bench)
+    with Rig() as rig:
+        good = show(rig)
     return 0 if good else 1
 
 

@@ -6,11 +6,12 @@ from pathlib import Path
 
 import numpy as np
 
-from bench import Bench, wait_for
-from measuring import RATE, loud_stretches, measure
-from program import GOOD_SETTINGS, Folders, Tonmira
-from sound import Recorder
-from window import Driver, Window
+from rig.measuring import RATE, loud_stretches, measure
+from rig.program import GOOD_SETTINGS, Folders, Tonmira
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, Window
 
 # Tones follow each other after a pause of some 15 ms.
 CHUNK = RATE // 500
@@ -30,16 +31,16 @@ def file_of(entries: Entries, visibility: str = "visible", extra_ms: int = EXTRA
     return "".join(line + "\r\n" for line in lines).encode()
 
 
-def open_file(bench: Bench, driver: Driver, path: Path, sound_bit: str = "256",
+def open_file(rig: Rig, driver: Driver, path: Path, sound_bit: str = "256",
               quoted: bool = False, folders: Folders | None = None,
               start_folder: Path | None = None, name: str | None = None) -> Tonmira:
     """Starts the program with the file as its argument, under `name` where one is given."""
-    folders = folders or Folders(bench)
+    folders = folders or Folders(rig)
     settings = list(GOOD_SETTINGS)
     settings[1] = f"SoundBit={sound_bit}"
     folders.write_settings(settings)
-    argument = name or bench.windows_path(path)
-    return Tonmira(bench, driver, folders, start_folder=start_folder,
+    argument = name or rig.windows_path(path)
+    return Tonmira(rig, driver, folders, start_folder=start_folder,
                    arguments=f'"{argument}"' if quoted else argument)
 
 

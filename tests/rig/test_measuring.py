@@ -3,7 +3,8 @@
 import numpy as np
 import pytest
 
-from measuring import RATE, last_loud_sample, loud_stretches, measure, short_pitch, steady_pitches
+from rig.measuring import (RATE, last_loud_sample, loud_stretches, measure, short_pitch,
+                           steady_pitches)
 
 
 def tone(frequency: float, seconds: float, amplitude: float = 30000) -> np.ndarray:

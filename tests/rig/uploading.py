@@ -1,8 +1,10 @@
-"""upsend.exe on the bench, with logs that it may send."""
+"""upsend.exe on the rig, with logs that it may send."""
 
-from bench import PROGRAM, Bench, wait_for
-from program import Folders
-from window import Driver
+from rig.paths import PROGRAM
+from rig.program import Folders
+from rig.rig import Rig
+from rig.waiting import wait_for
+from rig.window import Driver
 
 UPSEND = PROGRAM.parent / "upsend.exe"
 SENT, NOT_SENT, TOO_SLOW = 0, 1, 2
@@ -17,15 +19,15 @@ END_S = 60
 class Upsend:
     """Starts upsend.exe with the hand-over file that a test wants, and waits for its end."""
 
-    def __init__(self, bench: Bench, driver: Driver, folders: Folders):
-        self.bench = bench
+    def __init__(self, rig: Rig, driver: Driver, folders: Folders):
+        self.rig = rig
         self.driver = driver
         self.folders = folders
         self.exe = UPSEND
 
     @property
     def temp(self) -> str:
-        return self.bench.windows_path(self.folders.temp)
+        return self.rig.windows_path(self.folders.temp)
 
     def hand_over(self, file: str, name: str) -> None:
         (self.folders.temp / "snd.ini").write_bytes(f"{file}\r\n{name}\r\n".encode("cp1252"))
@@ -34,9 +36,9 @@ class Upsend:
         self.driver.ask("set", "TONMIRA_SITE", site)
         try:
             return int(self.driver.ask(
-                "start", self.bench.windows_path(self.exe),
-                self.bench.windows_path(self.exe.parent), self.temp,
-                self.bench.windows_path(self.folders.appdata))[0][0])
+                "start", self.rig.windows_path(self.exe),
+                self.rig.windows_path(self.exe.parent), self.temp,
+                self.rig.windows_path(self.folders.appdata))[0][0])
         finally:
             self.driver.ask("set", "TONMIRA_SITE", "")
 

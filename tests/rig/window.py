@@ -6,7 +6,9 @@ import time
 from dataclasses import dataclass
 from pathlib import Path
 
-from bench import Bench, build_driver, wait_for
+from rig.paths import DRIVER
+from rig.rig import Rig
+from rig.waiting import wait_for
 
 
 @dataclass(frozen=True)
@@ -54,9 +56,9 @@ class TopWindow:
 class Driver:
     """One helper program inside the Windows session; see driver.cpp for its commands."""
 
-    def __init__(self, bench: Bench):
-        self.bench = bench
-        self._process = bench.start("wine", str(build_driver()), stdin=subprocess.PIPE,
+    def __init__(self, rig: Rig):
+        self.rig = rig
+        self._process = rig.start("wine", str(DRIVER), stdin=subprocess.PIPE,
                                     stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                                     encoding="utf-8")
 
@@ -153,13 +155,13 @@ class Window:
 
 
 class User:
-    """A person at the bench's display: looks, moves the mouse and types."""
+    """A person at the rig's display: looks, moves the mouse and types."""
 
-    def __init__(self, bench: Bench):
-        self.bench = bench
+    def __init__(self, rig: Rig):
+        self.rig = rig
 
     def xdotool(self, *arguments: str) -> str:
-        return self.bench.run("xdotool", *arguments, timeout=20).strip()
+        return self.rig.run("xdotool", *arguments, timeout=20).strip()
 
     def x_window(self, window: Window) -> str:
         """The window as the display numbers it."""
@@ -168,7 +170,7 @@ class User:
     def _find(self, window: Window) -> str:
         place = window.place()
         try:
-            ids = self.bench.run("xdotool", "search", "--onlyvisible", "--name",
+            ids = self.rig.run("xdotool", "search", "--onlyvisible", "--name",
                                  f"^{re.escape(window.title)}$",
                                  stderr=subprocess.DEVNULL).split()
             for candidate in ids:
@@ -217,7 +219,7 @@ class User:
         def is_settled() -> bool:
             pictures = []
             for _ in range(2):
-                self.bench.run("import", "-window", x_window, "-frame", "rgb:" + str(path))
+                self.rig.run("import", "-window", x_window, "-frame", "rgb:" + str(path))
                 pictures.append(path.read_bytes())
                 time.sleep(0.2)
             return pictures[0] == pictures[1]
@@ -226,7 +228,7 @@ class User:
             if not moving:
                 wait_for(is_settled, f"a finished picture of {window.title!r}", 10)
         finally:
-            self.bench.run("import", "-window", x_window, "-frame", "png:" + str(path))
+            self.rig.run("import", "-window", x_window, "-frame", "png:" + str(path))
 
 
 def wait_for_window(driver: Driver, title: str, process: int | None = None,

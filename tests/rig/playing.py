@@ -1,25 +1,27 @@
 """Playing in any sound mode, and what is left of it afterwards."""
 
-from bench import Bench, command_of, wait_for
-from program import GOOD_SETTINGS, TEMPORARY_WAVE, Folders, Tonmira
-from sound import Recorder
-from window import Driver, User, Window
+from rig.processes import command_of
+from rig.program import GOOD_SETTINGS, TEMPORARY_WAVE, Folders, Tonmira
+from rig.rig import Rig
+from rig.sound import Recorder
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window
 
 HELPERS = ("tone16.dll", "tone32.dll", "play16.exe")
 
 
-def start(bench: Bench, driver: Driver, sound_bit: str) -> Tonmira:
-    folders = Folders(bench)
+def start(rig: Rig, driver: Driver, sound_bit: str) -> Tonmira:
+    folders = Folders(rig)
     settings = list(GOOD_SETTINGS)
     settings[1] = f"SoundBit={sound_bit}"
     folders.write_settings(settings)
-    program = Tonmira(bench, driver, folders)
+    program = Tonmira(rig, driver, folders)
     program.wait_for_log(">> Program starting finished")
     return program
 
 
-def helpers_running(bench: Bench) -> list[str]:
-    return [name for pid in bench.processes() for name in HELPERS
+def helpers_running(rig: Rig) -> list[str]:
+    return [name for pid in rig.processes() for name in HELPERS
             if name in command_of(pid).lower()]
 
 
@@ -40,9 +42,9 @@ def stop(program: Tonmira, user: User, window: Window, recorder: Recorder) -> fl
     return 0.0 if last_sound is None else last_sound - stopped
 
 
-def expect_nothing_left(bench: Bench, program: Tonmira) -> None:
+def expect_nothing_left(rig: Rig, program: Tonmira) -> None:
     """No helper process, and none of the files that a tone needs."""
-    wait_for(lambda: not helpers_running(bench), "the end of the helpers", 3)
+    wait_for(lambda: not helpers_running(rig), "the end of the helpers", 3)
     names = program.folders.names()
     assert "sound.ini" not in names
     assert TEMPORARY_WAVE not in names

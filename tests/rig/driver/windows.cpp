@@ -1,0 +1,110 @@
+#include "tests/rig/driver/windows.h"
+
+#include <cstdint>
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+
+namespace {
+
+constexpr UINT kAnswerTimeoutMs = 10000;
+
+long long Number(HWND window) {
+  return reinterpret_cast<std::intptr_t>(window);
+}
+
+std::string PlaceOf(HWND window) {
+  RECT place = {};
+  GetWindowRect(window, &place);
+  std::ostringstream line;
+  line << place.left << '\t' << place.top << '\t' << place.right - place.left << '\t'
+       << place.bottom - place.top;
+  return line.str();
+}
+
+BOOL CALLBACK PrintWindow(HWND window, LPARAM) {
+  DWORD pid = 0;
+  GetWindowThreadProcessId(window, &pid);
+  wchar_t title[256] = {};
+  GetWindowTextW(window, title, 256);
+  std::cout << Number(window) << '\t' << pid << '\t' << ClassOf(window) << '\t'
+            << IsWindowVisible(window) << '\t' << PlaceOf(window) << '\t' << Utf8(title) << '\n';
+  return TRUE;
+}
+
+BOOL CALLBACK PrintControl(HWND window, LPARAM) {
+  wchar_t caption[1024] = {};
+  InternalGetWindowText(window, caption, 1024);
+  std::cout << Number(window) << '\t' << GetDlgCtrlID(window) << '\t' << ClassOf(window) << '\t'
+            << IsWindowEnabled(window) << '\t' << IsWindowVisible(window) << '\t' << PlaceOf(window)
+            << '\t' << Utf8(caption) << '\n';
+  return TRUE;
+}
+
+}  // namespace
+
+HWND Window(const std::string& field) {
+  return reinterpret_cast<HWND>(static_cast<std::intptr_t>(std::stoll(field)));
+}
+
+LRESULT Ask(HWND window, UINT message, WPARAM first, LPARAM second) {
+  DWORD_PTR answer = 0;
+  if (SendMessageTimeoutW(window, message, first, second, SMTO_NORMAL, kAnswerTimeoutMs, &answer) ==
+      0) {
+    throw std::runtime_error("the window did not answer");
+  }
+  return static_cast<LRESULT>(answer);
+}
+
+void Post(HWND window, UINT message, WPARAM first, LPARAM second) {
+  if (!PostMessageW(window, message, first, second)) {
+    throw std::runtime_error("no such window");
+  }
+}
+
+std::string ClassOf(HWND window) {
+  wchar_t name[64] = {};
+  GetClassNameW(window, name, 64);
+  return Utf8(name);
+}
+
+std::string TextOf(HWND window) {
+  wchar_t text[1024] = {};
+  Ask(window, WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text));
+  return Utf8(text);
+}
+
+void PrintWindows() {
+  EnumWindows(PrintWindow, 0);
+}
+
+void PrintControls(HWND parent) {
+  EnumChildWindows(parent, PrintControl, 0);
+}
+
+void Clicks(const Fields& fields) {
+  const std::size_t buttons = fields.size() - 2;
+  const unsigned long count = std::stoul(fields.at(1));
+  for (unsigned long i = 0; i < count; ++i) Ask(Window(fields[2 + i % buttons]), BM_CLICK);
+}
+
+void Slide(const Fields& fields) {
+  const HWND bar = Window(fields.at(1));
+  const int value = std::stoi(fields.at(2));
+  SCROLLINFO position = {};
+  position.cbSize = sizeof(position);
+  position.fMask = SIF_POS;
+  position.nPos = value;
+  SetScrollInfo(bar, SB_CTL, &position, TRUE);
+  const HWND parent = GetAncestor(bar, GA_PARENT);
+  for (const int code : {SB_THUMBPOSITION, SB_ENDSCROLL}) {
+    Ask(parent, WM_HSCROLL, MAKEWPARAM(code, value), reinterpret_cast<LPARAM>(bar));
+  }
+}
+
+void Select(const Fields& fields) {
+  const HWND combo = Window(fields.at(1));
+  Ask(combo, CB_SETCURSEL, static_cast<WPARAM>(std::stoi(fields.at(2))));
+  Ask(GetAncestor(combo, GA_PARENT), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
+      reinterpret_cast<LPARAM>(combo));
+}
