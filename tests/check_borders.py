@@ -28,6 +28,17 @@ WINDOWS_ROOMS = {
     "sound": {"api", "views"},
 }
 NATIVE = {f"platform/windows/{room}" for room in WINDOWS_ROOMS}
+
+# The tests of a room know what it knows, the simulation, and the tests of the rooms below. So each
+# room can be tried without the ones above it; what several do together is tried in tests/app.
+TESTED = {
+    "base": set(),
+    "ui": {"base"},
+    "platform": {"base", "ui"},
+    **{room: SERVICES | below for room, below in SUBSYSTEMS.items()},
+    "app": APP,
+    "helpers": {"base", "tone"},
+}
 ALLOWED = {
     "base": set(),
     "ui": {"base"},
@@ -40,10 +51,12 @@ ALLOWED = {
     "app": APP,
     "main.cpp": APP | {"app", "platform/windows"},
     "helpers": {"base", "tone", "platform/windows/api"},
-    "tests": APP | {"app", "helpers"} | SIMULATION,
-    "tests/fuzz": {"base", "helpers", "lang", "online", "program_files", "settings", "tests", "tone"},
+    **{f"tests/{room}": {room} | below | {f"tests/{other}" for other in below} | SIMULATION
+       for room, below in TESTED.items()},
+    "tests/fuzz": {"base", "helpers", "lang", "online", "program_files", "settings", "tone",
+                   "tests/program_files"},
     "tests/rig": set(),
-    "bench": APP | {"app", "tests"} | SIMULATION,
+    "bench": APP | {"app"} | {f"tests/{room}" for room in TESTED} | SIMULATION,
 }
 
 # Single headers of a higher room that a lower one may include as well.
@@ -54,7 +67,7 @@ WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tests/rig"}
 
 # Beside the C++ standard library's headers.
 FURTHER_HEADERS = {
-    "tests": {"gtest/gtest.h", "gmock/gmock.h", "quadmath.h"},
+    **{f"tests/{room}": {"gtest/gtest.h", "gmock/gmock.h", "quadmath.h"} for room in TESTED},
     "bench": {"benchmark/benchmark.h"},
 }
 STANDARD_HEADER = re.compile("[a-z_0-9]+")

@@ -1,16 +1,21 @@
+// The about box on a simulated machine.
 #include "about/frm_about.h"
 
-#include "about/value_text.h"
-#include "base/errors.h"
-#include "tests/app/fixture.h"
-#include "tests/lang/file_of.h"
+#include <gtest/gtest.h>
 
-namespace app {
+#include "about/value_text.h"
+#include "platform/simulated/simulation.h"
+#include "tests/lang/file_of.h"
+#include "tests/lang/noting_errors.h"
+
+namespace about {
 namespace {
 
-using base::ErrorCode;
+using lang::FileOf;
+using Lines = std::vector<std::string>;
 using platform::RegistryRoot;
 using platform::RegistryType;
+using platform::simulated::Kind;
 
 constexpr char kToolKey[] = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 constexpr char kFolderKey[] = "SOFTWARE\\Microsoft\\Shared Tools Location";
@@ -21,13 +26,9 @@ constexpr char kDutchDescription[] =
     "Maak de meest vervelende geluiden met Tonmira! Problemen? Mail dan naar: "
     "support@tonmira.example";
 
-class AboutTest : public ProgramTest {
+class AboutTest : public testing::Test {
  protected:
-  // Starts the program and opens the box from the menu.
-  void Open() {
-    At(100ms, [](Form1& form1) { form1.about.Click(); });
-    EXPECT_FALSE(Run());
-  }
+  void Open() { box().Show(); }
 
   void PutTool(const std::string& path) {
     sim.registry.Put(RegistryRoot::kLocalMachine, kToolKey, "PATH", RegistryType::kText, path);
@@ -45,7 +46,17 @@ class AboutTest : public ProgramTest {
     return sim.journal.Texts({Kind::kProcess, Kind::kMessage});
   }
 
-  about::frmAbout& box() { return program->frm_about; }
+  frmAbout& box() { return window; }
+
+  platform::simulated::Simulation sim;
+  lang::NotingErrors errors;
+  lang::Captions captions{[this](std::int16_t formval) {
+                            return formval == lang::kAboutBox ? box().Captions()
+                                                              : std::vector<lang::CaptionSlot>{};
+                          },
+                          [](const lang::LanguageFile&, std::int16_t) {}};
+  lang::LanguageLoader languages{sim.services, captions, errors};
+  frmAbout window{sim.services, errors, [this] { languages.LanguageAPI("en", lang::kAboutBox); }};
 };
 
 TEST_F(AboutTest, ItTellsTitleVersionAndDescription) {
@@ -57,7 +68,6 @@ TEST_F(AboutTest, ItTellsTitleVersionAndDescription) {
   EXPECT_EQ(box().lblDescription.Caption(), kEnglishDescription);
   EXPECT_EQ(box().cmdOK.Caption(), "OK");
   EXPECT_EQ(box().cmdSysInfo.Caption(), "&System Info...");
-  EXPECT_TRUE(main().Visible());
 }
 
 TEST_F(AboutTest, TitleAndVersionAreThoseOfTheVersionResource) {
@@ -66,14 +76,6 @@ TEST_F(AboutTest, TitleAndVersionAreThoseOfTheVersionResource) {
   EXPECT_EQ(box().Caption(), "About Tonmira Pro");
   EXPECT_EQ(box().lblTitle.Caption(), "Tonmira Pro");
   EXPECT_EQ(box().lblVersion.Caption(), "Version 10.0.65535");
-}
-
-TEST_F(AboutTest, AProgramWithoutAVersionResourceIsReported) {
-  sim.version_resource.version.reset();
-  sim.At(100ms, [this] { main().about.Click(); });
-  sim.At(200ms, [this] { program->form6.Command1.Click(); });
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  53,   Error value:  1");
 }
 
 TEST_F(AboutTest, TheLanguageFilesEntry72IsTheButtonsCaption) {
@@ -90,19 +92,6 @@ TEST_F(AboutTest, AFileOf70EntriesLeavesTheButtonWithoutACaption) {
   EXPECT_EQ(box().cmdSysInfo.Caption(), "");
 }
 
-TEST_F(AboutTest, TheLanguageIsTheOneThatTheProgramShows) {
-  sim.files.Put("lng_en.dll", FileOf("en", 82, {{72, "English button"}}));
-  sim.files.Put("lng_nl.dll", FileOf("nl", 82, {{72, "Nederlandse knop"}}));
-  At(100ms, [](Form1& form1) {
-    form1.dutch.Click();
-    form1.about.Click();
-  });
-  Run();
-  EXPECT_EQ(box().cmdSysInfo.Caption(), "Nederlandse knop");
-  // Only the leftover file makes the description Dutch.
-  EXPECT_EQ(box().lblDescription.Caption(), kEnglishDescription);
-}
-
 TEST_F(AboutTest, TheDescriptionIsDutchWhereTheOldLanguageFileIs) {
   sim.files.Put("nl.ini", "");
   Open();
@@ -110,23 +99,16 @@ TEST_F(AboutTest, TheDescriptionIsDutchWhereTheOldLanguageFileIs) {
   EXPECT_EQ(box().lblVersion.Caption(), "Version 2.3.6");
 }
 
-TEST_F(AboutTest, OkEnterEscapeAndTheFrameCloseItAndLeaveTheProgramRunning) {
+TEST_F(AboutTest, OkEnterEscapeAndTheFrameCloseIt) {
   Open();
   EXPECT_EQ(box().DefaultButton(), &box().cmdOK);
   EXPECT_EQ(box().CancelButton(), &box().cmdOK);
   box().cmdOK.Click();
   EXPECT_FALSE(box().Loaded());
-  main().about.Click();
+  Open();
   EXPECT_TRUE(box().Visible());
   box().Close();
   EXPECT_FALSE(box().Loaded());
-  EXPECT_TRUE(main().Visible());
-}
-
-TEST_F(AboutTest, ChoosingItTwiceShowsOneBox) {
-  Open();
-  main().about.Click();
-  EXPECT_EQ(sim.windows.open_views(), 2);
 }
 
 TEST_F(AboutTest, TheToolThatTheRegistryNamesIsStarted) {
@@ -163,7 +145,7 @@ TEST_F(AboutTest, ANamedToolThatIsMissingLeadsToTheMessage) {
   sim.files.Put("C:\\Tools\\MSINFO32.EXE", "");
   sim.processes.missing_commands = {"\"C:\\Gone\\MSINFO32.EXE\""};
   EXPECT_EQ(PressSysInfo(), (Lines{kUnavailable}));
-  EXPECT_FALSE(sim.files.Exists(kErrorLog));
+  EXPECT_EQ(errors.notes, Lines{});
 }
 
 TEST_F(AboutTest, AnEmptyPathLeadsToTheMessage) {
@@ -171,6 +153,14 @@ TEST_F(AboutTest, AnEmptyPathLeadsToTheMessage) {
     PutTool(path);
     EXPECT_EQ(PressSysInfo(), (Lines{kUnavailable})) << path;
   }
+}
+
+TEST_F(AboutTest, WithoutAVersionResourceOpeningItIsAnErrorOfItsOpener) {
+  sim.version_resource.version.reset();
+  const auto error = base::Caught([this] { Open(); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->number(), 53);
+  EXPECT_EQ(errors.notes, Lines{});
 }
 
 TEST_F(AboutTest, GetKeyValueReadsUnderTheGivenRoot) {
@@ -192,13 +182,13 @@ TEST(ValueText, ATextEndsAtItsTerminatingZeroOrWithItsBytes) {
                                                                {"a\0\0\0"s, "a"},
                                                                {"a\0rest\0"s, "a"}};
   for (const auto& [data, text] : cases) {
-    EXPECT_EQ(about::ValueText({RegistryType::kText, data}), text);
+    EXPECT_EQ(ValueText({RegistryType::kText, data}), text);
   }
 }
 
 TEST(ValueText, ALongTextIsWhole) {
   const std::string longer(5000, 'x');
-  EXPECT_EQ(about::ValueText({RegistryType::kText, longer + '\0'}), longer);
+  EXPECT_EQ(ValueText({RegistryType::kText, longer + '\0'}), longer);
 }
 
 TEST(ValueText, ANumberIsItsHexadecimalDigitsMostSignificantByteFirst) {
@@ -207,15 +197,15 @@ TEST(ValueText, ANumberIsItsHexadecimalDigitsMostSignificantByteFirst) {
                                                                {"\xFF\xFF\xFF\xFF", "&hFFFFFFFF"},
                                                                {"\0\0\0\0"s, "&h00000000"}};
   for (const auto& [data, text] : cases) {
-    EXPECT_EQ(about::ValueText({RegistryType::kNumber, data}), text);
+    EXPECT_EQ(ValueText({RegistryType::kNumber, data}), text);
   }
 }
 
 TEST(ValueText, AnythingElseIsItsRawBytes) {
   for (const std::string& data : {"\x01\x00\xFF"s, ""s, "\0\0"s}) {
-    EXPECT_EQ(about::ValueText({RegistryType::kOther, data}), data);
+    EXPECT_EQ(ValueText({RegistryType::kOther, data}), data);
   }
 }
 
 }  // namespace
-}  // namespace app
+}  // namespace about

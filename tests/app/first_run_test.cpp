@@ -5,6 +5,8 @@
 namespace app {
 namespace {
 
+using lang::FileOf;
+
 using base::ErrorCode;
 using platform::simulated::Operation;
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace app {
+namespace lang {
 
 // A language file whose entry K is "text K", with a good head.
 inline std::string FileOf(const std::string& language, std::size_t entries,
@@ -20,4 +20,4 @@ inline std::string FileOf(const std::string& language, std::size_t entries,
   return content;
 }
 
-}  // namespace app
+}  // namespace lang

@@ -7,8 +7,6 @@
 namespace lang {
 namespace {
 
-using app::FileOf;
-
 TEST(LanguageFileTest, SixtyEightEntriesAreEnough) {
   EXPECT_TRUE(LanguageFile::Parse(FileOf("nl", 68), "nl"));
   EXPECT_FALSE(LanguageFile::Parse(FileOf("nl", 67), "nl"));

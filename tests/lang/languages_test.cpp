@@ -1,219 +1,35 @@
+// The rows of the languages.
+#include "lang/languages.h"
+
 #include <gtest/gtest.h>
 
-#include "base/errors.h"
-#include "tests/app/fixture.h"
-#include "tests/lang/file_of.h"
+#include <array>
 
-namespace app {
+namespace lang {
 namespace {
 
-using platform::simulated::Operation;
-
-constexpr char kDutch[] = "lng_nl.dll";
-constexpr char kEnglish[] = "lng_en.dll";
-
-class LanguagesTest : public ProgramTest {
- protected:
-  void UseDutch() {
-    sim.files.Put(kSettings,
-                  "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=NL\r\nSendData=n\r\nMicrophone=7\r\n"
-                  "MicrophoneON=n\r\n");
-  }
-};
-
-TEST_F(LanguagesTest, EverySlotOfTheMainWindowTakesItsText) {
-  UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  Run();
-  for (std::size_t i = 0; i < 9; ++i) {
-    EXPECT_EQ(main().Options()[i]->Caption(), "text " + std::to_string(4 + i));
-  }
-  EXPECT_EQ(main().Frame1.Caption(), "text 13");
-  EXPECT_EQ(main().Command2.Caption(), "text 14");
-  EXPECT_EQ(main().Command3.Caption(), "text 15");
-  EXPECT_EQ(main().Label9.Caption(), "text 16");
-  EXPECT_EQ(main().Label3.Caption(), "text 17");
-  EXPECT_EQ(main().Frame3.Caption(), "text 18");
-  EXPECT_EQ(main().file.Caption(), "text 19");
-  EXPECT_EQ(main().exit.Caption(), "text 20");
-  EXPECT_EQ(main().settings.Caption(), "text 21");
-  EXPECT_EQ(main().soundmode.Caption(), "text 22");
-  EXPECT_EQ(main().language.Caption(), "text 23");
-  EXPECT_EQ(main().microinputonoff.Caption(), "text 24");
-  EXPECT_EQ(main().autoupdate.Caption(), "text 25");
-  EXPECT_EQ(main().StatusBar1.Caption(), "text 29");
-  EXPECT_EQ(main().Frame4.Caption(), "text 56, text 57 7");
-  EXPECT_EQ(main().Label1.Caption(), "text 73");
-  EXPECT_EQ(main().StatusCaption(), "text 29");
+TEST(LanguagesTest, ALanguageIsFoundByItsCode) {
+  std::array<Language, 2> rows;
+  rows[0].code = "en";
+  rows[1].code = "fr";
+  EXPECT_EQ(Find(rows, "en"), &rows[0]);
+  EXPECT_EQ(Find(rows, "fr"), &rows[1]);
+  EXPECT_EQ(Find(rows, "nl"), nullptr);
+  EXPECT_EQ(Find(rows, ""), nullptr);
 }
 
-TEST_F(LanguagesTest, TheMessageTextsDescribeTheModes) {
-  UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [](Form1& form1) {
-    for (std::size_t i = 0; i < 9; ++i) {
-      form1.Options()[i]->Click();
-      EXPECT_EQ(form1.Label1.Caption(), "text " + std::to_string(60 + i));
-      EXPECT_EQ(form1.Command2.Caption(), i < 7 ? "text 69" : "text 70");
-    }
-  });
-  Run();
+TEST(LanguagesTest, TheWindowsAreDesignedInTheFirstOfThoseThatShip) {
+  ASSERT_EQ(ShippedLanguages().size(), 2u);
+  EXPECT_EQ(ShippedLanguages()[0].code, "en");
+  EXPECT_EQ(ShippedLanguages()[1].code, "nl");
 }
 
-TEST_F(LanguagesTest, TheHelpWindowIsTranslatedOnlyInDutch) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  sim.files.Put(kEnglish, FileOf("en", 79));
-  At(1s, [this](Form1& form1) {
-    form1.HelpRequested();
-    EXPECT_EQ(program->form2.Label1.Caption(), "How to make a tone");
-    program->form2.Close();
-    form1.dutch.Click();
-    form1.HelpRequested();
-    const ui::Label* labels[] = {
-        &program->form2.Label1, &program->form2.Label2, &program->form2.Label3,
-        &program->form2.Label4, &program->form2.Label5, &program->form2.Label6,
-        &program->form2.Label7, &program->form2.Label8, &program->form2.Label9};
-    const char* texts[] = {"text 31", "text 32", "text 33", "text 34", "text 35",
-                           "text 37", "text 38", "text 39", "text 40"};
-    for (int i = 0; i < 9; ++i) EXPECT_EQ(labels[i]->Caption(), texts[i]);
-  });
-  Run();
+TEST(LanguagesTest, EveryLanguageButThatOfTheDesignIsATranslation) {
+  EXPECT_FALSE(IsTranslated("en"));
+  EXPECT_FALSE(IsTranslated(""));
+  EXPECT_TRUE(IsTranslated("nl"));
+  EXPECT_TRUE(IsTranslated("fr"));
 }
-
-TEST_F(LanguagesTest, TheMorseToolIsTranslatedOnlyInDutch) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [this](Form1& form1) {
-    program->form4.Show();
-    EXPECT_EQ(program->form4.Label2.Caption(), "Pitch (Hertz):");
-    EXPECT_EQ(program->form4.Text1.Text(), "Type your message here...");
-    program->form4.Close();
-    form1.dutch.Click();
-    program->form4.Show();
-    EXPECT_EQ(program->form4.Label1.Caption(), "text 42");
-    EXPECT_EQ(program->form4.Label2.Caption(), "text 43");
-    EXPECT_EQ(program->form4.Check1.Caption(), "text 44");
-    EXPECT_EQ(program->form4.Label3.Caption(), "text 45");
-    EXPECT_EQ(program->form4.Command1.Caption(), "text 46");
-    EXPECT_EQ(program->form4.Command2.Caption(), "text 47");
-    EXPECT_EQ(program->form4.Caption(), "text 48");
-    EXPECT_EQ(program->form4.Text1.Text(), "text 79");
-  });
-  Run();
-}
-
-TEST_F(LanguagesTest, AnotherWindowNumberChangesNoControlButTakesTheMessageTexts) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [](Form1& form1) {
-    form1.LoadCaptions("nl", 7);
-    EXPECT_EQ(form1.Option1.Caption(), "Low pitch");
-    EXPECT_EQ(form1.Frame4.Caption(), "Microphone input, sensitivity: 1");
-    EXPECT_EQ(form1.StatusCaption(), "text 29");
-  });
-  Run();
-}
-
-TEST_F(LanguagesTest, TheDutchMenuTranslatesWhatIsShownAndKeepsTheSetting) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [this](Form1& form1) {
-    form1.Option3.Click();
-    form1.dutch.Click();
-    EXPECT_EQ(form1.Option3.Caption(), "text 6");
-    EXPECT_EQ(form1.Label1.Caption(), "text 62");
-    EXPECT_EQ(form1.SelectedMode(), ToneMode(3));
-    EXPECT_EQ(sim.Lines(kSettings)[2], "Language=NL");
-  });
-  Run();
-}
-
-TEST_F(LanguagesTest, SwitchingWithAToolSelectedKeepsItsPlayCaption) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [](Form1& form1) {
-    form1.Option8.Click();
-    form1.dutch.Click();
-    EXPECT_EQ(form1.Command2.Caption(), "text 70");
-  });
-  Run();
-}
-
-TEST_F(LanguagesTest, OpenWindowsKeepTheirLanguageUntilTheyAreOpenedAgain) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [this](Form1& form1) {
-    form1.HelpRequested();
-    form1.dutch.Click();
-    EXPECT_EQ(program->form2.Label1.Caption(), "How to make a tone");
-    program->form2.Close();
-    form1.HelpRequested();
-    EXPECT_EQ(program->form2.Label1.Caption(), "text 31");
-  });
-  Run();
-}
-
-TEST_F(LanguagesTest, EnglishWithoutItsFileLeavesTheDutchCaptionsUntilTheNextStart) {
-  UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  At(1s, [](Form1& form1) {
-    form1.english.Click();
-    EXPECT_EQ(form1.Option1.Caption(), "text 4");
-    EXPECT_TRUE(form1.english.Checked());
-  });
-  Run();
-  Run();
-  EXPECT_EQ(main().Option1.Caption(), "Low pitch");
-}
-
-TEST_F(LanguagesTest, AReadErrorIsReportedUnderItsErrorValue) {
-  UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  sim.files.Fail(Operation::kRead, kDutch, base::ErrorCode::kDeviceError);
-  sim.At(100ms, [this] { program->form6.Command1.Click(); });
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  57,   Error value:  1015");
-}
-
-struct BadFile {
-  std::string name;
-  std::string content;
-};
-
-class BadLanguageFileTest : public LanguagesTest, public testing::WithParamInterface<BadFile> {};
-
-TEST_P(BadLanguageFileTest, ChangesNothingAndShowsNothing) {
-  UseDutch();
-  sim.files.Put(kDutch, GetParam().content);
-  EXPECT_FALSE(Run());
-  EXPECT_EQ(main().Option1.Caption(), "Low pitch");
-  EXPECT_EQ(main().StatusCaption(), "Actual pitch (Hertz):");
-  EXPECT_TRUE(Messages().empty());
-  EXPECT_FALSE(sim.files.Exists(kErrorLog));
-}
-
-std::string Without(const std::string& content, char removed) {
-  std::string rest;
-  for (const char c : content) {
-    if (c != removed) rest += c;
-  }
-  return rest;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, BadLanguageFileTest,
-    testing::Values(BadFile{"Empty", ""}, BadFile{"OneEntry", "%valid%\r\n"},
-                    BadFile{"WrongMarker", FileOf("nl", 79, {{1, "%Valid%"}})},
-                    BadFile{"LanguageInCapitals", FileOf("nl", 79, {{2, "lang=NL"}})},
-                    BadFile{"WrongLanguage", FileOf("en", 79)},
-                    BadFile{"WrongThirdLine", FileOf("nl", 79, {{3, "<2>"}})},
-                    BadFile{"EmptyText", FileOf("nl", 79, {{20, ""}})},
-                    BadFile{"TextOfOneBlank", FileOf("nl", 79, {{31, "\" \""}})},
-                    BadFile{"TooFewEntries", FileOf("nl", 67)},
-                    BadFile{"NoLineEnds", Without(Without(FileOf("nl", 79), '\r'), '\n')},
-                    BadFile{"LoneLineFeeds", Without(FileOf("nl", 79), '\r')},
-                    BadFile{"LoneCarriageReturns", Without(FileOf("nl", 79), '\n')},
-                    BadFile{"Binary", std::string(5000, '\x80') + std::string(100, '\0')},
-                    BadFile{"AVeryLongLine", std::string(10 << 20, 'x')},
-                    BadFile{"AQuoteThatIsNeverClosed", FileOf("nl", 79, {{4, "\"never closed"}})},
-                    BadFile{"ACommaThatShiftsAnEmptyTextIntoACheckedSlot",
-                            FileOf("nl", 79, {{10, "a,b"}, {30, ""}})}),
-    [](const auto& bad) { return bad.param.name; });
 
 }  // namespace
-}  // namespace app
+}  // namespace lang

@@ -1,16 +1,14 @@
+// The language files that ship with the program.
+#include <gtest/gtest.h>
+
 #include <fstream>
-#include <initializer_list>
-#include <set>
 #include <sstream>
+#include <string>
 
 #include "lang/language_file.h"
-#include "tests/app/fixture.h"
 
-namespace app {
+namespace lang {
 namespace {
-
-constexpr char kDutch[] = "lng_nl.dll";
-constexpr char kEnglish[] = "lng_en.dll";
 
 std::string Shipped(const std::string& name) {
   std::ifstream file(std::string(TONMIRA_LANGUAGES) + "/" + name, std::ios::binary);
@@ -19,11 +17,9 @@ std::string Shipped(const std::string& name) {
   return content.str();
 }
 
-class ShippedLanguages : public ProgramTest {};
-
-TEST_F(ShippedLanguages, AreValidAndComplete) {
+TEST(ShippedLanguagesTest, AreValidAndComplete) {
   for (const std::string code : {"en", "nl"}) {
-    const auto file = lang::LanguageFile::Parse(Shipped("lng_" + code + ".dll"), code);
+    const auto file = LanguageFile::Parse(Shipped("lng_" + code + ".dll"), code);
     ASSERT_TRUE(file) << code;
     for (std::size_t slot = 1; slot <= 82; ++slot) {
       EXPECT_FALSE(file->Text(slot).empty()) << code << " " << slot;
@@ -32,74 +28,5 @@ TEST_F(ShippedLanguages, AreValidAndComplete) {
   }
 }
 
-TEST_F(ShippedLanguages, TheShippedEnglishSaysWhatTheProgramIsDesignedWith) {
-  Run();
-  std::vector<std::string> designed;
-  for (const auto& caption : main().Captions()) {
-    designed.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
-  }
-  sim.files.Put(kEnglish, Shipped(kEnglish));
-  main().LoadCaptions("en", 1);
-  std::vector<std::string> loaded;
-  for (const auto& caption : main().Captions()) {
-    loaded.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
-  }
-  EXPECT_EQ(loaded, designed);
-  EXPECT_EQ(main().Frame4.Caption(), "Microphone input, sensitivity: 1");
-}
-
-std::vector<std::string> AllCaptions(const std::vector<ui::MenuItem*>& items) {
-  std::vector<std::string> captions;
-  for (const ui::MenuItem* item : items) {
-    if (!item->IsSeparator()) captions.push_back(item->Caption());
-    const auto more = AllCaptions(item->Items());
-    captions.insert(captions.end(), more.begin(), more.end());
-  }
-  return captions;
-}
-
-// Every text that a window shows: controls, menus, its title.
-std::vector<std::string> AllCaptions(const ui::Window& window) {
-  std::vector<std::string> captions = AllCaptions(window.Menu());
-  for (const ui::Control* control : window.Controls()) captions.push_back(control->Caption());
-  captions.push_back(window.Caption());
-  return captions;
-}
-
-TEST_F(ShippedLanguages, TheShippedDutchLeavesNoEnglishTextInTheMainTheMorseAndTheHelpWindow) {
-  // Names, numbers and words that are the same in both languages.
-  const std::set<std::string> same{"",           "Info",        "Help",    "Website",     "Contact",
-                                   "Nederlands", "English",     "Tonmira", "Sound32",     "Winmm",
-                                   "1000",       "DirectSound", "4 Hz ->", "<- 32000 Hz", "+",
-                                   "-",          "0",           "700",     "OK"};
-  sim.files.Put(kDutch, Shipped(kDutch));
-  At(1s, [&, this](Form1& form1) {
-    const auto show = [&] {
-      program->form2.Show();
-      program->form4.Show();
-      std::vector<std::string> captions;
-      const std::initializer_list<ui::Window*> windows{&form1, &program->form2, &program->form4};
-      for (const ui::Window* window : windows) {
-        const auto more = AllCaptions(*window);
-        captions.insert(captions.end(), more.begin(), more.end());
-      }
-      program->form2.Unload();
-      program->form4.Unload();
-      return captions;
-    };
-    const auto english = show();
-    form1.dutch.Click();
-    const auto dutch = show();
-    ASSERT_EQ(english.size(), dutch.size());
-    ASSERT_GT(english.size(), 50u);
-    for (std::size_t i = 0; i < english.size(); ++i) {
-      if (same.contains(english[i])) continue;
-      EXPECT_NE(dutch[i], english[i]);
-    }
-    EXPECT_EQ(form1.Frame4.Caption(), "Microfooninvoer, gevoeligheid: 1");
-  });
-  Run();
-}
-
 }  // namespace
-}  // namespace app
+}  // namespace lang

@@ -1,26 +1,48 @@
-// The Morse tool of the whole program: what is typed and played, and when it sounds.
+// The Morse tool on a simulated machine: what is typed and played, and when it sounds.
 #pragma once
 
-#include "tests/app/fixture.h"
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "morse/form4.h"
+#include "platform/simulated/simulation.h"
+#include "tests/tone/main_window.h"
 
 namespace morse {
 
 using namespace std::chrono_literals;
-using app::Lines;
+using Lines = std::vector<std::string>;
 using platform::simulated::Kind;
 
-class MorseTest : public app::ProgramTest {
+class MorseTest : public testing::Test {
  protected:
-  MorseTest() { sim.files.Put(app::kSettings, app::GoodSettings("32")); }
+  MorseTest() { state.SoundBit = base::SoundMode::kSound32; }
 
-  Form4& tool() { return program->form4; }
+  // Shows a main window and lets everything happen that was scheduled. True when no window was
+  // left, which ends the program.
+  bool Run() {
+    main_window = std::make_unique<tone::NotingMainWindow>(sim.services.windows, sim.journal);
+    window =
+        std::make_unique<Form4>(sim.services, state, *main_window, [this] { ++captions_loaded; });
+    return sim.Run([this] {
+      main().Show();
+      sim.pump.Run();
+      sim.processes.EndProcess();
+    });
+  }
+
+  tone::NotingMainWindow& main() { return *main_window; }
+  Form4& tool() { return *window; }
 
   // Opens the tool at 1 s and plays `message`; its beeps and pauses are recorded.
   void Play(const std::string& message, const std::string& speed = "0",
             const std::string& pitch = "700") {
-    At(1s, [this, message, speed, pitch](app::Form1& form1) {
-      form1.Option8.Click();
-      form1.Command2.Click();
+    sim.At(1s, [this, message, speed, pitch] {
+      tool().Show();
       tool().Text1.Edit(message);
       tool().Text2.Edit(speed);
       tool().Text3.Edit(pitch);
@@ -55,6 +77,13 @@ class MorseTest : public app::ProgramTest {
     return beeps;
   }
 
+  Lines Messages() const { return sim.journal.Texts({Kind::kMessage}); }
+
+  platform::simulated::Simulation sim;
+  settings::MainState state;
+  std::unique_ptr<tone::NotingMainWindow> main_window;
+  std::unique_ptr<Form4> window;
+  int captions_loaded = 0;
   std::int64_t played_until_ms = 0;
 };
 

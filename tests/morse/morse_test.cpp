@@ -41,7 +41,7 @@ TEST_F(MorseTest, OutOfRangeFieldsAreCorrectedWithAMessageAndPlayingGoesOn) {
   };
   for (const Case& c : cases) {
     const auto start = std::chrono::milliseconds(sim.pump.now_ms() + 1000);
-    At(start, [this, &c](app::Form1&) {
+    sim.At(start, [this, &c] {
       tool().Show();
       tool().Text1.Edit("e");
       tool().Text2.Edit(c.speed);
@@ -129,7 +129,7 @@ TEST_F(MorseTest, FieldsThatAreNoNumberOrTooLargeEndThePlayQuietly) {
   for (const auto& [speed, pitch] : std::vector<std::pair<std::string, std::string>>{
            {"", "700"}, {"0", ""}, {"abc", "700"}, {"99999999999", "700"}, {"-40000", "700"}}) {
     const auto start = std::chrono::milliseconds(sim.pump.now_ms() + 1000);
-    At(start, [this, speed = speed, pitch = pitch](app::Form1&) {
+    sim.At(start, [this, speed = speed, pitch = pitch] {
       tool().Show();
       tool().Text1.Edit("e");
       tool().Text2.Edit(speed);
@@ -172,8 +172,18 @@ TEST_F(MorseTest, AFreshWindowAsksForAMessage) {
   EXPECT_EQ(tool().stop_flag, 1);
 }
 
+TEST_F(MorseTest, ItsCaptionsAreLoadedWheneverItIsOpenedAnew) {
+  Run();
+  tool().Show();
+  tool().Show();
+  EXPECT_EQ(captions_loaded, 1);
+  tool().Close();
+  tool().Show();
+  EXPECT_EQ(captions_loaded, 2);
+}
+
 TEST_F(MorseTest, EverySymbolIsSoundedThroughThePlayerInAutomatic) {
-  sim.files.Put(app::kSettings, app::GoodSettings("128"));
+  state.SoundBit = base::SoundMode::kAutomatic;
   Play("a");
   StopAt(2000ms);
   Run();

@@ -1,26 +1,41 @@
-// The whole program on a simulated machine whose settings ask for the online services.
+// The online room on a simulated machine: its services, the error dialog, and a main window that is
+// only there to be seen.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
 #include <string>
+#include <vector>
 
-#include "tests/app/fixture.h"
+#include "online/upload_hand_over.h"
+#include "platform/simulated/simulation.h"
+#include "settings/activity_log.h"
+#include "settings/error_notes.h"
+#include "settings/form6.h"
+#include "tests/settings/fixture.h"
 
-namespace app {
+namespace online {
+
+using namespace std::chrono_literals;
+using base::ErrorCode;
+using platform::simulated::Kind;
+using platform::simulated::Operation;
+using settings::kErrorPath;
+using settings::kLogPath;
+using Lines = std::vector<std::string>;
 
 inline const std::string kUpdateAddress = "https://www.tonmira.example/updatetonmira.txt";
-inline const std::string kTestAddress = "https://www.tonmira.example/testcon.dat";
 inline constexpr char kUpdateFile[] = "C:\\Temp\\updatetonmira.txt";
-inline constexpr char kTestFile[] = "C:\\Temp\\testcon.dat";
 inline constexpr char kHandOver[] = "C:\\Temp\\snd.ini";
 
-class OnlineTest : public ProgramTest {
+class OnlineTest : public testing::Test {
  protected:
-  void PutSettings(const std::string& auto_update, const std::string& send_data,
-                   const std::string& language = "EN") {
-    sim.files.Put(kSettings,
-                  "AutoUpdate=" + auto_update + "\r\nSoundBit=128\r\nLanguage=" + language +
-                      "\r\nSendData=" + send_data + "\r\nMicrophone=1\r\nMicrophoneON=n\r\n");
-  }
+  OnlineTest() { StartLog(); }
+
+  // The log as it stands when the program has just begun.
+  void StartLog() { sim.files.Put(kLogPath, "20-11-2026\r\n14:30\r\n"); }
 
   void Answer(const std::string& address, const std::string& content,
               std::chrono::milliseconds after = 0ms) {
@@ -32,7 +47,7 @@ class OnlineTest : public ProgramTest {
   }
 
   bool Logged(const std::string& entry) const {
-    const Lines entries = LogEntries();
+    const Lines entries = sim.Lines(kLogPath);
     return std::find(entries.begin(), entries.end(), entry) != entries.end();
   }
 
@@ -43,6 +58,22 @@ class OnlineTest : public ProgramTest {
   }
 
   Lines Started() const { return sim.journal.Texts({Kind::kProcess}); }
+  Lines Messages() const { return sim.journal.Texts({Kind::kMessage}); }
+  ui::Window& main() { return main_window; }
+
+  void LeaveTheErrorDialogAt(std::chrono::milliseconds moment) {
+    sim.At(moment, [this] { error_dialog.Command1.Click(); });
+  }
+
+  platform::simulated::Simulation sim;
+  settings::MainState state;
+  ui::Window main_window{sim.services.windows, {"Form1", "Tonmira", 600, 400}};
+  // Leaving it unloads every window, which ends the program.
+  settings::Form6 error_dialog{sim.services.windows, [this] { sim.processes.EndProcess(); }, [] {}};
+  settings::NotingScene scene{error_dialog};
+  settings::NotingUpload error_upload;
+  settings::ErrorNotes errors{sim.services, state, scene, error_upload};
+  settings::ActivityLog log{sim.services, errors};
 };
 
-}  // namespace app
+}  // namespace online

@@ -1,11 +1,11 @@
 #include "tests/online/update_fixture.h"
 
-namespace app {
+namespace online {
 namespace {
 
 TEST_F(UpdateTest, AcceptingOpensTheLinkAndEndsTheProgramAtOnce) {
   Announce("237", "https://a.example/setup.exe?v=237");
-  At(1s, [this](Form1&) {
+  sim.At(1s, [this] {
     sim.journal.Clear();
     Dialog().Command1.Click();
   });
@@ -16,7 +16,7 @@ TEST_F(UpdateTest, AcceptingOpensTheLinkAndEndsTheProgramAtOnce) {
 
 TEST_F(UpdateTest, AcceptingALinkThatEndsInACommandStartsNoSecondCommand) {
   Announce("237", "https://a.example/&calc");
-  At(1s, [this](Form1&) { Dialog().Command1.Click(); });
+  sim.At(1s, [this] { Dialog().Command1.Click(); });
   EXPECT_TRUE(Run());
   EXPECT_EQ(Started(), (Lines{"start hidden cmd /c start https://a.example/^&calc", "end"}));
 }
@@ -25,8 +25,8 @@ TEST_F(UpdateTest, AcceptingALinkThatIsNoWebAddressStartsNothingAndTheStartGoesO
   for (const std::string link :
        {"calc.exe", "file:///C:/Windows/notepad.exe", "http://a b", "http://a\"b", "", " "}) {
     Announce("237", link);
-    At(std::chrono::milliseconds(sim.pump.now_ms()) + 1s,
-       [this](Form1&) { Dialog().Command1.Click(); });
+    sim.At(std::chrono::milliseconds(sim.pump.now_ms()) + 1s,
+           [this] { Dialog().Command1.Click(); });
     EXPECT_FALSE(Run()) << link;
     EXPECT_TRUE(Started().empty()) << link;
     EXPECT_FALSE(Dialog().Loaded()) << link;
@@ -38,15 +38,15 @@ TEST_F(UpdateTest, AcceptingALinkThatIsNoWebAddressStartsNothingAndTheStartGoesO
 TEST_F(UpdateTest, AcceptingWhenNoCommandCanBeStartedIsReported) {
   Announce("237", "http://a");
   sim.processes.missing_commands.insert("cmd /c start http://a");
-  At(1s, [this](Form1&) { Dialog().Command1.Click(); });
-  At(2s, [this](Form1&) { program->form6.Command1.Click(); });
+  sim.At(1s, [this] { Dialog().Command1.Click(); });
+  sim.At(2s, [this] { error_dialog.Command1.Click(); });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  53,   Error value:  701");
+  EXPECT_EQ(sim.Lines(kErrorPath)[0], "Error number:  53,   Error value:  701");
 }
 
 TEST_F(UpdateTest, ClosingTheDialogByItsFrameDeclines) {
   Announce("237");
-  At(1s, [this](Form1&) { Dialog().Close(); });
+  sim.At(1s, [this] { Dialog().Close(); });
   EXPECT_FALSE(Run());
   EXPECT_TRUE(main().Visible());
   EXPECT_TRUE(Started().empty());
@@ -63,4 +63,4 @@ TEST_F(UpdateTest, TheDialogIsDesignedInEnglish) {
 }
 
 }  // namespace
-}  // namespace app
+}  // namespace online

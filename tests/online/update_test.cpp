@@ -2,31 +2,13 @@
 
 #include "tests/online/update_fixture.h"
 
-namespace app {
+namespace online {
 namespace {
 
 TEST_F(UpdateTest, TheFileIsFetchedFromTheSite) {
   Run();
   const Lines downloads = sim.journal.Texts({Kind::kDownload});
   EXPECT_EQ(downloads[0], "download " + kUpdateAddress + " to " + kUpdateFile);
-}
-
-TEST_F(UpdateTest, AnotherSiteIsAskedWhenOneIsNamed) {
-  sim.environment.variables["TONMIRA_SITE"] = "http://127.0.0.1:8080/";
-  Run();
-  EXPECT_EQ(
-      sim.journal.Texts({Kind::kDownload}),
-      (Lines{"download http://127.0.0.1:8080/updatetonmira.txt to C:\\Temp\\updatetonmira.txt",
-             "download http://127.0.0.1:8080/testcon.dat to C:\\Temp\\testcon.dat"}));
-}
-
-TEST_F(UpdateTest, WithAutoUpdateOffNothingIsAsked) {
-  PutSettings("n", "n");
-  Announce("237");
-  Run();
-  EXPECT_FALSE(WasShown("Form7"));
-  EXPECT_EQ(sim.journal.Texts({Kind::kDownload}),
-            (Lines{"download " + kTestAddress + " to " + kTestFile}));
 }
 
 TEST_F(UpdateTest, Version236BringsNoDialog) {
@@ -40,9 +22,9 @@ TEST_F(UpdateTest, Version236BringsNoDialog) {
 
 TEST_F(UpdateTest, Version237BringsTheDialogWhileTheStartWaits) {
   Announce("237");
-  At(1s, [this](Form1& form1) {
+  sim.At(1s, [this] {
     EXPECT_TRUE(Dialog().Visible());
-    EXPECT_FALSE(form1.Visible());
+    EXPECT_FALSE(main().Visible());
     EXPECT_EQ(Dialog().List1.Items(), (Lines{"2.3.6", "2.3.7", "Link: http://a.example/new"}));
     EXPECT_FALSE(sim.files.Exists(kUpdateFile));
     Dialog().Command2.Click();
@@ -55,7 +37,7 @@ TEST_F(UpdateTest, Version237BringsTheDialogWhileTheStartWaits) {
 
 TEST_F(UpdateTest, Version1000IsShownByItsFirstThreeCharacters) {
   Announce("1000");
-  At(1s, [this](Form1&) {
+  sim.At(1s, [this] {
     EXPECT_EQ(Dialog().List1.Items()[1], "1.0.0");
     Dialog().Command2.Click();
   });
@@ -81,7 +63,7 @@ TEST_F(UpdateTest, NineLinesAreAnErrorAndTheFileStays) {
 
 TEST_F(UpdateTest, WithNoLanguageFileTheDialogsTextsAreEmpty) {
   Announce("237");
-  At(1s, [this](Form1&) {
+  sim.At(1s, [this] {
     EXPECT_EQ(Dialog().Caption(), "");
     EXPECT_EQ(Dialog().Label1.Caption(), "");
     EXPECT_EQ(Dialog().Command1.Caption(), "");
@@ -97,7 +79,7 @@ TEST_F(UpdateTest, WithALanguageFileItsTextsAreShown) {
   for (int line = 4; line <= 72; ++line) content += "text " + std::to_string(line) + "\r\n";
   sim.files.Put("lng_en.dll", content);
   Announce("237");
-  At(1s, [this](Form1&) {
+  sim.At(1s, [this] {
     EXPECT_EQ(Dialog().Label1.Caption(), "text 49");
     EXPECT_EQ(Dialog().Caption(), "text 50");
     EXPECT_EQ(Dialog().Command1.Caption(), "text 51");
@@ -125,32 +107,12 @@ TEST_F(UpdateTest, AnOldFileIsNotTakenForTheAnswer) {
   EXPECT_TRUE(Logged("> Update error"));
 }
 
-TEST_F(UpdateTest, ASilentSiteIsGivenUpAndTheMainWindowComes) {
-  BeSilent(kUpdateAddress);
-  BeSilent(kTestAddress);
-  EXPECT_FALSE(Run());
-  EXPECT_TRUE(main().Visible());
-  EXPECT_LT(sim.pump.now_ms(), 10'000);
-  EXPECT_EQ(sim.journal.Texts({Kind::kDownload}),
-            (Lines{"download " + kUpdateAddress + " to " + kUpdateFile, "give up " + kUpdateAddress,
-                   "download " + kTestAddress + " to " + kTestFile, "give up " + kTestAddress}));
-  EXPECT_FALSE(sim.files.Exists(kUpdateFile));
-  EXPECT_FALSE(sim.files.Exists(kTestFile));
-}
-
 TEST_F(UpdateTest, WhatHappensWhileASilentSiteIsWaitedForIsHandledAtOnce) {
   BeSilent(kUpdateAddress);
   std::int64_t handled_at = 0;
-  At(700ms, [&](Form1&) { handled_at = sim.pump.now_ms(); });
+  sim.At(700ms, [&] { handled_at = sim.pump.now_ms(); });
   Run();
   EXPECT_EQ(handled_at, 700);
-}
-
-TEST_F(UpdateTest, TheProgramCanBeEndedWhileItWaits) {
-  BeSilent(kUpdateAddress);
-  At(500ms, [](Form1& form1) { form1.Close(); });
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.pump.now_ms(), 500);
 }
 
 TEST_F(UpdateTest, ASlowAnswerIsWaitedForNoLongerThanItTakes) {
@@ -162,7 +124,7 @@ TEST_F(UpdateTest, ASlowAnswerIsWaitedForNoLongerThanItTakes) {
 
 TEST_F(UpdateTest, AnAnswerThatComesTooLateChangesNothingAnyMore) {
   Answer(kUpdateAddress, "999\r\nhttp://a\r\n", 20s);
-  At(30s, [](Form1&) {});
+  sim.At(30s, [] {});
   EXPECT_FALSE(Run());
   EXPECT_TRUE(Logged("> Update error"));
   EXPECT_FALSE(WasShown("Form7"));
@@ -179,18 +141,17 @@ TEST_F(UpdateTest, AnAnswerWithoutEndIsAFailedDownload) {
 
 TEST_F(UpdateTest, AFolderThatTakesNoFileIsLikeNoAnswer) {
   Announce("237");
-  sim.files.Fail(platform::simulated::Operation::kOpenForWriting, kUpdateFile,
-                 base::ErrorCode::kPermissionDenied);
+  sim.files.Fail(Operation::kOpenForWriting, kUpdateFile, ErrorCode::kPermissionDenied);
   EXPECT_FALSE(Run());
   EXPECT_TRUE(Logged("> Update error"));
 }
 
 TEST_F(UpdateTest, AFileThatCannotBeReadIsReported) {
   Announce("237");
-  sim.files.Fail(platform::simulated::Operation::kRead, kUpdateFile, base::ErrorCode::kDeviceError);
-  At(1s, [this](Form1&) { program->form6.Command1.Click(); });
+  sim.files.Fail(Operation::kRead, kUpdateFile, ErrorCode::kDeviceError);
+  sim.At(1s, [this] { error_dialog.Command1.Click(); });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  57,   Error value:  1013");
+  EXPECT_EQ(sim.Lines(kErrorPath)[0], "Error number:  57,   Error value:  1013");
 }
 
 // What a site that is not the maker's may send: no dialog, and the start goes on.
@@ -227,7 +188,7 @@ TEST_F(UpdateTest, TenThousandLinesAreAnError) {
 
 TEST_F(UpdateTest, ANumberBeyondAllBoundsIsANewerVersionAndNoError) {
   Announce("1e99999");
-  At(1s, [this](Form1&) {
+  sim.At(1s, [this] {
     EXPECT_EQ(Dialog().List1.Items()[1], "1.e.9");
     Dialog().Command2.Click();
   });
@@ -237,7 +198,7 @@ TEST_F(UpdateTest, ANumberBeyondAllBoundsIsANewerVersionAndNoError) {
 
 TEST_F(UpdateTest, CharactersOfTheCodePageAreShownAsSuch) {
   Answer(kUpdateAddress, "237\xE4\r\nhttp://a/\xFC\r\n");
-  At(1s, [this](Form1&) {
+  sim.At(1s, [this] {
     ASSERT_EQ(Dialog().List1.Items().size(), 3u);
     EXPECT_EQ(Dialog().List1.Items()[2], "Link: http://a/\xC3\xBC");
     Dialog().Command2.Click();
@@ -246,4 +207,4 @@ TEST_F(UpdateTest, CharactersOfTheCodePageAreShownAsSuch) {
 }
 
 }  // namespace
-}  // namespace app
+}  // namespace online

@@ -1,178 +1,79 @@
+// The hand-over of the activity log and of errors.
+#include "online/usage_data.h"
 #include "tests/online/fixture.h"
 
-#include "online/upload_hand_over.h"
-
-namespace app {
+namespace online {
 namespace {
-
-using base::ErrorCode;
-using platform::simulated::Operation;
 
 const std::string kUploadStarted = "start hidden cmd /c \"C:\\Tonmira\\upsend.exe\"";
 
 class UsageTest : public OnlineTest {
  protected:
-  void CloseAt(std::chrono::milliseconds moment) {
-    At(moment, [](Form1& form1) { form1.Close(); });
+  void Consent() { state.SendData = 1; }
+
+  // Hands the log over and ends the program, as the main window does when it is closed.
+  bool Close() {
+    return sim.Run([this] {
+      usage.SendData();
+      sim.processes.EndProcess();
+    });
   }
 
-  void LeaveTheErrorDialogAt(std::chrono::milliseconds moment) {
-    At(moment, [this](Form1&) { program->form6.Command1.Click(); });
-  }
+  UploadHandOver upload{sim.services, errors};
+  UsageData usage{sim.services, state, upload, errors};
 };
 
-TEST_F(UsageTest, WithConsentTheLogIsHandedOverWhenTheProgramEnds) {
-  PutSettings("n", "y");
-  CloseAt(1s);
-  EXPECT_TRUE(Run());
+TEST_F(UsageTest, WithConsentTheLogIsHandedOver) {
+  Consent();
+  Close();
   // 0.5 * 5 s * 14 h * 20th of the month + 1 = 701
   EXPECT_EQ(sim.files.Get(kHandOver), "C:\\Temp\\userdata.txt\r\n701.txt\r\n");
   EXPECT_EQ(Started(), (Lines{kUploadStarted, "end"}));
 }
 
-TEST_F(UsageTest, WithoutConsentNothingIsHandedOverAndNoProcessIsStarted) {
-  PutSettings("n", "n");
-  CloseAt(1s);
-  EXPECT_TRUE(Run());
+TEST_F(UsageTest, WithoutConsentNothingIsHandedOver) {
+  Close();
   EXPECT_FALSE(sim.files.Exists(kHandOver));
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
-TEST_F(UsageTest, BeforeTheUserWasAskedNothingIsHandedOver) {
-  for (const std::string& settings : {std::string(), std::string("damaged\r\nSendData=y\r\n")}) {
-    sim.files.Put(kSettings, settings);
-    Run();
-    EXPECT_FALSE(sim.files.Exists(kHandOver));
-    for (const std::string& text : Started()) EXPECT_EQ(text.find("upsend"), std::string::npos);
-  }
-}
-
-TEST_F(UsageTest, ConsentInAFileThatIsDamagedFurtherDownDoesNotCount) {
-  sim.files.Put(kSettings,
-                "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=EN\r\nSendData=y\r\nMicrophone=99\r\n"
-                "MicrophoneON=n\r\n");
-  Run();
-  EXPECT_FALSE(sim.files.Exists(kHandOver));
-}
-
 TEST_F(UsageTest, WithNoLogThereIsNoUploadEvenWithConsent) {
-  PutSettings("n", "y");
-  At(1s, [this](Form1& form1) {
-    sim.files.Delete(kLog);
-    form1.Close();
-  });
-  EXPECT_TRUE(Run());
+  Consent();
+  sim.files.Delete(kLogPath);
+  Close();
   EXPECT_FALSE(sim.files.Exists(kHandOver));
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
 TEST_F(UsageTest, AtMidnightOrSecondZeroTheNumberIsOne) {
-  PutSettings("n", "y");
+  Consent();
   for (const auto& [hour, second] : {std::pair{0, 59}, std::pair{23, 0}, std::pair{0, 0}}) {
     sim.clock.now = {2026, 12, 31, hour, 30, second};
     sim.random.next = 0.999999;
-    CloseAt(std::chrono::milliseconds(sim.pump.now_ms()) + 1s);
-    EXPECT_TRUE(Run());
+    Close();
     EXPECT_EQ(sim.Lines(kHandOver)[1], "1.txt");
   }
 }
 
-TEST_F(UsageTest, TheLogIsHandedOverBeforeTheWindowsGo) {
-  PutSettings("n", "y");
-  At(1s, [this](Form1& form1) {
-    form1.Command1.Click();
-    sim.journal.Clear();
-    form1.Close();
-  });
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess, Kind::kSound}),
-            (Lines{"Form1 hidden", "stop 0x2", kUploadStarted, "Form2 unloaded", "end"}));
-}
-
-TEST_F(UsageTest, TerminateHandsTheLogOverOnlyWithConsent) {
-  for (const std::int16_t flag : {std::int16_t{1}, std::int16_t{0}}) {
-    Run();
-    sim.journal.Clear();
-    sim.files.Delete(kHandOver);
-    settings::MainState state;
-    state.SendData = flag;
-    EXPECT_TRUE(RunTerminate(state));
-    EXPECT_EQ(sim.files.Exists(kHandOver), flag == 1);
-    EXPECT_EQ(Started(), flag == 1 ? (Lines{kUploadStarted, "end"}) : (Lines{"end"}));
-  }
-}
-
-// 0.99 * 59 * 23 * 31 + 1 = 41646, more than 16 bits hold.
-void ArrangeOverflow(platform::simulated::Simulation& sim) {
-  sim.clock.now = {2026, 12, 31, 23, 59, 59};
-  sim.random.next = 0.99;
-}
-
-TEST_F(UsageTest, ANumberThatDoesNotFitGoesToTheErrorTrap) {
-  PutSettings("n", "y");
-  At(1s, [this](Form1& form1) {
-    ArrangeOverflow(sim);
-    form1.Close();
-  });
-  // The number is drawn for the error log, too, and does not fit there either: it is now the trap
-  // of the shutdown that meets it, and nobody is left to meet it a third time.
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '6':\r\n\r\nOverflow"}));
-  EXPECT_FALSE(sim.files.Exists(kHandOver));
+TEST_F(UsageTest, AHandOverFileThatCannotBeWrittenIsReportedOnceAndNotItselfHandedOver) {
+  Consent();
+  sim.files.Fail(Operation::kOpenForWriting, kHandOver, ErrorCode::kPermissionDenied);
+  LeaveTheErrorDialogAt(1s);
+  EXPECT_TRUE(Close());
+  EXPECT_EQ(sim.Lines(kErrorPath)[0], "Error number:  70,   Error value:  1025");
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
-TEST_F(UsageTest, ANumberThatDoesNotFitOnceIsReportedAndTheErrorDialogEndsTheProgram) {
-  PutSettings("n", "y");
+TEST_F(UsageTest, ANumberThatDoesNotFitIsReported) {
+  // 0.99 * 59 * 23 * 31 + 1 = 41646, more than 16 bits hold.
   sim.clock.now = {2026, 12, 31, 23, 59, 59};
   sim.random.first = {0.99};
   sim.random.next = 0;
-  CloseAt(1s);
-  LeaveTheErrorDialogAt(2s);
-  // Leaving the dialog unloads a main window whose shutdown has not finished.
-  sim.messages.answers = {platform::kAnswerYes};
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  6,   Error value:  106");
-  EXPECT_EQ(Messages(), (Lines{"critical yes/no [Error] Do you want to forcibly close tonmira?"}));
-  // What went to the maker is the error, under the number that did fit.
-  EXPECT_EQ(sim.files.Get(kHandOver), "error.log\r\n1error.log\r\n");
-}
-
-TEST_F(UsageTest, WithConsentAnErrorIsHandedOver) {
-  PutSettings("n", "y");
-  At(1s, [this](Form1& form1) {
-    sim.files.Fail(Operation::kOpenForReading, kSettings, ErrorCode::kPermissionDenied);
-    sim.journal.Clear();
-    form1.autoupdate.Click();
-  });
-  LeaveTheErrorDialogAt(2s);
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(Started()[0], kUploadStarted);
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  70,   Error value:  102");
-}
-
-TEST_F(UsageTest, AnErrorIsNeverHandedOverWithoutConsent) {
-  PutSettings("n", "n");
-  At(1s, [this](Form1& form1) {
-    sim.files.Fail(Operation::kOpenForReading, kSettings, ErrorCode::kPermissionDenied);
-    form1.autoupdate.Click();
-  });
-  LeaveTheErrorDialogAt(2s);
-  EXPECT_TRUE(Run());
+  LeaveTheErrorDialogAt(1s);
+  EXPECT_TRUE(Close());
+  EXPECT_EQ(sim.Lines(kErrorPath)[0], "Error number:  6,   Error value:  106");
   EXPECT_FALSE(sim.files.Exists(kHandOver));
-  EXPECT_EQ(Started(), (Lines{"end"}));
-}
-
-TEST_F(UsageTest, AHandOverFileThatCannotBeWrittenIsReportedOnceAndNotItselfHandedOver) {
-  PutSettings("n", "y");
-  sim.files.Fail(Operation::kOpenForWriting, kHandOver, ErrorCode::kPermissionDenied);
-  CloseAt(1s);
-  LeaveTheErrorDialogAt(2s);
-  sim.messages.answers = {platform::kAnswerYes};
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  70,   Error value:  1025");
-  EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
 }  // namespace
-}  // namespace app
+}  // namespace online

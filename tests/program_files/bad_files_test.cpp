@@ -155,10 +155,7 @@ TEST_F(BadFileTest, MoreTextThanCanBeKeptIsIllegal) {
 }
 
 TEST_F(BadFileTest, AFileThatIsGoneBeforeTheLoadIsIllegal) {
-  Run();
-  player().SetFilePath(kFile);
-  player().SetSoundMode(base::SoundMode::kWinmm);
-  EXPECT_TRUE(sim.Run([this] { player().Load(); }));
+  EXPECT_TRUE(Load(base::SoundMode::kWinmm));
   EXPECT_EQ(Messages(), (Lines{kIllegal}));
   EXPECT_EQ(TonesPlayed(), 0u);
 }
@@ -230,7 +227,7 @@ TEST_F(BadFileTest, AHandOverFileThatCannotBeWrittenEndsThePlayQuietly) {
   EXPECT_EQ(Messages(), Lines{});
   EXPECT_EQ(TonesPlayed(), 0u);
   EXPECT_TRUE(player().Visible());
-  EXPECT_FALSE(sim.files.Exists(app::kErrorLog));
+  EXPECT_FALSE(sim.files.Exists(kErrorLog));
 }
 
 TEST_F(BadFileTest, AnInvisiblePlayThatFailsEndsTheProgram) {

@@ -1,50 +1,31 @@
-// The program, started with a tone program file on a simulated machine.
+// The player on a simulated machine, loaded as the start of the program does it.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <chrono>
+#include <memory>
 #include <string>
 
-#include "tests/app/fixture.h"
-#include "tests/program_files/programs.h"
+#include "platform/simulated/simulation.h"
+#include "program_files/form9.h"
+#include "tests/program_files/tone_files.h"
+#include "tests/tone/main_window.h"
 
 namespace program_files {
 
 using namespace std::chrono_literals;
-using app::kWave;
 using base::ErrorCode;
 using platform::simulated::Kind;
 using platform::simulated::Operation;
 
-inline constexpr char kFile[] = "C:\\My Tones\\a.tnf";
+inline constexpr char kWave[] = "C:\\Temp\\tnfwinmmtmp.wav";
 inline constexpr char kHandOver[] = "C:\\Temp\\sound.ini";
+inline constexpr char kErrorLog[] = "C:\\Temp\\error.log";
 inline constexpr char kClassicCommand[] = "cmd /c \"C:\\Tonmira\\play16.exe\"";
-inline const std::string kIllegal = "critical [Error] C:\\My Tones\\a.tnf is not a legal tnf file!";
-inline const std::string kIncompatible =
-    "exclamation [Error] Your Tonmira version is not compatible with this file!";
 
-// The file of the lines, each with CR LF.
-inline std::string FileOf(const Lines& lines) {
-  std::string bytes;
-  for (const std::string& line : lines) bytes += line + "\r\n";
-  return bytes;
-}
-
-// Lines of a visible program: 50 ms of extra time, and the given tones.
-inline Lines ProgramWith(const Tones& tones) {
-  Lines lines = GoodHead();
-  for (const auto& [pitch, duration] : tones) {
-    lines.push_back("<" + std::to_string(pitch) + ">");
-    lines.push_back("\\" + std::to_string(duration));
-  }
-  return lines;
-}
-
-inline Lines Invisible(Lines lines) {
-  lines[4] = "{invisible}";
-  return lines;
-}
-
-class PlayerTest : public app::ProgramTest {
+class PlayerTest : public testing::Test {
  protected:
   PlayerTest() {
     sim.pump.journal_waits = true;
@@ -52,12 +33,28 @@ class PlayerTest : public app::ProgramTest {
     sim.processes.become["tone32.dll"] = "tone32.dll";
   }
 
-  // Starts the program with the file. True when the program ended.
+  // Loads kFile into a new player beside a main window that nobody sees, and lets everything happen
+  // that was scheduled. True when the program ended.
+  bool Load(base::SoundMode sound_mode) {
+    main_window = std::make_unique<tone::NotingMainWindow>(sim.services.windows, sim.journal);
+    window = std::make_unique<Form9>(
+        sim.services, state, *main_window,
+        Form9::Surroundings{[this] { ++news_unloaded; }, [this] { sim.processes.EndProcess(); }});
+    loaded_entries = 0;
+    return sim.Run([this, sound_mode] {
+      main_window->Load();
+      player().SetFilePath(kFile);
+      player().SetSoundMode(sound_mode);
+      player().Load();
+      loaded_entries = sim.journal.entries().size();
+      if (!player().Visible()) player().Show();
+      sim.pump.Run();
+    });
+  }
+
   bool Open(const std::string& bytes, const std::string& sound_mode = "256") {
-    sim.files.Put(app::kSettings, app::GoodSettings(sound_mode));
     sim.files.Put(kFile, bytes);
-    sim.environment.arguments = kFile;
-    return Run();
+    return Load(base::SoundModeOf(sound_mode));
   }
   bool Open(const Lines& lines, const std::string& sound_mode = "256") {
     return Open(FileOf(lines), sound_mode);
@@ -68,21 +65,21 @@ class PlayerTest : public app::ProgramTest {
     sim.At(moment, [this, action] { action(player()); });
   }
 
-  Form9& player() { return program->form9; }
+  Form9& player() { return *window; }
 
   // What happened from the player's loading until its load routine was through.
   Lines Journal() const {
     Lines texts;
+    std::size_t read = 0;
     for (const auto& entry : sim.journal.entries()) {
+      if (++read == loaded_entries + 1 && loaded_entries > 0) break;
       if (entry.text == "Form9 loaded") texts.clear();
-      if (entry.text.ends_with("userdata.txt") && !texts.empty() &&
-          texts.front() == "Form9 loaded") {
-        break;
-      }
       texts.push_back(entry.text);
     }
     return texts;
   }
+
+  Lines Messages() const { return sim.journal.Texts({Kind::kMessage}); }
 
   Lines Entries(const std::string& part) const {
     Lines found;
@@ -100,6 +97,15 @@ class PlayerTest : public app::ProgramTest {
     }
     return pitches;
   }
+
+  platform::simulated::Simulation sim;
+  settings::MainState state;
+  std::unique_ptr<tone::NotingMainWindow> main_window;
+  std::unique_ptr<Form9> window;
+  int news_unloaded = 0;
+
+ private:
+  std::size_t loaded_entries = 0;  // of the journal, when the load routine was through
 };
 
 }  // namespace program_files

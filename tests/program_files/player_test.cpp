@@ -106,10 +106,7 @@ TEST_F(WholePlayTest, SoundMode256LeavesHelpersAlone) {
 
 TEST_F(WholePlayTest, AnUnknownSoundModeOnlyWaits) {
   sim.files.Put(kFile, FileOf(ProgramWith(kTwo)));
-  Run();
-  player().SetFilePath(kFile);
-  player().SetSoundMode(base::SoundMode::kNone);
-  EXPECT_FALSE(sim.Run([this] { player().Load(); }));
+  EXPECT_FALSE(Load(base::SoundMode::kNone));
   EXPECT_EQ(Journal(), Join({kBegin,
                              kFirst,
                              {"sleep 50", "sleep 500"},
@@ -235,26 +232,6 @@ TEST_F(PlayerTest, StopWhileNothingPlaysChangesNothingThatIsHeard) {
   EXPECT_EQ(PitchesShown(), (Lines{"440", "880", "440", "880"}));
 }
 
-TEST_F(PlayerTest, AfterThePlayThePlayerWaitsForItsUser) {
-  EXPECT_FALSE(Open(ProgramWith(kTwo)));
-  EXPECT_TRUE(player().Visible());
-  EXPECT_FALSE(main().Visible());
-  EXPECT_EQ(player().Caption(), "Tonmira");
-  EXPECT_EQ(player().Label4.Caption(), kFile);
-  EXPECT_EQ(LogEntries().back(), ">> Program starting finished");
-}
-
-TEST_F(PlayerTest, ExitUnloadsTheMainWindowBeforeTheProcessEnds) {
-  At(5s, [this](Form9& player) {
-    sim.journal.Clear();
-    sim.files.Put("C:\\Temp\\tnftmp.wav", "old");
-    player.Command3.Click();
-  });
-  EXPECT_TRUE(Open(ProgramWith(kTwo)));
-  EXPECT_EQ(sim.journal.Texts({Kind::kFile, Kind::kSound, Kind::kProcess}),
-            (Lines{"delete C:\\Temp\\tnftmp.wav", "stop 0x2", "end"}));
-}
-
 TEST_F(PlayerTest, AnInvisibleFileShowsNoWindowAndTheProgramEndsAfterTheLastTone) {
   for (const char* mode : {"16", "32", "64", "128", "256"}) {
     sim.journal.Clear();
@@ -268,18 +245,12 @@ TEST_F(PlayerTest, AnInvisibleFileShowsNoWindowAndTheProgramEndsAfterTheLastTone
   }
 }
 
-TEST_F(PlayerTest, LoadingUnloadsTheNewsWindow) {
-  sim.files.Put("C:\\a.tnf", FileOf(ProgramWith(kTwo)));
-  bool loaded_later = true;
-  sim.At(1s, [this] {
-    program->form3.Show();
-    player().SetFilePath("C:\\a.tnf");
-    player().SetSoundMode(base::SoundMode::kWinmm);
-    player().Show();
-  });
-  sim.At(1500ms, [&, this] { loaded_later = program->form3.Loaded(); });
-  Run();
-  EXPECT_FALSE(loaded_later);
+TEST_F(PlayerTest, LoadingUnloadsTheNewsWindowBeforeAnythingSounds) {
+  int unloaded_by_then = 0;
+  sim.At(100ms, [&] { unloaded_by_then = news_unloaded; });
+  EXPECT_FALSE(Open(ProgramWith(kTwo)));
+  EXPECT_EQ(unloaded_by_then, 1);
+  EXPECT_EQ(news_unloaded, 1);
 }
 
 TEST_F(PlayerTest, TheHandOverFileOfTheLastToneStaysWhenThePlayerEnds) {

@@ -5,6 +5,8 @@
 namespace app {
 namespace {
 
+using lang::FileOf;
+
 constexpr char kFrench[] = "lng_fr.dll";
 
 const lang::Language kFrenchRow{
