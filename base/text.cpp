@@ -21,10 +21,8 @@ std::string ToUpper(std::string_view text) {
 }
 
 std::string RemoveAll(std::string_view text, char marker) {
-  std::string rest;
-  for (const char c : text) {
-    if (c != marker) rest += c;
-  }
+  std::string rest(text);
+  std::erase(rest, marker);
   return rest;
 }
 

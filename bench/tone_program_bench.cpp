@@ -1,6 +1,7 @@
 // What reading a tone program of 1,999 lines (996 tones) costs: merely cutting its bytes into
-// lines, the first pass, the count of the second, and everything as the player does it. Read the
-// figures as ratios to CutIntoLines within one run.
+// lines, the lines of the first pass, the count of the second, and the one call that reads and
+// checks it all: read these figures as ratios to CutIntoLines within one run. And what rendering
+// costs.
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -9,17 +10,19 @@
 #include <vector>
 
 #include "program_files/line_reader.h"
-#include "program_files/tone_program.h"
+#include "program_files/program_reader.h"
+#include "program_files/tone_renderer.h"
 #include "tests/program_files/bytes_file.h"
 
 namespace {
 
 using program_files::BytesFile;
-using program_files::CheckProgram;
 using program_files::CountIn;
-using program_files::LineReader;
 using program_files::LinesIn;
+using program_files::ReadProgram;
+using program_files::ReadToneProgram;
 using program_files::ToneProgram;
+using program_files::ToneRenderer;
 
 constexpr std::int32_t kLines = 1999;
 
@@ -64,19 +67,36 @@ BENCHMARK(SecondPass)->Unit(benchmark::kMicrosecond);
 
 void WholeProgram(benchmark::State& state) {
   const std::string bytes = LongestProgram();
-  std::int16_t tones = 0;
+  std::size_t tones = 0;
   for (auto _ : state) {
-    BytesFile file(bytes);
-    LineReader reader(file, bytes.size());
-    ToneProgram program;
-    std::int16_t n = 0;
-    while (auto line = reader.Next()) program.lines[++n] = *std::move(line);
-    if (!CheckProgram(program, CountIn(bytes, kLines + 1)).empty())
-      state.SkipWithError("a check failed");
-    tones = program.tone_count;
+    const ReadProgram read = ReadToneProgram(bytes);
+    if (!read.findings.empty()) state.SkipWithError("a check failed");
+    tones = read.program.tones.size();
   }
   if (tones != 996) state.SkipWithError("not 996 tones");
 }
 BENCHMARK(WholeProgram)->Unit(benchmark::kMicrosecond);
+
+// An hour of tones of one second each, in pieces as for a pipe. "speed" is how many times faster
+// than it plays that is.
+void RenderAnHour(benchmark::State& state) {
+  ToneProgram program;
+  program.extra_time_ms = 10;
+  for (std::int16_t tone = 0; tone < 3600; ++tone) {
+    program.tones.push_back({static_cast<std::int16_t>(200 + tone), 990, 0});
+  }
+  std::vector<std::int16_t> piece(2 * 16384);
+  std::int64_t frames = 0;
+  for (auto _ : state) {
+    ToneRenderer renderer(program);
+    while (const std::size_t count = renderer.Render(piece)) {
+      frames += static_cast<std::int64_t>(count);
+      benchmark::DoNotOptimize(piece.data());
+    }
+  }
+  state.counters["speed"] =
+      benchmark::Counter(static_cast<double>(frames) / 44100, benchmark::Counter::kIsRate);
+}
+BENCHMARK(RenderAnHour)->Unit(benchmark::kMillisecond);
 
 }  // namespace

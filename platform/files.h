@@ -5,21 +5,15 @@
 // 76 path not found. An object that is destroyed closes its file without reporting anything.
 #pragma once
 
-#include <cstddef>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 
+#include "base/byte_source.h"
+
 namespace platform {
 
-class InputFile {
- public:
-  virtual ~InputFile() = default;
-
-  // Fills `buffer` from the file; returns the number of bytes read, 0 at the end of the file.
-  virtual std::size_t Read(std::span<char> buffer) = 0;
-};
+class InputFile : public base::ByteSource {};
 
 class OutputFile {
  public:

@@ -3,19 +3,10 @@
 
 #include "base/errors.h"
 #include "base/numbers.h"
-#include "program_files/line_reader.h"
 #include "base/error_trap.h"
+#include "program_files/program_reader.h"
 
 namespace program_files {
-namespace {
-
-// A legal file is far smaller, whatever its lines hold beside their numbers.
-constexpr std::size_t kMostText = 16 * 1024 * 1024;
-
-// One more than the line count can tell.
-constexpr std::int32_t kMostLines = 32774;
-
-}  // namespace
 
 Form9::Form9(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
              Surroundings around)
@@ -48,7 +39,7 @@ void Form9::LoadProgram() {
     IllFile();
     return;
   }
-  ReadLines();
+  if (!ReadLines()) return;
   Command1.SetEnabled(false);
   Parse();
   if (program_.hidden_flag == 0 && !closes_after_loading_) Show();
@@ -57,29 +48,31 @@ void Form9::LoadProgram() {
   if (program_.hidden_flag == 1) Unload();
 }
 
-void Form9::ReadLines() {
-  const auto file = platform_.files.OpenForReading(file_path_);
+std::unique_ptr<platform::InputFile> Form9::OpenFile() {
+  auto file = platform_.files.OpenForReading(file_path_);
   if (!file) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
-  LineReader reader(*file, kMostText);
-  try {
-    std::int16_t index = 1;
-    while (const auto line = reader.Next()) {
-      if (index == kLastIndex) IllFile();
-      program_.lines[index] = platform_.code_page.Decode(*line);
-      ++index;
-    }
-  } catch (const base::RuntimeError& error) {
-    // A file of more text than can be kept is none either.
-    if (error.code() == base::ErrorCode::kOutOfMemory) IllFile();
-    throw;
+  return file;
+}
+
+// False when the file is too large to be a program: there is nothing to check or play then.
+bool Form9::ReadLines() {
+  using enum FirstPass::Progress;
+  const auto file = OpenFile();
+  FirstPass pass(*file, parse_.lines,
+                 [this](std::string_view line) { return platform_.code_page.Decode(line); });
+  FirstPass::Step step{kGoesOn, {}};
+  while (step.progress == kGoesOn) {
+    step = pass.ReadLine();
+    Tell(step.findings);
   }
+  return step.progress == kDone;
 }
 
 void Form9::Parse() {
   base::Quietly([this] {
-    ProgramChecks checks(program_);
+    ProgramChecks checks(parse_, program_);
     Tell(checks.CheckHead());
-    checks.BeginEntries(CountLinesAgain());
+    checks.BeginEntries(SecondPass(*OpenFile()));
     while (checks.HasEntry()) {
       platform_.pump.ProcessPending();
       Tell(checks.CheckEntry());
@@ -88,15 +81,9 @@ void Form9::Parse() {
   });
 }
 
-std::int32_t Form9::CountLinesAgain() {
-  const auto file = platform_.files.OpenForReading(file_path_);
-  if (!file) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
-  return CountLines(*file, kMostLines);
-}
-
-void Form9::Tell(const std::vector<Report>& reports) {
-  for (const Report report : reports) {
-    if (report == Report::kVersion) {
+void Form9::Tell(const std::vector<Finding>& findings) {
+  for (const Finding& finding : findings) {
+    if (finding.report == Report::kVersion) {
       lowFile();
     } else {
       IllFile();

@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,6 +18,7 @@
 #include "base/sound_mode.h"
 #include "settings/main_state.h"
 #include "platform/platform.h"
+#include "program_files/program_checks.h"
 #include "program_files/tone_program.h"
 #include "tone/helper_programs.h"
 #include "tone/route_support.h"
@@ -67,10 +69,10 @@ class Form9 : public ui::Window {
 
   // Loading (form9.cpp).
   void LoadProgram();
-  void ReadLines();
+  std::unique_ptr<platform::InputFile> OpenFile();
+  bool ReadLines();
   void Parse();
-  std::int32_t CountLinesAgain();
-  void Tell(const std::vector<Report>& reports);
+  void Tell(const std::vector<Finding>& findings);
   void IllFile();
   void lowFile();
   void CloseAfterLoading();
@@ -85,7 +87,7 @@ class Form9 : public ui::Window {
   void SoundTone();
   void EndHelper();
   void ShowAllPlayed();
-  std::int16_t ToneCount() const { return program_.tone_count; }
+  std::int16_t ToneCount() const { return program_.ToneCount(); }
 
   platform::Platform& platform_;
   settings::MainState& state_;
@@ -96,6 +98,7 @@ class Form9 : public ui::Window {
 
   std::string file_path_;
   base::SoundMode sound_mode_ = base::SoundMode::kNone;
+  ParseState parse_;
   ToneProgram program_;
   std::int16_t stop_flag_ = 0;  // 1 = stop requested
   std::int16_t tone_number_ = 0;

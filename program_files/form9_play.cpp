@@ -80,10 +80,10 @@ void Form9::PlayTone() {
   platform_.pump.ProcessPending();
   ++tone_number_;
   ++table_index_;
-  const std::int16_t pitch = program_.pitch_hz[table_index_];
+  const std::int16_t pitch = program_.ToneAt(table_index_).pitch_hz;
   support_.WriteHandOver(pitch);
   Label6.SetCaption(base::BareNumber(pitch));
-  Label8.SetCaption(base::BareNumber(program_.duration_ms[table_index_]));
+  Label8.SetCaption(base::BareNumber(program_.ToneAt(table_index_).duration_ms));
   platform_.pump.ProcessPending();
   StartHelper();
   SoundTone();
@@ -105,16 +105,16 @@ bool Form9::SoundsByHelper() const {
 // DirectSound plays through the multimedia player, too; with no sound mode the time passes in
 // silence.
 void Form9::SoundTone() {
-  const std::int16_t duration = program_.duration_ms[table_index_];
+  const Tone tone = program_.ToneAt(table_index_);
   const base::Output output = base::OutputOf(sound_mode_);
   if (output == base::Output::kPlayer || output == base::Output::kDirectSound) {
-    winmm_.SoundWinmmRNDTMP(program_.pitch_hz[table_index_],
-                            base::ToInt16(duration + program_.extra_time_ms));
+    winmm_.SoundWinmmRNDTMP(tone.pitch_hz,
+                            base::ToInt16(tone.duration_ms + program_.extra_time_ms));
     return;
   }
   if (output == base::Output::kHelper16) support_.Wait(kClassicStartMs);
   support_.Wait(program_.extra_time_ms);
-  support_.Wait(duration);
+  support_.Wait(tone.duration_ms);
 }
 
 // Sound32's helper is looked for in two modes that start none: another copy may have left it.

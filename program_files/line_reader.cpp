@@ -47,7 +47,7 @@ bool LineReader::Fill() {
   return size_ != 0;
 }
 
-std::int32_t CountLines(platform::InputFile& file, std::int32_t most) {
+std::int32_t CountLines(base::ByteSource& file, std::int32_t most) {
   LineReader reader(file, 0);
   std::int32_t count = 0;
   while (count < most && reader.Skip()) ++count;

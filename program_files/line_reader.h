@@ -10,14 +10,14 @@
 #include <optional>
 #include <string>
 
-#include "platform/files.h"
+#include "base/byte_source.h"
 
 namespace program_files {
 
 class LineReader {
  public:
   // At most `most_bytes` bytes of lines are handed out, so that no file fills the memory.
-  LineReader(platform::InputFile& file, std::size_t most_bytes)
+  LineReader(base::ByteSource& file, std::size_t most_bytes)
       : file_(file), bytes_left_(most_bytes) {}
 
   // The next line as it stands in the file, or nothing at its end. Throws base::RuntimeError
@@ -33,7 +33,7 @@ class LineReader {
   bool ReadLine(const Take& take);
   bool Fill();
 
-  platform::InputFile& file_;
+  base::ByteSource& file_;
   std::size_t bytes_left_;
   std::array<char, 4096> block_{};
   std::size_t at_ = 0;
@@ -41,6 +41,6 @@ class LineReader {
 };
 
 // The number of lines of a file, which is read to its end, or `most` if it has that many or more.
-std::int32_t CountLines(platform::InputFile& file, std::int32_t most);
+std::int32_t CountLines(base::ByteSource& file, std::int32_t most);
 
 }  // namespace program_files

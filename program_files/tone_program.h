@@ -1,4 +1,5 @@
-// Tone programs: the text files with the extension .tnf that list tones, and their checks.
+// Tone programs: the text files with the extension .tnf that list tones; what one holds, and what
+// is wrong with one.
 //
 // A file is text in the system's code page, one to 1999 lines, numbered from 1
 // (docs/tone-programs.md):
@@ -14,103 +15,78 @@
 // Every "{" and "}" of the lines 3, 5 and 7, every "<" and ">" of a pitch and every "\" of a
 // duration is taken out before the line is read. Numbers follow base::LeadingNumber, but one that
 // is beyond the range of double is merely too large. They are checked as they stand and stored
-// rounded, ties to even; a value that fails its check is not stored.
-//
-// A failed check does not end the checks: each yields a report of its own, in file order. Nothing
-// here touches a file, a window or a clock.
+// rounded, ties to even; a value that fails its check is not stored and stays 0.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
-
-#include "base/errors.h"
 
 namespace program_files {
 
-inline constexpr std::int16_t kLastIndex = 2000;
+inline constexpr std::int32_t kLatestVersion = 236;  // of the format
+inline constexpr std::int32_t kLargestValue = 32000;
+inline constexpr std::int16_t kMostLines = 1999;              // of a legal file
+inline constexpr std::size_t kMostText = 16UL * 1024 * 1024;  // bytes; a legal file is far smaller
 
-// A table with the indices 0 to kLastIndex. Another index throws base::RuntimeError
-// kSubscriptOutOfRange.
-template <class Value>
-class Table {
- public:
-  Value& operator[](std::int16_t index) { return values_[Checked(index)]; }
-  const Value& operator[](std::int16_t index) const { return values_[Checked(index)]; }
+struct Tone {
+  std::int16_t pitch_hz = 0;
+  std::int16_t duration_ms = 0;
+  std::int16_t line = 0;  // of the pitch; the duration stands in the next
 
-  friend bool operator==(const Table&, const Table&) = default;
-
- private:
-  static std::size_t Checked(std::int16_t index) {
-    if (index < 0 || index > kLastIndex) {
-      throw base::RuntimeError(base::ErrorCode::kSubscriptOutOfRange);
-    }
-    return static_cast<std::size_t>(index);
-  }
-
-  std::vector<Value> values_ = std::vector<Value>(static_cast<std::size_t>(kLastIndex) + 1);
+  friend bool operator==(const Tone&, const Tone&) = default;
 };
 
-// What a failed check tells the user.
+struct ToneProgram {
+  std::string name;              // line 4 as it stands
+  std::int16_t hidden_flag = 0;  // 1 for "invisible"
+  std::int16_t extra_time_ms = 0;
+  std::vector<Tone> tones;
+  Tone unfinished;  // where the checks ended within an entry: its pitch
+
+  // Tone `number`, counted from 1; where there is none, the unfinished one or 0 Hz for 0 ms.
+  Tone ToneAt(std::int16_t number) const;
+  std::int16_t ToneCount() const { return static_cast<std::int16_t>(tones.size()); }
+};
+
+// What the player tells its user about a failed check.
 enum class Report {
   kIllegalFile,  // the file is not a tone program
   kVersion,      // the file is for a later version of this program
 };
 
-struct ToneProgram {
-  Table<std::string> lines;      // UTF-8, line n at index n; the checks store cleaned lines back
-  std::int16_t position = 0;     // index of the line that is checked
-  std::int16_t hidden_flag = 0;  // 1 for "invisible"
-  std::int16_t extra_time_ms = 0;
-  std::int16_t line_count = 0;   // lines of the file, minus 6
-  std::int16_t entry_index = 0;  // next free index of the two tables below
-  std::int16_t tone_count = 0;
-  Table<std::int16_t> pitch_hz;  // tone k at index k, from 1
-  Table<std::int16_t> duration_ms;
+// What a check looks for.
+enum class Expected {
+  kValid,
+  kInfo,
+  kVersion,
+  kVisibility,
+  kSound,
+  kExtraTime,
+  kPitchMark,  // the "<" that begins an entry
+  kPitch,
+  kDurationMark,
+  kDuration,
+  kFewerLines,
+  kLessText,
 };
 
-// The checks in steps, for a caller that shows each report before the next step and lets other
-// things happen between the entries:
-//
-//   Show(checks.CheckHead());
-//   checks.BeginEntries(lines_in_file);
-//   while (checks.HasEntry()) Show(checks.CheckEntry());
-//
-// The number of lines may be another than that of the table's lines, as the file may have changed
-// since they were read; lines that are not there are empty.
-class ProgramChecks {
- public:
-  // Works on `program`, whose lines are filled in.
-  explicit ProgramChecks(ToneProgram& program) : program_(program) {}
+// For a message: "[info]", "a pitch above 1 and at most 32000 Hz".
+const char* Description(Expected expected);
 
-  // Lines 1 to 7.
-  std::vector<Report> CheckHead();
+inline constexpr std::size_t kLongestFound = 80;
 
-  // Throws base::RuntimeError kOverflow when the line count leaves 16 bits.
-  void BeginEntries(std::int32_t lines_in_file);
+// A failed check.
+struct Finding {
+  std::int32_t line = 0;  // from 1
+  std::int32_t column =
+      0;  // from 1, in characters of the line (docs/tone-programs.md: single bytes)
+  Expected expected{};
+  std::string found;  // the line as it stands, cut after kLongestFound bytes
+  Report report = Report::kIllegalFile;
 
-  // The file's last line never begins an entry.
-  bool HasEntry() const { return program_.position < lines_in_file_; }
-
-  // The entry at the position, or one line that begins none. Throws base::RuntimeError
-  // kSubscriptOutOfRange beyond the tables.
-  std::vector<Report> CheckEntry();
-
- private:
-  std::string WithoutMarker(std::int16_t position, char marker) const;
-  void Clean(std::string_view markers);
-  void Expect(bool passes, Report report = Report::kIllegalFile);
-  void Store(double above, std::int16_t& value);
-  const std::string& Line() const { return program_.lines[program_.position]; }
-
-  ToneProgram& program_;
-  std::int32_t lines_in_file_ = 0;
-  std::vector<Report> reports_;  // of the current step
+  friend bool operator==(const Finding&, const Finding&) = default;
 };
-
-// All the checks of a program whose lines are filled in, for a file of `lines_in_file` lines;
-// returns the failed ones in file order. Throws as the steps do.
-std::vector<Report> CheckProgram(ToneProgram& program, std::int32_t lines_in_file);
 
 }  // namespace program_files

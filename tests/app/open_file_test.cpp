@@ -31,7 +31,7 @@ TEST_F(OpenFileTest, ThePathWithBlanksReachesTheNewCopyWhole) {
   EXPECT_FALSE(Run());
   EXPECT_TRUE(program->form9.Visible());
   EXPECT_EQ(program->form9.Label4.Caption(), kTune);
-  EXPECT_EQ(program->form9.Tones().tone_count, 1);
+  EXPECT_EQ(program->form9.Tones().ToneCount(), 1);
 }
 
 TEST_F(OpenFileTest, ARenamedProgramStartsItself) {

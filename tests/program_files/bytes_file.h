@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
-#include "platform/files.h"
+#include "base/byte_source.h"
 #include "program_files/line_reader.h"
 
 namespace program_files {
 
-class BytesFile : public platform::InputFile {
+class BytesFile : public base::ByteSource {
  public:
   // `bytes` must outlive the file. A read yields at most `most_at_once` bytes.
   explicit BytesFile(std::string_view bytes,

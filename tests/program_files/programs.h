@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "program_files/program_checks.h"
 #include "program_files/tone_program.h"
 
 namespace program_files {
@@ -17,31 +18,42 @@ inline Lines GoodHead() {
   return {"%valid%", "[info]", "{236}", "{My tune}", "{visible}", "[sound]", "{50}"};
 }
 
-inline ToneProgram ProgramOf(const Lines& lines) {
-  ToneProgram program;
+inline ParseState StateOf(const Lines& lines) {
+  ParseState state;
   std::int16_t index = 1;
-  for (const std::string& line : lines) program.lines[index++] = line;
-  return program;
+  for (const std::string& line : lines) state.lines[index++] = line;
+  return state;
 }
 
-inline Lines LinesOf(const ToneProgram& program, std::int16_t count) {
+inline Lines LinesOf(const ParseState& state, std::int16_t count) {
   Lines lines;
-  for (std::int16_t index = 1; index <= count; ++index) lines.push_back(program.lines[index]);
+  for (std::int16_t index = 1; index <= count; ++index) lines.push_back(state.lines[index]);
   return lines;
 }
 
 inline Tones TonesOf(const ToneProgram& program) {
   Tones tones;
-  for (std::int16_t tone = 1; tone <= program.tone_count; ++tone) {
-    tones.emplace_back(program.pitch_hz[tone], program.duration_ms[tone]);
-  }
+  for (const Tone& tone : program.tones) tones.emplace_back(tone.pitch_hz, tone.duration_ms);
   return tones;
 }
 
+// Lines, and what the checks made of them.
+struct Checked {
+  ParseState state;
+  ToneProgram program;
+  std::vector<Finding> findings;
+};
+
+inline Checked Check(const Lines& lines, std::int32_t lines_in_file) {
+  Checked checked{StateOf(lines), {}, {}};
+  checked.findings = CheckProgram(checked.state, checked.program, lines_in_file);
+  return checked;
+}
+
 // "i" for a report of an illegal file, "v" for one of the version.
-inline std::string Letters(const std::vector<Report>& reports) {
+inline std::string Letters(const std::vector<Finding>& findings) {
   std::string letters;
-  for (const Report report : reports) letters += report == Report::kVersion ? 'v' : 'i';
+  for (const Finding& finding : findings) letters += finding.report == Report::kVersion ? 'v' : 'i';
   return letters;
 }
 

@@ -11,8 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "program_files/tone_program.h"
-#include "tests/program_files/bytes_file.h"
+#include "program_files/program_reader.h"
 #include "tests/program_files/programs.h"
 
 namespace program_files {
@@ -62,17 +61,8 @@ Lines ExampleUnder(const std::string& heading) {
   return lines;
 }
 
-struct Parsed {
-  ToneProgram program;
-  std::vector<Report> reports;
-  std::int32_t lines = 0;
-};
-
-Parsed Parse(const std::string& name) {
-  const std::string bytes = Bytes(name);
-  Parsed parsed{ProgramOf(LinesIn(BytesFile(bytes))), {}, CountIn(bytes, 1999)};
-  parsed.reports = CheckProgram(parsed.program, parsed.lines);
-  return parsed;
+ReadProgram Parse(const std::string& name) {
+  return ReadToneProgram(Bytes(name));
 }
 
 Tones TonesIn(const std::string& name) {
@@ -102,12 +92,12 @@ TEST(SamplesTest, TheFolderHoldsTheseEight) {
 TEST(SamplesTest, NoCheckFailsAndTheTonesAreTheExpectedOnes) {
   for (const Sample& sample : kSamples) {
     SCOPED_TRACE(sample.file);
-    const Parsed parsed = Parse(sample.file);
-    EXPECT_TRUE(parsed.reports.empty());
+    const ReadProgram parsed = Parse(sample.file);
+    EXPECT_TRUE(parsed.findings.empty());
     EXPECT_EQ(parsed.lines, sample.lines);
     EXPECT_EQ(parsed.program.hidden_flag, 0);
     EXPECT_EQ(parsed.program.extra_time_ms, kExtraTimeMs);
-    ASSERT_EQ(parsed.program.tone_count, sample.tones);
+    ASSERT_EQ(parsed.program.ToneCount(), sample.tones);
     const Tones tones = TonesOf(parsed.program);
     EXPECT_EQ(tones.front(), sample.first);
     EXPECT_EQ(tones.back(), sample.last);
@@ -134,7 +124,7 @@ TEST(SamplesTest, LinesEndWithCrLfAndAreAscii) {
 
 TEST(SamplesTest, EveryOneHasANameOfItsOwn) {
   std::vector<std::string> names;
-  for (const Sample& sample : kSamples) names.push_back(Parse(sample.file).program.lines[4]);
+  for (const Sample& sample : kSamples) names.push_back(Parse(sample.file).program.name);
   EXPECT_EQ(names,
             (std::vector<std::string>{
                 "{Auld Lang Syne (Scottish air)}", "{Glissando over three octaves}",
@@ -200,8 +190,8 @@ TEST(SamplesTest, NoNoteRunsIntoItsOwnRepetition) {
 }
 
 TEST(SamplesTest, TheExampleOfTheDocumentPlaysWhatItSays) {
-  ToneProgram program = ProgramOf(ExampleUnder("A complete file"));
-  EXPECT_TRUE(CheckProgram(program, 15).empty());
+  const auto [state, program, findings] = Check(ExampleUnder("A complete file"), 15);
+  EXPECT_TRUE(findings.empty());
   EXPECT_EQ(program.hidden_flag, 0);
   EXPECT_EQ(program.extra_time_ms, 10);
   EXPECT_EQ(TonesOf(program), (Tones{{523, 390}, {659, 390}, {kRestHz, 390}, {784, 790}}));

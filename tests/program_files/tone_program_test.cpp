@@ -1,4 +1,4 @@
-#include "program_files/tone_program.h"
+#include "program_files/program_checks.h"
 
 #include <gtest/gtest.h>
 
@@ -25,13 +25,12 @@ class ToneProgramTest : public testing::TestWithParam<Case> {};
 
 TEST_P(ToneProgramTest, YieldsItsTablesAndReports) {
   const auto& [name, lines, expected] = GetParam();
-  ToneProgram program = ProgramOf(lines);
-  const auto reports = CheckProgram(program, static_cast<std::int32_t>(lines.size()));
-  EXPECT_EQ(Letters(reports), expected.reports);
+  const auto [state, program, findings] = Check(lines, static_cast<std::int32_t>(lines.size()));
+  EXPECT_EQ(Letters(findings), expected.reports);
   EXPECT_EQ(program.extra_time_ms, expected.extra_time_ms);
   EXPECT_EQ(program.hidden_flag, expected.hidden ? 1 : 0);
   EXPECT_EQ(TonesOf(program), expected.tones);
-  EXPECT_EQ(program.line_count, static_cast<int>(lines.size()) - 6);
+  EXPECT_EQ(state.line_count, static_cast<int>(lines.size()) - 6);
 }
 
 std::string NameOf(const testing::TestParamInfo<Case>& info) {
@@ -198,54 +197,76 @@ INSTANTIATE_TEST_SUITE_P(
     NameOf);
 
 TEST(ToneProgram, CleanedLinesAreStoredBack) {
-  ToneProgram program = ProgramOf({"%valid%", "[info]", "{236}", "{My tune}", "{Visible}",
-                                   "[sound]", "{50}", "<440>", "\\500"});
-  CheckProgram(program, 9);
-  EXPECT_EQ(LinesOf(program, 9), (Lines{"valid", "[info]", "236", "{My tune}", "Visible", "[sound]",
-                                        "50", "440", "500"}));
+  const Checked checked = Check(
+      {"%valid%", "[info]", "{236}", "{My tune}", "{Visible}", "[sound]", "{50}", "<440>", "\\500"},
+      9);
+  EXPECT_EQ(LinesOf(checked.state, 9), (Lines{"valid", "[info]", "236", "{My tune}", "Visible",
+                                              "[sound]", "50", "440", "500"}));
 }
 
 TEST(ToneProgram, TheIndexesStandBehindTheLastEntry) {
-  ToneProgram program = ProgramOf(Body({"<440>", "\\500", "<880>", "\\250"}));
-  CheckProgram(program, 11);
-  EXPECT_EQ(program.position, 12);
-  EXPECT_EQ(program.entry_index, 3);
-  EXPECT_EQ(program.tone_count, 2);
-  EXPECT_EQ(program.line_count, 5);
+  const auto [state, program, findings] = Check(Body({"<440>", "\\500", "<880>", "\\250"}), 11);
+  EXPECT_EQ(state.position, 12);
+  EXPECT_EQ(state.entry_index, 3);
+  EXPECT_EQ(program.ToneCount(), 2);
+  EXPECT_EQ(state.line_count, 5);
+}
+
+TEST(ToneProgram, TheNameIsLineFourAsItStands) {
+  EXPECT_EQ(Check(GoodHead(), 7).program.name, "{My tune}");
+}
+
+TEST(ToneProgram, ATonesLineIsThatOfItsPitch) {
+  const ToneProgram program = Check(Body({"x", "<440>", "\\500", "<880>", "\\250"}), 12).program;
+  EXPECT_EQ(program.tones, (std::vector<Tone>{{440, 500, 9}, {880, 250, 11}}));
 }
 
 TEST(ToneProgram, LinesThatOnlyTheCountKnowsAreEmpty) {
-  ToneProgram program = ProgramOf(Body({"<440>", "\\500"}));
-  EXPECT_EQ(Letters(CheckProgram(program, 12)), "ii");
-  EXPECT_EQ(TonesOf(program), (Tones{{440, 500}}));
+  const Checked checked = Check(Body({"<440>", "\\500"}), 12);
+  EXPECT_EQ(Letters(checked.findings), "ii");
+  EXPECT_EQ(TonesOf(checked.program), (Tones{{440, 500}}));
 }
 
 TEST(ToneProgram, LinesThatTheCountDoesNotKnowAreNotRead) {
-  ToneProgram program = ProgramOf(Body({"<440>", "\\500", "<880>", "\\250"}));
-  EXPECT_EQ(Letters(CheckProgram(program, 9)), "");
-  EXPECT_EQ(TonesOf(program), (Tones{{440, 500}}));
+  const Checked checked = Check(Body({"<440>", "\\500", "<880>", "\\250"}), 9);
+  EXPECT_EQ(Letters(checked.findings), "");
+  EXPECT_EQ(TonesOf(checked.program), (Tones{{440, 500}}));
 }
 
 TEST(ToneProgram, TheLongestProgramHas996Tones) {
   Lines entries;
   for (int tone = 0; tone < 996; ++tone) entries.insert(entries.end(), {"<440>", "\\500"});
-  ToneProgram program = ProgramOf(Body(entries));
-  EXPECT_EQ(Letters(CheckProgram(program, 1999)), "");
-  EXPECT_EQ(program.tone_count, 996);
-  EXPECT_EQ(program.pitch_hz[996], 440);
-  EXPECT_EQ(program.pitch_hz[997], 0);
+  const Checked checked = Check(Body(entries), 1999);
+  EXPECT_EQ(Letters(checked.findings), "");
+  EXPECT_EQ(checked.program.ToneCount(), 996);
+  EXPECT_EQ(checked.program.ToneAt(996).pitch_hz, 440);
+  EXPECT_EQ(checked.program.ToneAt(997).pitch_hz, 0);
 }
 
 TEST(ToneProgram, LinesBeyondTheTableAreAnError) {
-  ToneProgram program = ProgramOf(GoodHead());
-  EXPECT_THROW(CheckProgram(program, 2002), base::RuntimeError);
+  EXPECT_THROW(Check(GoodHead(), 2002), base::RuntimeError);
+}
+
+// The tables keep what they hold: the pitch is there, its tone is not counted.
+TEST(ToneProgram, TheEndOfTheTableWithinAnEntryLeavesItsPitch) {
+  Lines lines = GoodHead();
+  lines.resize(1999, "x");
+  lines.push_back("<440>");
+  ParseState state = StateOf(lines);
+  ToneProgram program;
+  EXPECT_THROW(CheckProgram(state, program, 2002), base::RuntimeError);
+  EXPECT_EQ(program.ToneCount(), 0);
+  EXPECT_EQ(program.ToneAt(1), (Tone{440, 0, 2000}));
+  EXPECT_EQ(program.ToneAt(2), Tone{});
+  EXPECT_EQ(program.ToneAt(0), Tone{});
 }
 
 TEST(ToneProgram, ALineCountBeyond16BitsIsAnOverflow) {
-  ToneProgram program = ProgramOf(GoodHead());
-  ProgramChecks checks(program);
+  ParseState state = StateOf(GoodHead());
+  ToneProgram program;
+  ProgramChecks checks(state, program);
   EXPECT_NO_THROW(checks.BeginEntries(32773));
-  EXPECT_EQ(program.line_count, 32767);
+  EXPECT_EQ(state.line_count, 32767);
   try {
     checks.BeginEntries(32774);
     FAIL() << "no overflow";
