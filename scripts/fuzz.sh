@@ -1,21 +1,52 @@
 #!/bin/bash
-# Fuzzes the tone program parser: scripts/fuzz.sh [SECONDS], a minute if nothing is said. Fails at a
-# finding, which is left in out/fuzz/; "build/fuzz/tests/fuzz/tone_program_fuzzer FILE" shows it again.
+# Fuzzes the parsers, one after the other, and fails at a finding, which is left in out/fuzz/:
+#   scripts/fuzz.sh [SECONDS]             all of them for so long together, a minute if not said
+#   scripts/fuzz.sh runs COUNT [NAME...]  each, or the named ones, for so many executions
+# "build/fuzz/tests/fuzz/NAME_fuzzer FILE" shows a finding again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/setup.sh
 
-readonly seconds=${1:-60}
 readonly findings=out/fuzz
-readonly found=build/fuzz/found # what reaches new code beside the seeds
+
+# The longest input worth making: a tone program of 2,001 lines, a link of 1,500 characters, a
+# hand-over file one byte too long.
+declare -rA longest=(
+  [field_reader]=512 [hand_over]=1100 [language_file]=2048 [settings]=1024 [tone_program]=8192
+  [update_file]=2048 [wave_file]=512)
+
+# More seeds than those in tests/fuzz/corpus/NAME.
+declare -rA further_seeds=([tone_program]=resources/samples)
+
+# fuzz NAME LIMIT
+fuzz() {
+  local name=$1 limit=$2
+  local found=build/fuzz/found/$name # what reaches new code beside the seeds
+  heading "Fuzzing: $name"
+  rm -rf "$found"
+  mkdir -p "$found" "$findings"
+  # Nothing should take seconds or much memory.
+  build/fuzz/tests/fuzz/"$name"_fuzzer "$limit" -max_len="${longest[$name]}" -timeout=10 \
+    -rss_limit_mb=256 -malloc_limit_mb=16 -dict="tests/fuzz/$name.dict" \
+    -artifact_prefix="$findings/$name-" -print_final_stats=1 \
+    "$found" "tests/fuzz/corpus/$name" ${further_seeds[$name]:-} \
+    2>&1 | grep -vE '^#[0-9]+\s+(NEW|REDUCE|RELOAD) | # Uses: |^stat::(slowest|peak|new_units)' |
+    sed '/^###### Recommended/,/^###### End/d'
+}
+
+mapfile -t names < <(printf '%s\n' "${!longest[@]}" | sort)
+seconds=60
+limit=
+if [[ ${1:-} == runs ]]; then
+  limit=-runs=${2:?COUNT}
+  if (($# > 2)); then names=("${@:3}"); fi
+elif (($# > 0)); then
+  seconds=$1
+fi
 
 build fuzz
-rm -rf "$found"
-mkdir -p "$found" "$findings"
-# Freed memory is soon used again: the tables' pages cost more than the parser.
+# Freed memory is soon used again: fresh pages cost more than the parsers.
 export ASAN_OPTIONS=quarantine_size_mb=8
-# A file of 2,001 lines needs no more bytes, and nothing should take seconds or much memory.
-build/fuzz/tests/fuzz/tone_program_fuzzer -max_total_time="$seconds" -max_len=8192 -timeout=10 \
-  -rss_limit_mb=256 -malloc_limit_mb=16 -dict=tests/fuzz/tone_program.dict \
-  -artifact_prefix="$findings/" -print_final_stats=1 "$found" tests/fuzz/corpus resources/samples \
-  2>&1 | grep -vE '^#[0-9]+\s+(NEW|REDUCE|RELOAD) | # Uses: '
+for name in "${names[@]}"; do
+  fuzz "$name" "${limit:--max_total_time=$(((seconds + ${#names[@]} - 1) / ${#names[@]}))}"
+done

@@ -41,7 +41,7 @@ ALLOWED = {
     "main.cpp": APP | {"app", "platform/windows"},
     "helpers": {"base", "tone", "platform/windows/api"},
     "tests": APP | {"app", "helpers"} | SIMULATION,
-    "tests/fuzz": {"base", "platform", "program_files", "tests"},
+    "tests/fuzz": {"base", "helpers", "lang", "online", "program_files", "settings", "tests", "tone"},
     "tests/real": set(),
     "bench": APP | {"app", "tests"} | SIMULATION,
 }

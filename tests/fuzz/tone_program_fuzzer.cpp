@@ -1,48 +1,54 @@
-// Any bytes as a tone program file. What must hold whatever they are is checked here, and a process
-// that breaks it ends with a message; memory, time and undefined behaviour are the sanitizers' and
-// libFuzzer's business. The corpus holds plain .tnf files, so that a finding opens in an editor.
+// Any bytes as a tone program file. The corpus holds plain .tnf files, so that a finding opens in
+// an editor.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/errors.h"
-#include "program_files/line_reader.h"
-#include "program_files/tone_program.h"
+#include "program_files/program_reader.h"
+#include "program_files/tone_renderer.h"
+#include "tests/fuzz/require.h"
 #include "tests/program_files/bytes_file.h"
-#include "tests/program_files/programs.h"
 
 namespace program_files {
 namespace {
 
-constexpr std::int32_t kMostLines = 2000;  // that the player's table takes
-constexpr std::int16_t kLimit = 32000;     // of pitches, durations and the extra time
+using fuzz::Require;
+using Lines = std::vector<std::string_view>;
 
-void Require(bool holds, const char* what) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", what);
-  std::abort();
-}
+constexpr std::int32_t kTableLines = 2000;
 
 // The rule of line ends, byte by byte.
 Lines PlainlySplit(std::string_view bytes) {
   Lines lines;
-  bool open = false;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (!open) lines.emplace_back();
-    open = bytes[i] != '\r';
-    if (open) lines.back() += bytes[i];
-    if (!open && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
+  for (std::size_t begin = 0, at = 0; at < bytes.size(); begin = at) {
+    while (at < bytes.size() && bytes[at] != '\r') ++at;
+    lines.push_back(bytes.substr(begin, at - begin));
+    if (at < bytes.size()) ++at;
+    if (at > begin && bytes[at - 1] == '\r' && at < bytes.size() && bytes[at] == '\n') ++at;
   }
   return lines;
 }
 
-bool HandsOut(std::string_view bytes, std::size_t most_bytes) {
-  BytesFile file(bytes);
+std::size_t TextOf(const Lines& lines) {
+  std::size_t text = 0;
+  for (const std::string_view line : lines) text += line.size();
+  return text;
+}
+
+// Whether reading yields just these lines; `most_bytes` is what may be handed out.
+bool Yields(BytesFile file, std::size_t most_bytes, const Lines& lines) {
+  LineReader reader(file, most_bytes);
+  for (const std::string_view line : lines) {
+    if (reader.Next() != line) return false;
+  }
+  return !reader.Next();
+}
+
+bool HandsOut(BytesFile file, std::size_t most_bytes) {
   LineReader reader(file, most_bytes);
   try {
     while (reader.Next()) continue;
@@ -54,101 +60,124 @@ bool HandsOut(std::string_view bytes, std::size_t most_bytes) {
 }
 
 void CheckLines(std::string_view bytes, const Lines& lines) {
-  Require(lines == PlainlySplit(bytes), "the lines are those between the line ends");
-  // Down to a byte, yet no endless reading.
-  Require(lines == LinesIn(BytesFile(bytes, 1 + bytes.size() / 64)),
-          "the lines do not depend on how the file is read");
-  std::size_t text = 0;
-  for (const std::string& line : lines) text += line.size();
-  Require(HandsOut(bytes, text), "as much text as may be is handed out");
-  Require(text == 0 || !HandsOut(bytes, text - 1), "and no more");
+  const std::size_t text = TextOf(lines);
+  Require(Yields(BytesFile(bytes), text, lines), "the lines are those between the line ends");
+  Require(text == 0 || !HandsOut(BytesFile(bytes), text - 1), "no more text than may be");
   const auto count = static_cast<std::int32_t>(lines.size());
-  Require(CountIn(bytes, count + 1) == count, "both passes see as many lines");
+  base::BytesInMemory again(bytes);
+  Require(SecondPass(again) == count, "both passes see as many lines");
   Require(CountIn(bytes, count / 2) == count / 2, "the count ends where it may end");
 }
 
-ToneProgram Filled(const Lines& lines) {
-  const auto kept = std::min(lines.size(), static_cast<std::size_t>(kMostLines));
-  return ProgramOf(Lines(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(kept)));
+void CheckTone(const Tone& tone) {
+  Require(tone.pitch_hz >= 0 && tone.pitch_hz <= kLargestValue, "pitches in limits");
+  Require(tone.duration_ms >= 0 && tone.duration_ms <= kLargestValue, "durations in limits");
 }
 
-// Checks that ended early may leave a pitch without its tone.
-void CheckTables(const ToneProgram& program, std::int16_t last_pitch) {
+void CheckProgramItself(const ToneProgram& program) {
   Require(program.hidden_flag == 0 || program.hidden_flag == 1, "the hidden flag is 0 or 1");
-  Require(program.extra_time_ms >= 0 && program.extra_time_ms <= kLimit, "extra time in limits");
-  Require(program.tone_count >= 0 && program.tone_count <= kLastIndex, "tones fit their tables");
-  for (std::int16_t k = 0; k <= kLastIndex; ++k) {
-    const int pitch_limit = k >= 1 && k <= last_pitch ? kLimit : 0;
-    const int duration_limit = k >= 1 && k <= program.tone_count ? kLimit : 0;
-    Require(program.pitch_hz[k] >= 0 && program.pitch_hz[k] <= pitch_limit, "pitches in limits");
-    Require(program.duration_ms[k] >= 0 && program.duration_ms[k] <= duration_limit,
-            "durations in limits");
+  Require(program.extra_time_ms >= 0 && program.extra_time_ms <= kLargestValue,
+          "extra time in limits");
+  std::int16_t last_line = 6;
+  for (const Tone& tone : program.tones) {
+    CheckTone(tone);
+    Require(tone.line >= last_line + 2, "an entry has two lines of its own");
+    last_line = tone.line;
   }
+  CheckTone(program.unfinished);
 }
 
-void CheckCounts(const ToneProgram& program, std::int32_t lines,
-                 const std::vector<Report>& reports) {
-  Require(program.line_count == lines - 6, "line count");
-  Require(program.entry_index == program.tone_count + 1, "entry index");
-  Require(program.position >= 8 && program.position <= (lines < 8 ? 8 : lines + 1), "position");
+void CheckCounts(const ParseState& state, const ToneProgram& program, std::int32_t lines,
+                 std::size_t findings) {
+  const int tones = program.ToneCount();
+  Require(state.line_count == lines - 6, "line count");
+  Require(state.entry_index == tones + 1, "entry index");
+  Require(state.position >= 8 && state.position <= (lines < 8 ? 8 : lines + 1), "position");
+  Require(program.unfinished == Tone{}, "no entry is left unfinished");
   // An entry takes two lines; a line that begins none takes one and fails one check.
-  const int others = program.position - 8 - 2 * program.tone_count;
+  const int others = state.position - 8 - 2 * tones;
   Require(others >= 0, "tones are pairs of lines");
-  const auto failed = static_cast<int>(reports.size());
-  Require(failed >= others && failed <= 6 + 3 * program.tone_count + others, "failed checks");
+  const auto failed = static_cast<int>(findings);
+  Require(failed >= others && failed <= 6 + 3 * tones + others, "failed checks");
+}
+
+void CheckFindings(const std::vector<Finding>& findings, const Lines& lines) {
+  std::int32_t last_line = 0;
+  for (const Finding& finding : findings) {
+    Require((finding.expected == Expected::kVersion) == (finding.report == Report::kVersion),
+            "only the version has a report of its own");
+    const bool counts_lines = finding.expected == Expected::kFewerLines;
+    Require(counts_lines ? finding.line == kTableLines : finding.line >= last_line, "file order");
+    if (!counts_lines) last_line = finding.line;
+    const auto index = static_cast<std::size_t>(finding.line) - 1;
+    const std::string_view line = index < lines.size() ? lines[index] : std::string_view();
+    Require(finding.found == line.substr(0, kLongestFound), "what stands there");
+    Require(finding.column >= 1 && finding.column <= std::ssize(line) + 1, "a column of the line");
+    Require(*Description(finding.expected) != '\0', "what was expected has a name");
+  }
 }
 
 std::string Written(const ToneProgram& program) {
   std::string bytes = "%valid%\r\n[info]\r\n{236}\r\n\r\n";
   bytes += program.hidden_flag == 1 ? "{invisible}" : "{visible}";
   bytes += "\r\n[sound]\r\n{" + std::to_string(program.extra_time_ms) + "}\r\n";
-  for (std::int16_t k = 1; k <= program.tone_count; ++k) {
-    bytes += "<" + std::to_string(program.pitch_hz[k]) + ">\r\n";
-    bytes += "\\" + std::to_string(program.duration_ms[k]) + "\r\n";
+  for (const Tone& tone : program.tones) {
+    bytes += "<" + std::to_string(tone.pitch_hz) + ">\r\n";
+    bytes += "\\" + std::to_string(tone.duration_ms) + "\r\n";
   }
   return bytes;
 }
 
 // Values that were above their limit and were rounded down onto it cannot be written.
 bool CanBeWritten(const ToneProgram& program) {
-  if (program.extra_time_ms == 0) return false;
-  for (std::int16_t k = 1; k <= program.tone_count; ++k) {
-    if (program.pitch_hz[k] <= 1 || program.duration_ms[k] == 0) return false;
-  }
-  return true;
+  return program.extra_time_ms != 0 &&
+         std::all_of(program.tones.begin(), program.tones.end(),
+                     [](const Tone& tone) { return tone.pitch_hz > 1 && tone.duration_ms != 0; });
 }
 
 void CheckLegalProgram(const ToneProgram& program, std::int32_t lines) {
-  Require(lines >= 7, "a legal file has a head");
-  Require(program.tone_count == (lines - 7) / 2, "a legal file is all entries");
-  Require(program.extra_time_ms >= 0, "extra time");
-  for (std::int16_t k = 1; k <= program.tone_count; ++k) {
-    Require(program.pitch_hz[k] >= 1, "a legal file has only pitches that can sound");
-  }
+  Require(lines >= 7 && lines < kTableLines, "a legal file has a head and an end");
+  Require(program.ToneCount() == (lines - 7) / 2, "a legal file is all entries");
+  for (const Tone& tone : program.tones) Require(tone.pitch_hz >= 1, "every pitch can sound");
   if (!CanBeWritten(program)) return;
-  const std::string bytes = Written(program);
-  ToneProgram again = Filled(LinesIn(BytesFile(bytes)));
-  Require(CheckProgram(again, CountIn(bytes, kMostLines)).empty(), "written again, it is legal");
-  Require(again.hidden_flag == program.hidden_flag && again.tone_count == program.tone_count &&
-              again.extra_time_ms == program.extra_time_ms && again.pitch_hz == program.pitch_hz &&
-              again.duration_ms == program.duration_ms,
+  const ReadProgram again = ReadToneProgram(Written(program));
+  Require(again.findings.empty(), "written again, it is legal");
+  Require(again.program.hidden_flag == program.hidden_flag &&
+              again.program.extra_time_ms == program.extra_time_ms &&
+              again.program.tones == program.tones,
           "written again, it is the same program");
 }
 
-// The count of the second pass when the file has changed since the first: any number.
+void CheckLength(const ToneProgram& program) {
+  std::int64_t length_ms = program.tones.empty() ? program.extra_time_ms : 0;
+  for (const Tone& tone : program.tones) length_ms += tone.duration_ms + program.extra_time_ms;
+  const std::int64_t frames = ToneRenderer(program).Frames();
+  Require(std::abs(10 * frames - 441 * length_ms) <= 5, "within half a frame of its length");
+}
+
+ParseState Filled(const Lines& lines) {
+  ParseState state;
+  for (std::int16_t index = 1; index <= std::ssize(lines) && index <= kLastIndex; ++index) {
+    state.lines[index] = lines[static_cast<std::size_t>(index) - 1];
+  }
+  return state;
+}
+
+// The steps, for a file that has any number of lines by the second pass.
 void CheckChangedFile(const Lines& lines, std::int32_t lines_in_file) {
-  ToneProgram program = Filled(lines);
+  ParseState state = Filled(lines);
+  ToneProgram program;
   try {
-    const std::vector<Report> reports = CheckProgram(program, lines_in_file);
-    CheckCounts(program, lines_in_file, reports);
-    CheckTables(program, program.tone_count);
+    const std::vector<Finding> findings = CheckProgram(state, program, lines_in_file);
+    CheckCounts(state, program, lines_in_file, findings.size());
+    CheckFindings(findings, lines);
   } catch (const base::RuntimeError& error) {
-    Require(lines_in_file > kMostLines, "only a file that is too long ends the checks");
+    Require(lines_in_file > kTableLines, "only a file that is too long ends the checks");
     Require(error.code() == base::ErrorCode::kSubscriptOutOfRange ||
                 error.code() == base::ErrorCode::kOverflow,
             "by the end of the tables, or of 16 bits");
-    CheckTables(program, program.entry_index);
   }
+  CheckProgramItself(program);
 }
 
 // As good as any: longer, shorter, beyond the tables, beyond 16 bits.
@@ -165,17 +194,47 @@ std::int32_t OtherCount(std::int32_t count) {
   }
 }
 
-void CheckFile(std::string_view bytes) {
-  const Lines lines = LinesIn(BytesFile(bytes));
-  CheckLines(bytes, lines);
+// The first pass in pieces, down to a byte, yet no endless reading.
+ParseState ReadInPieces(std::string_view bytes, const Lines& lines) {
+  ParseState state;
+  BytesFile file(bytes, 1 + bytes.size() / 64);
+  FirstPass pass(file, state.lines, [](std::string_view line) { return std::string(line); });
+  while (pass.ReadLine().progress == FirstPass::Progress::kGoesOn) continue;
+  Require(pass.LinesRead() == std::ssize(lines), "the lines do not depend on the reads' size");
+  for (std::int16_t index = 1; index <= pass.LinesRead(); ++index) {
+    Require(state.lines[index] == lines[static_cast<std::size_t>(index) - 1], "nor their text");
+  }
+  return state;
+}
+
+// The steps of a file that has not changed, beside the one call.
+void CheckAgreement(std::string_view bytes, const Lines& lines, const ReadProgram& read) {
+  ParseState state = ReadInPieces(bytes, lines);
+  ToneProgram program;
   const auto count = static_cast<std::int32_t>(lines.size());
+  std::vector<Finding> findings = CheckProgram(state, program, count);
+  CheckCounts(state, program, count, findings.size());
+  if (count == kTableLines) findings.insert(findings.begin(), read.findings.at(0));
+  Require(findings == read.findings, "the steps find what the one call finds");
+  Require(program.tones == read.program.tones && program.name == read.program.name &&
+              program.extra_time_ms == read.program.extra_time_ms &&
+              program.hidden_flag == read.program.hidden_flag,
+          "the steps read what the one call reads");
+}
+
+void CheckFile(std::string_view bytes) {
+  const Lines lines = PlainlySplit(bytes);
+  CheckLines(bytes, lines);
+  const ReadProgram read = ReadToneProgram(bytes);
+  CheckFindings(read.findings, lines);
+  CheckProgramItself(read.program);
+  CheckLength(read.program);
+  const auto count = static_cast<std::int32_t>(lines.size());
+  Require(read.lines == std::min(count, kTableLines), "lines that were read");
+  Require(read.given_up == (count > kTableLines), "too many lines are given up");
   CheckChangedFile(lines, OtherCount(count));
-  if (count > kMostLines) return;
-  ToneProgram program = Filled(lines);
-  const std::vector<Report> reports = CheckProgram(program, count);
-  CheckTables(program, program.tone_count);
-  CheckCounts(program, count, reports);
-  if (reports.empty()) CheckLegalProgram(program, count);
+  if (!read.given_up) CheckAgreement(bytes, lines, read);
+  if (read.findings.empty()) CheckLegalProgram(read.program, count);
 }
 
 }  // namespace
