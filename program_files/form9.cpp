@@ -59,7 +59,7 @@ bool Form9::ReadLines() {
   using enum FirstPass::Progress;
   const auto file = OpenFile();
   FirstPass pass(*file, parse_.lines,
-                 [this](std::string_view line) { return platform_.code_page.Decode(line); });
+                 [this](const std::string& line) { return platform_.code_page.Decode(line); });
   FirstPass::Step step{kGoesOn, {}};
   while (step.progress == kGoesOn) {
     step = pass.ReadLine();
@@ -81,7 +81,7 @@ void Form9::Parse() {
   });
 }
 
-void Form9::Tell(const std::vector<Finding>& findings) {
+void Form9::Tell(std::span<const Finding> findings) {
   for (const Finding& finding : findings) {
     if (finding.report == Report::kVersion) {
       lowFile();
