@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -113,6 +114,37 @@ void CheckFindings(const std::vector<Finding>& findings, const Lines& lines) {
   }
 }
 
+// The number of a line that holds nothing but markers and one to nine digits.
+std::optional<std::int32_t> PlainNumber(std::string_view line, std::string_view markers) {
+  std::string digits;
+  for (const char c : line) {
+    if (markers.find(c) == std::string_view::npos) digits += c;
+  }
+  const bool plain =
+      std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
+  if (digits.empty() || digits.size() > 9 || !plain) return std::nullopt;
+  return std::stoi(digits);
+}
+
+void CheckValue(std::string_view line, std::string_view markers, std::int32_t above,
+                std::int16_t value) {
+  const auto number = PlainNumber(line, markers);
+  if (!number) return;
+  const bool passes = *number > above && *number <= kLargestValue;
+  Require(value == (passes ? *number : 0), "a plain number within its limits is the value");
+}
+
+void CheckValues(const ToneProgram& program, const Lines& lines) {
+  if (lines.size() >= 7) CheckValue(lines[6], "{}", 0, program.extra_time_ms);
+  for (const Tone& tone : program.tones) {
+    const auto index = static_cast<std::size_t>(tone.line) - 1;
+    Require(index + 1 < lines.size(), "a tone has its lines");
+    Require(lines[index].starts_with('<'), "a pitch begins with its mark");
+    CheckValue(lines[index], "<>", 1, tone.pitch_hz);
+    CheckValue(lines[index + 1], "\\", 0, tone.duration_ms);
+  }
+}
+
 std::string Written(const ToneProgram& program) {
   std::string bytes = "%valid%\r\n[info]\r\n{236}\r\n\r\n";
   bytes += program.hidden_flag == 1 ? "{invisible}" : "{visible}";
@@ -220,6 +252,7 @@ void CheckFile(std::string_view bytes) {
   CheckFindings(read.findings, lines);
   CheckProgramItself(read.program);
   CheckLength(read.program);
+  if (!read.given_up) CheckValues(read.program, lines);
   const auto count = static_cast<std::int32_t>(lines.size());
   Require(read.lines == std::min(count, kTableLines), "lines that were read");
   Require(read.given_up == (count > kTableLines), "too many lines are given up");
