@@ -81,7 +81,7 @@ void Form9::Parse() {
   });
 }
 
-void Form9::Tell(const std::vector<Finding>& findings) {
+void Form9::Tell(std::span<const Finding> findings) {
   for (const Finding& finding : findings) {
     if (finding.report == Report::kVersion) {
       lowFile();

@@ -11,9 +11,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "base/sound_mode.h"
 #include "platform/platform.h"
@@ -72,7 +72,7 @@ class Form9 : public ui::Window {
   std::unique_ptr<platform::InputFile> OpenFile();
   bool ReadLines();
   void Parse();
-  void Tell(const std::vector<Finding>& findings);
+  void Tell(std::span<const Finding> findings);
   void IllFile();
   void lowFile();
   void CloseAfterLoading();

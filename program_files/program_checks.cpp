@@ -1,7 +1,6 @@
 #include "program_files/program_checks.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "base/numbers.h"
@@ -39,7 +38,8 @@ std::size_t ColumnOfValue(std::string_view line, std::string_view markers) {
 
 }  // namespace
 
-std::vector<Finding> ProgramChecks::CheckHead() {
+std::span<const Finding> ProgramChecks::CheckHead() {
+  const std::size_t before = findings_.size();
   state_.position = 1;
   ExpectText("valid", "%", Expected::kValid);
   state_.position = 2;
@@ -57,7 +57,7 @@ std::vector<Finding> ProgramChecks::CheckHead() {
   ExpectText("[sound]", "", Expected::kSound);
   state_.position = 7;
   Store(0, "{}", Expected::kExtraTime, program_.extra_time_ms);
-  return std::exchange(findings_, {});
+  return std::span(findings_).subspan(before);
 }
 
 void ProgramChecks::CheckVisibility() {
@@ -78,14 +78,15 @@ void ProgramChecks::BeginEntries(std::int32_t lines_in_file) {
   state_.entry_index = 1;
 }
 
-std::vector<Finding> ProgramChecks::CheckEntry() {
+std::span<const Finding> ProgramChecks::CheckEntry() {
+  const std::size_t before = findings_.size();
   if (Line().starts_with('<')) {
     CheckEntryLines();
   } else {
     Fail(Expected::kPitchMark, Line(), 1);
   }
   ++state_.position;
-  return std::exchange(findings_, {});
+  return std::span(findings_).subspan(before);
 }
 
 void ProgramChecks::CheckEntryLines() {
@@ -105,6 +106,7 @@ std::string ProgramChecks::WithoutMarker(std::int16_t position, char marker) con
 }
 
 std::string ProgramChecks::Clean(std::string_view markers) {
+  if (Line().find_first_of(markers) == std::string::npos) return Line();
   std::string line = Line();
   for (const char marker : markers) {
     state_.lines[state_.position] = WithoutMarker(state_.position, marker);
@@ -146,13 +148,10 @@ const std::string& ProgramChecks::Line() const {
 std::vector<Finding> CheckProgram(ParseState& state, ToneProgram& program,
                                   std::int32_t lines_in_file) {
   ProgramChecks checks(state, program);
-  std::vector<Finding> findings = checks.CheckHead();
+  checks.CheckHead();
   checks.BeginEntries(lines_in_file);
-  while (checks.HasEntry()) {
-    std::vector<Finding> more = checks.CheckEntry();
-    std::move(more.begin(), more.end(), std::back_inserter(findings));
-  }
-  return findings;
+  while (checks.HasEntry()) checks.CheckEntry();
+  return checks.TakeFindings();
 }
 
 }  // namespace program_files

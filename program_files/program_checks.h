@@ -10,9 +10,12 @@
 // (program_files/program_reader.h), which is made of these steps.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/errors.h"
@@ -64,8 +67,8 @@ class ProgramChecks {
   // Works on `state`, whose lines are filled in, and fills `program`.
   ProgramChecks(ParseState& state, ToneProgram& program) : state_(state), program_(program) {}
 
-  // Lines 1 to 7.
-  std::vector<Finding> CheckHead();
+  // Lines 1 to 7. What a step returns are its own findings; they stay until the next step.
+  std::span<const Finding> CheckHead();
 
   // Throws base::RuntimeError kOverflow when the line count leaves 16 bits.
   void BeginEntries(std::int32_t lines_in_file);
@@ -75,7 +78,10 @@ class ProgramChecks {
 
   // The entry at the position, or one line that begins none. Throws base::RuntimeError
   // kSubscriptOutOfRange beyond the table.
-  std::vector<Finding> CheckEntry();
+  std::span<const Finding> CheckEntry();
+
+  // Of all steps so far.
+  std::vector<Finding> TakeFindings() { return std::move(findings_); }
 
  private:
   void CheckVisibility();
@@ -93,7 +99,7 @@ class ProgramChecks {
   ParseState& state_;
   ToneProgram& program_;
   std::int32_t lines_in_file_ = 0;
-  std::vector<Finding> findings_;  // of the current step
+  std::vector<Finding> findings_;
 };
 
 // All the checks of lines that are filled in, for a file of `lines_in_file` lines; returns the

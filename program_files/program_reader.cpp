@@ -17,6 +17,10 @@ Finding TooMuch(std::int32_t line, Expected expected, std::string_view found) {
 }
 
 void MoveInto(std::vector<Finding>& all, std::vector<Finding> more) {
+  if (all.empty()) {
+    all = std::move(more);
+    return;
+  }
   std::move(more.begin(), more.end(), std::back_inserter(all));
 }
 
@@ -30,18 +34,18 @@ FirstPass::Step FirstPass::ReadLine() {
     if (error.code() != base::ErrorCode::kOutOfMemory) throw;
     return {Progress::kGivenUp, {TooMuch(lines_read_ + 1, Expected::kLessText, "")}};
   }
-  return line ? TakeLine(*line) : Step{Progress::kDone, {}};
+  return line ? TakeLine(*std::move(line)) : Step{Progress::kDone, {}};
 }
 
-FirstPass::Step FirstPass::TakeLine(const std::string& line) {
+FirstPass::Step FirstPass::TakeLine(std::string line) {
   // The table is full.
   if (lines_read_ == kLastIndex) return {Progress::kGivenUp, {}};
   ++lines_read_;
-  lines_[lines_read_] = decode_(line);
   Step step{Progress::kGoesOn, {}};
   if (lines_read_ > kMostLines) {
     step.findings.push_back(TooMuch(lines_read_, Expected::kFewerLines, line));
   }
+  lines_[lines_read_] = decode_(std::move(line));
   return step;
 }
 
@@ -52,7 +56,7 @@ std::int32_t SecondPass(base::ByteSource& file) {
 ReadProgram ReadToneProgram(base::ByteSource& bytes) {
   ReadProgram result;
   ParseState state;
-  FirstPass first(bytes, state.lines, [](std::string_view line) { return std::string(line); });
+  FirstPass first(bytes, state.lines, [](std::string line) { return line; });
   auto progress = FirstPass::Progress::kGoesOn;
   while (progress == FirstPass::Progress::kGoesOn) {
     FirstPass::Step step = first.ReadLine();

@@ -31,7 +31,7 @@ class FirstPass {
     Progress progress;
     std::vector<Finding> findings;
   };
-  using Decode = std::function<std::string(std::string_view)>;
+  using Decode = std::function<std::string(std::string)>;
 
   // Fills `lines` from index 1 on with what `decode` makes of the lines.
   FirstPass(base::ByteSource& file, Table<std::string>& lines, Decode decode)
@@ -43,7 +43,7 @@ class FirstPass {
   std::int16_t LinesRead() const { return lines_read_; }
 
  private:
-  Step TakeLine(const std::string& line);
+  Step TakeLine(std::string line);
 
   LineReader reader_;
   Table<std::string>& lines_;

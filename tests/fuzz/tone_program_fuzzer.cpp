@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,30 +40,26 @@ std::size_t TextOf(const Lines& lines) {
   return text;
 }
 
-// Whether reading yields just these lines; `most_bytes` is what may be handed out.
-bool Yields(BytesFile file, std::size_t most_bytes, const Lines& lines) {
-  LineReader reader(file, most_bytes);
-  for (const std::string_view line : lines) {
-    if (reader.Next() != line) return false;
-  }
-  return !reader.Next();
-}
-
-bool HandsOut(BytesFile file, std::size_t most_bytes) {
-  LineReader reader(file, most_bytes);
+// Reads with one byte less than all the text may be: every line but one that holds the last byte.
+void CheckLimit(std::string_view bytes, const Lines& lines) {
+  const std::size_t text = TextOf(lines);
+  if (text == 0) return;
+  BytesFile file(bytes);
+  LineReader reader(file, text - 1);
+  auto line = lines.begin();
   try {
-    while (reader.Next()) continue;
+    while (const auto next = reader.Next()) {
+      Require(line != lines.end() && *next == *line, "the lines are those between the line ends");
+      ++line;
+    }
+    Require(false, "no more text than may be");
   } catch (const base::RuntimeError& error) {
     Require(error.code() == base::ErrorCode::kOutOfMemory, "too much text is an error of its own");
-    return false;
   }
-  return true;
+  Require(TextOf(Lines(line + 1, lines.end())) == 0, "as much text as may be");
 }
 
-void CheckLines(std::string_view bytes, const Lines& lines) {
-  const std::size_t text = TextOf(lines);
-  Require(Yields(BytesFile(bytes), text, lines), "the lines are those between the line ends");
-  Require(text == 0 || !HandsOut(BytesFile(bytes), text - 1), "no more text than may be");
+void CheckCounting(std::string_view bytes, const Lines& lines) {
   const auto count = static_cast<std::int32_t>(lines.size());
   base::BytesInMemory again(bytes);
   Require(SecondPass(again) == count, "both passes see as many lines");
@@ -117,6 +114,37 @@ void CheckFindings(const std::vector<Finding>& findings, const Lines& lines) {
   }
 }
 
+// The number of a line that holds nothing but markers and one to nine digits.
+std::optional<std::int32_t> PlainNumber(std::string_view line, std::string_view markers) {
+  std::string digits;
+  for (const char c : line) {
+    if (markers.find(c) == std::string_view::npos) digits += c;
+  }
+  const bool plain =
+      std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
+  if (digits.empty() || digits.size() > 9 || !plain) return std::nullopt;
+  return std::stoi(digits);
+}
+
+void CheckValue(std::string_view line, std::string_view markers, std::int32_t above,
+                std::int16_t value) {
+  const auto number = PlainNumber(line, markers);
+  if (!number) return;
+  const bool passes = *number > above && *number <= kLargestValue;
+  Require(value == (passes ? *number : 0), "a plain number within its limits is the value");
+}
+
+void CheckValues(const ToneProgram& program, const Lines& lines) {
+  if (lines.size() >= 7) CheckValue(lines[6], "{}", 0, program.extra_time_ms);
+  for (const Tone& tone : program.tones) {
+    const auto index = static_cast<std::size_t>(tone.line) - 1;
+    Require(index + 1 < lines.size(), "a tone has its lines");
+    Require(lines[index].starts_with('<'), "a pitch begins with its mark");
+    CheckValue(lines[index], "<>", 1, tone.pitch_hz);
+    CheckValue(lines[index + 1], "\\", 0, tone.duration_ms);
+  }
+}
+
 std::string Written(const ToneProgram& program) {
   std::string bytes = "%valid%\r\n[info]\r\n{236}\r\n\r\n";
   bytes += program.hidden_flag == 1 ? "{invisible}" : "{visible}";
@@ -155,17 +183,24 @@ void CheckLength(const ToneProgram& program) {
   Require(std::abs(10 * frames - 441 * length_ms) <= 5, "within half a frame of its length");
 }
 
-ParseState Filled(const Lines& lines) {
+// The first pass in pieces, down to a byte, yet no endless reading.
+ParseState ReadInPieces(std::string_view bytes, const Lines& lines) {
   ParseState state;
-  for (std::int16_t index = 1; index <= std::ssize(lines) && index <= kLastIndex; ++index) {
-    state.lines[index] = lines[static_cast<std::size_t>(index) - 1];
+  BytesFile file(bytes, 1 + bytes.size() / 64);
+  FirstPass pass(file, state.lines, [](std::string line) { return line; });
+  while (pass.ReadLine().progress == FirstPass::Progress::kGoesOn) continue;
+  Require(pass.LinesRead() == std::min<std::ptrdiff_t>(std::ssize(lines), kTableLines),
+          "the lines do not depend on the reads' size");
+  const Table<std::string>& table = state.lines;
+  for (std::int16_t index = 1; index <= pass.LinesRead(); ++index) {
+    Require(table[index] == lines[static_cast<std::size_t>(index) - 1], "nor does their text");
   }
   return state;
 }
 
 // The steps, for a file that has any number of lines by the second pass.
-void CheckChangedFile(const Lines& lines, std::int32_t lines_in_file) {
-  ParseState state = Filled(lines);
+void CheckChangedFile(std::string_view bytes, const Lines& lines, std::int32_t lines_in_file) {
+  ParseState state = ReadInPieces(bytes, lines);
   ToneProgram program;
   try {
     const std::vector<Finding> findings = CheckProgram(state, program, lines_in_file);
@@ -194,19 +229,6 @@ std::int32_t OtherCount(std::int32_t count) {
   }
 }
 
-// The first pass in pieces, down to a byte, yet no endless reading.
-ParseState ReadInPieces(std::string_view bytes, const Lines& lines) {
-  ParseState state;
-  BytesFile file(bytes, 1 + bytes.size() / 64);
-  FirstPass pass(file, state.lines, [](std::string_view line) { return std::string(line); });
-  while (pass.ReadLine().progress == FirstPass::Progress::kGoesOn) continue;
-  Require(pass.LinesRead() == std::ssize(lines), "the lines do not depend on the reads' size");
-  for (std::int16_t index = 1; index <= pass.LinesRead(); ++index) {
-    Require(state.lines[index] == lines[static_cast<std::size_t>(index) - 1], "nor their text");
-  }
-  return state;
-}
-
 // The steps of a file that has not changed, beside the one call.
 void CheckAgreement(std::string_view bytes, const Lines& lines, const ReadProgram& read) {
   ParseState state = ReadInPieces(bytes, lines);
@@ -224,16 +246,22 @@ void CheckAgreement(std::string_view bytes, const Lines& lines, const ReadProgra
 
 void CheckFile(std::string_view bytes) {
   const Lines lines = PlainlySplit(bytes);
-  CheckLines(bytes, lines);
+  CheckLimit(bytes, lines);
+  CheckCounting(bytes, lines);
   const ReadProgram read = ReadToneProgram(bytes);
   CheckFindings(read.findings, lines);
   CheckProgramItself(read.program);
   CheckLength(read.program);
+  if (!read.given_up) CheckValues(read.program, lines);
   const auto count = static_cast<std::int32_t>(lines.size());
   Require(read.lines == std::min(count, kTableLines), "lines that were read");
   Require(read.given_up == (count > kTableLines), "too many lines are given up");
-  CheckChangedFile(lines, OtherCount(count));
-  if (!read.given_up) CheckAgreement(bytes, lines, read);
+  // One or the other, for speed; every mutation of a byte more or less changes sides.
+  if (read.given_up || bytes.size() % 2 == 0) {
+    CheckChangedFile(bytes, lines, OtherCount(count));
+  } else {
+    CheckAgreement(bytes, lines, read);
+  }
   if (read.findings.empty()) CheckLegalProgram(read.program, count);
 }
 

@@ -37,12 +37,12 @@ std::optional<std::size_t> ContentOf(std::string_view image, std::string_view na
   return std::nullopt;
 }
 
-std::size_t FrameOf(const platform::WaveFormat& format) {
+std::size_t FrameOf(const base::WaveFormat& format) {
   return static_cast<std::size_t>(format.channels) *
          static_cast<std::size_t>(format.bits_per_sample) / 8;
 }
 
-void CheckFormat(const platform::WaveFormat& format, std::string_view image) {
+void CheckFormat(const base::WaveFormat& format, std::string_view image) {
   const auto begin = ContentOf(image, "fmt ");
   Require(begin && *begin + 16 <= image.size(), "there is a format");
   Require(Number(image, *begin, 2) == 1, "it is PCM");
@@ -78,7 +78,7 @@ SampleBuffer SamplesOf(const WaveFile& wave) {
 }
 
 void CheckWrittenAgain(const WaveFile& wave) {
-  const platform::WaveFormat& format = wave.format;
+  const base::WaveFormat& format = wave.format;
   const std::int64_t bits_per_second =
       std::int64_t{format.sample_rate} * format.channels * format.bits_per_sample;
   try {

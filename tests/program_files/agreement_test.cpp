@@ -37,7 +37,7 @@ class AgreementTest : public PlayerTest {
   static void ExpectStepsToAgree(const std::string& bytes) {
     ParseState state;
     BytesFile file(bytes, 7);
-    FirstPass pass(file, state.lines, [](std::string_view line) { return std::string(line); });
+    FirstPass pass(file, state.lines, [](std::string line) { return line; });
     std::vector<Finding> findings;
     FirstPass::Step step{FirstPass::Progress::kGoesOn, {}};
     while (step.progress == FirstPass::Progress::kGoesOn) {
