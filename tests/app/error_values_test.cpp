@@ -160,7 +160,7 @@ TEST_F(ErrorValueTest, TerminateReportsUnder105WhatTheUploadCannotReport) {
   FailTheNextReports(2);
   sim.At(std::chrono::milliseconds(sim.pump.now_ms()) + 1s,
          [this] { program->form6.Command1.Click(); });
-  base::MainState state;
+  settings::MainState state;
   EXPECT_TRUE(RunTerminate(state));
   EXPECT_EQ(FirstLine(), "Error number:  6,   Error value:  105");
 }

@@ -255,19 +255,6 @@ TEST_F(PlayerTest, ExitUnloadsTheMainWindowBeforeTheProcessEnds) {
             (Lines{"delete C:\\Temp\\tnftmp.wav", "stop 0x2", "end"}));
 }
 
-TEST_F(PlayerTest, AnInvisibleFileShowsNoWindowAndTheProgramEndsAfterTheLastTone) {
-  for (const char* mode : {"16", "32", "64", "128", "256"}) {
-    sim.journal.Clear();
-    EXPECT_TRUE(Open(Invisible(ProgramWith(kTwo)), mode));
-    EXPECT_EQ(PitchesShown(), (Lines{"440", "880"})) << mode;
-    for (const std::string& text : sim.journal.Texts({Kind::kWindow})) {
-      EXPECT_FALSE(text.ends_with("shown")) << text;
-    }
-    EXPECT_EQ(sim.journal.entries().back().text, "end");
-    EXPECT_TRUE(sim.processes.running.empty());
-  }
-}
-
 TEST_F(PlayerTest, LoadingUnloadsTheNewsWindow) {
   sim.files.Put("C:\\a.tnf", FileOf(ProgramWith(kTwo)));
   bool loaded_later = true;
