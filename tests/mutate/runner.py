@@ -1,0 +1,158 @@
+"""Builds the tests in a scratch copy of the project and runs them against one mutation at a time.
+
+A mutated file is compiled to an object of its own and linked in place of the original, so the copy
+never changes and mutations can be tried side by side.
+"""
+
+import json
+import os
+import re
+import resource
+import shlex
+import shutil
+import subprocess
+import time
+from dataclasses import dataclass
+from pathlib import Path
+
+PROGRAM = "portable_tests"
+MOST_MEMORY = 4 << 30  # bytes; a loop that a mutation made endless may fill it
+
+
+def link_with(command, source, changed, output):
+    """The link command with the object `changed` in place of the one of `source`."""
+    parts = list(command)
+    parts[parts.index("-o") + 1] = output
+    own = [i for i, part in enumerate(parts) if part.endswith("/" + source + ".o")]
+    if own:
+        parts[own[0]] = changed
+    else:
+        # What is already defined is not taken from a library.
+        first = next(i for i, part in enumerate(parts) if part.endswith(".a") or part[:2] == "-l")
+        parts.insert(first, changed)
+    return parts
+
+
+def first_failure(output):
+    """The test that noticed, from what the test program printed."""
+    failed = re.search(r"^\[  FAILED  \] ([\w/]+\.[\w/]+)", output, re.MULTILINE)
+    if failed:
+        return failed.group(1)
+    begun = re.findall(r"^\[ RUN      \] ([\w/]+\.[\w/]+)", output, re.MULTILINE)
+    return f"{begun[-1]} (ended)" if begun else "(ended)"
+
+
+@dataclass
+class Result:
+    outcome: str  # killed, survived, stillborn (does not compile)
+    by: str = ""
+    seconds: float = 0.0
+
+
+class Project:
+    """A scratch copy of the project, its tests built without sanitizers."""
+
+    def __init__(self, root, work):
+        self.source = Path(work) / "source"
+        self.build = Path(work) / "build"
+        self.root = Path(root)
+
+    def prepare(self, jobs):
+        self._copy()
+        configure = ["cmake", "-S", str(self.source), "-B", str(self.build),
+                     "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0",
+                     "-DTONMIRA_TESTS=ON"]
+        subprocess.run(configure, check=True, stdout=subprocess.DEVNULL)
+        subprocess.run(["cmake", "--build", str(self.build), "--target", PROGRAM, "-j", str(jobs)],
+                       check=True, stdout=subprocess.DEVNULL)
+        commands = json.loads((self.build / "compile_commands.json").read_text())
+        self.commands = {}
+        for entry in commands:
+            path = os.path.relpath(entry["file"], self.source)
+            self.commands.setdefault(path, (entry["directory"], shlex.split(entry["command"])))
+        link_file = next(self.build.rglob(f"{PROGRAM}.dir/link.txt"))
+        self.link_folder = link_file.parent.parent.parent
+        self.link_command = shlex.split(link_file.read_text().splitlines()[0])
+
+    def _copy(self):
+        """What git knows or would add; a file that is unchanged keeps its time."""
+        listed = subprocess.run(
+            ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+            cwd=self.root, check=True, capture_output=True, text=True).stdout
+        wanted = [name for name in listed.split("\0") if name and (self.root / name).is_file()]
+        for old in [p for p in self.source.rglob("*") if p.is_file()]:
+            if str(old.relative_to(self.source)) not in wanted:
+                old.unlink()
+        for name in wanted:
+            old, new = self.source / name, self.root / name
+            if old.exists() and old.read_bytes() == new.read_bytes():
+                continue
+            old.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copyfile(new, old)
+
+    def suites(self, room):
+        """The names of the test suites of a room."""
+        names = set()
+        for path in (self.source / "tests" / room).glob("*_test.cpp"):
+            names |= set(re.findall(r"^TEST(?:_F|_P)?\((\w+),", path.read_text(), re.MULTILINE))
+        return sorted(names)
+
+    def filters(self, room):
+        """Filters of the room's own tests, then of all the others."""
+        own = [f"{name}.*:*/{name}.*" for name in self.suites(room)]
+        return [":".join(own), "-" + ":".join(own)] if own else ["*"]
+
+    def baseline(self, room):
+        """How long each of the room's filters takes without a mutation; all tests must pass."""
+        seconds = []
+        program = self.link_folder / PROGRAM
+        for tests in self.filters(room):
+            begin = time.monotonic()
+            done = self._run(program, tests, 600)
+            if done.returncode != 0:
+                raise RuntimeError(f"fails without a mutation: {first_failure(done.stdout)}")
+            seconds.append(time.monotonic() - begin)
+        return seconds
+
+    def _run(self, program, tests, limit):
+        def limits():
+            resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+        return subprocess.run([str(program), f"--gtest_filter={tests}", "--gtest_fail_fast"],
+                              cwd=self.link_folder, preexec_fn=limits, timeout=limit,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              stdin=subprocess.DEVNULL, text=True, errors="replace")
+
+    def try_out(self, mutation, room, baseline, folder):
+        """Builds the tests with one mutation and runs them until one fails."""
+        begin = time.monotonic()
+        folder.mkdir(parents=True, exist_ok=True)
+        program = folder / "mutant"
+        if not self._build(mutation, folder, program):
+            return Result("stillborn", "", time.monotonic() - begin)
+        for tests, usual in zip(self.filters(room), baseline):
+            try:
+                done = self._run(program, tests, 20 + 5 * usual)
+            except subprocess.TimeoutExpired as over:
+                output = (over.stdout or b"").decode(errors="replace")
+                by = first_failure(output).removesuffix(" (ended)") + " (never ends)"
+                return Result("killed", by, time.monotonic() - begin)
+            if done.returncode != 0:
+                return Result("killed", first_failure(done.stdout), time.monotonic() - begin)
+        return Result("survived", "", time.monotonic() - begin)
+
+    def _build(self, mutation, folder, program):
+        original = self.source / mutation.path
+        changed = folder / original.name
+        changed.write_text(mutation.apply(original.read_text()))
+        directory, command = self.commands[mutation.path]
+        parts = [part for part in command if part != "-Werror"]
+        parts[parts.index("-o") + 1] = str(folder / "mutant.o")
+        parts[parts.index(str(original))] = str(changed)
+        parts.append("-w")
+        if subprocess.run(parts, cwd=directory, capture_output=True, check=False).returncode != 0:
+            return False
+        link = link_with(self.link_command, mutation.path, str(folder / "mutant.o"), str(program))
+        return subprocess.run(link, cwd=self.link_folder, capture_output=True,
+                              check=False).returncode == 0
