@@ -15,7 +15,7 @@ found so stand in equivalent.txt with the reason, each as the line as it would r
 import argparse
 import random
 import sys
-from concurrent.futures import ThreadPoolExecutor
+from concurrent.futures import ThreadPoolExecutor, as_completed
 from pathlib import Path
 
 import mutations
@@ -59,10 +59,10 @@ def known_equivalents():
 
 
 class Run:
-    def __init__(self, project, rooms, jobs):
+    def __init__(self, project, jobs):
         self.project = project
         self.jobs = jobs
-        self.baselines = {room: project.baseline(room) for room in rooms}
+        self.baseline = project.baseline()
         self.known = known_equivalents()
         self.results = []
 
@@ -77,7 +77,7 @@ class Run:
                 mutation = first
                 while True:
                     room = room_of(mutation.path)
-                    result = self.project.try_out(mutation, room, self.baselines[room], folder)
+                    result = self.project.try_out(mutation, room, self.baseline, folder)
                     if result.outcome != "stillborn" or not spare:
                         return mutation, result
                     mutation = spare.pop(0)
@@ -85,8 +85,8 @@ class Run:
                 folders.append(folder)
 
         with ThreadPoolExecutor(self.jobs) as pool:
-            for mutation, result in pool.map(work, tasks):
-                self._note(mutation, result)
+            for done in as_completed([pool.submit(work, task) for task in tasks]):
+                self._note(*done.result())
 
     def _note(self, mutation, result):
         if result.outcome == "survived" and (
@@ -134,10 +134,11 @@ def main():
                                          random.Random(chosen_options.seed))
         tasks = [(m, spare[room][i::len(chosen[room])])
                  for room in chosen for i, m in enumerate(chosen[room])]
+        random.Random(chosen_options.seed).shuffle(tasks)
     if chosen_options.list:
         print("\n".join(mutation.name for mutation, _ in tasks))
         return 0
-    run = Run(project, sorted({room_of(m.path) for m, _ in tasks}), chosen_options.jobs)
+    run = Run(project, chosen_options.jobs)
     run.try_all(tasks)
     print(run.summary())
     return 1 if any(r.outcome == "survived" for _, r in run.results) else 0

@@ -10,6 +10,7 @@ import re
 import resource
 import shlex
 import shutil
+import signal
 import subprocess
 import time
 from dataclasses import dataclass
@@ -17,6 +18,7 @@ from pathlib import Path
 
 PROGRAM = "portable_tests"
 MOST_MEMORY = 4 << 30  # bytes; a loop that a mutation made endless may fill it
+LONGEST_WAIT = 1800  # seconds; a test that a mutation made wait for ever takes no processor time
 
 
 def link_with(command, source, changed, output):
@@ -102,27 +104,31 @@ class Project:
         own = [f"{name}.*:*/{name}.*" for name in self.suites(room)]
         return [":".join(own), "-" + ":".join(own)] if own else ["*"]
 
-    def baseline(self, room):
-        """How long each of the room's filters takes without a mutation; all tests must pass."""
-        seconds = []
-        program = self.link_folder / PROGRAM
-        for tests in self.filters(room):
-            begin = time.monotonic()
-            done = self._run(program, tests, 600)
-            if done.returncode != 0:
-                raise RuntimeError(f"fails without a mutation: {first_failure(done.stdout)}")
-            seconds.append(time.monotonic() - begin)
-        return seconds
+    def baseline(self):
+        """The processor time of all tests without a mutation, in seconds; all must pass."""
+        before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
+        code, output = self._run(self.link_folder / PROGRAM, "*", 600)
+        if code != 0:
+            raise RuntimeError(f"fails without a mutation: {first_failure(output)}")
+        return resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
 
     def _run(self, program, tests, limit):
+        """(exit code, output); ended after `limit` seconds of processor time, however long a busy
+        machine takes for them."""
         def limits():
             resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
+            resource.setrlimit(resource.RLIMIT_CPU, (limit, limit + 5))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
-        return subprocess.run([str(program), f"--gtest_filter={tests}", "--gtest_fail_fast"],
-                              cwd=self.link_folder, preexec_fn=limits, timeout=limit,
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                              stdin=subprocess.DEVNULL, text=True, errors="replace")
+        command = [str(program), f"--gtest_filter={tests}", "--gtest_fail_fast"]
+        try:
+            done = subprocess.run(command, cwd=self.link_folder, preexec_fn=limits,
+                                  timeout=LONGEST_WAIT, stdout=subprocess.PIPE,
+                                  stderr=subprocess.STDOUT, stdin=subprocess.DEVNULL, text=True,
+                                  errors="replace", check=False)
+            return done.returncode, done.stdout
+        except subprocess.TimeoutExpired as over:
+            return -signal.SIGXCPU, (over.stdout or b"").decode(errors="replace")
 
     def try_out(self, mutation, room, baseline, folder):
         """Builds the tests with one mutation and runs them until one fails."""
@@ -131,15 +137,15 @@ class Project:
         program = folder / "mutant"
         if not self._build(mutation, folder, program):
             return Result("stillborn", "", time.monotonic() - begin)
-        for tests, usual in zip(self.filters(room), baseline):
-            try:
-                done = self._run(program, tests, 20 + 5 * usual)
-            except subprocess.TimeoutExpired as over:
-                output = (over.stdout or b"").decode(errors="replace")
-                by = first_failure(output).removesuffix(" (ended)") + " (never ends)"
-                return Result("killed", by, time.monotonic() - begin)
-            if done.returncode != 0:
-                return Result("killed", first_failure(done.stdout), time.monotonic() - begin)
+        limit = int(20 + 3 * baseline)
+        for tests in self.filters(room):
+            code, output = self._run(program, tests, limit)
+            if code == 0:
+                continue
+            by = first_failure(output)
+            if code == -signal.SIGXCPU:
+                by = by.removesuffix(" (ended)") + " (never ends)"
+            return Result("killed", by, time.monotonic() - begin)
         return Result("survived", "", time.monotonic() - begin)
 
     def _build(self, mutation, folder, program):

@@ -107,8 +107,12 @@ INSTANTIATE_TEST_SUITE_P(
         ContinuousRoute{"SoundWinmmRND", [](auto& f) { Routes(f).Winmm().SoundWinmmRND(440); },
                         100},
         ContinuousRoute{"SoundWinmm", [](auto& f) { Routes(f).Winmm().SoundWinmm(440, "3"); }, 100},
-        ContinuousRoute{"LowToHigh16", [](auto& f) { Routes(f).Helpers().LowToHigh("16"); }, 200},
-        ContinuousRoute{"LowToHigh32", [](auto& f) { Routes(f).Helpers().LowToHigh("32"); }, 200},
+        ContinuousRoute{"LowToHigh16",
+                        [](auto& f) { Routes(f).Helpers().LowToHigh(base::SoundMode::kClassic); },
+                        200},
+        ContinuousRoute{"LowToHigh32",
+                        [](auto& f) { Routes(f).Helpers().LowToHigh(base::SoundMode::kSound32); },
+                        200},
         ContinuousRoute{"SoundWinmmLTH", [](auto& f) { Routes(f).Winmm().SoundWinmmLTH(); }, 75}),
     [](const auto& route) { return route.param.name; });
 
