@@ -4,7 +4,7 @@
 namespace program_files {
 namespace {
 
-const Tones kTwo{{440, 500}, {880, 250}};
+const Tones kTwoTones{{440, 500}, {880, 250}};
 
 struct InvisibleCase {
   std::string sound_mode;
@@ -27,7 +27,7 @@ class InvisibleFileTest : public PlayerTest, public testing::WithParamInterface<
     sim.files.Put(app::kSettings, "AutoUpdate=y\r\nSoundBit=" + GetParam().sound_mode +
                                       "\r\nLanguage=NL\r\nSendData=n\r\nMicrophone=1\r\n"
                                       "MicrophoneON=y\r\n");
-    sim.files.Put(kFile, FileOf(Invisible(ProgramWith(kTwo))));
+    sim.files.Put(kFile, FileOf(Invisible(ProgramWith(kTwoTones))));
     sim.environment.arguments = kFile;
     sim.screen.pixels_per_inch = {GetParam().dpi, GetParam().dpi};
     sim.downloader.answers["https://www.tonmira.example/testcon.dat"] = {"ok"};
