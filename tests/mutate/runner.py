@@ -17,22 +17,20 @@ from dataclasses import dataclass
 from pathlib import Path
 
 PROGRAM = "portable_tests"
+# As the project's own preset for these tests has it; nothing is inlined between files.
+UNITS = ["-DCMAKE_CXX_COMPILER=clang++", "-DCMAKE_UNITY_BUILD=ON",
+         "-DCMAKE_UNITY_BUILD_BATCH_SIZE=0"]
 MOST_MEMORY = 4 << 30  # bytes; a loop that a mutation made endless may fill it
 LONGEST_WAIT = 1800  # seconds; a test that a mutation made wait for ever takes no processor time
 
 
-def link_with(command, source, changed, output):
-    """The link command with the object `changed` in place of the one of `source`."""
+def link_with(command, changed, output):
+    """The link command with what the object `changed` defines in place of the library's own."""
     parts = list(command)
     parts[parts.index("-o") + 1] = output
-    own = [i for i, part in enumerate(parts) if part.endswith("/" + source + ".o")]
-    if own:
-        parts[own[0]] = changed
-    else:
-        # What is already defined is not taken from a library.
-        first = next(i for i, part in enumerate(parts) if part.endswith(".a") or part[:2] == "-l")
-        parts.insert(first, changed)
-    return parts
+    first = next(i for i, part in enumerate(parts) if part.endswith(".a") or part[:2] == "-l")
+    # The library's object may hold other files, too; of what both define, the first counts.
+    return parts[:first] + [changed] + parts[first:] + ["-Wl,--allow-multiple-definition"]
 
 
 def first_failure(output):
@@ -63,18 +61,26 @@ class Project:
         self._copy()
         configure = ["cmake", "-S", str(self.source), "-B", str(self.build),
                      "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0",
-                     "-DTONMIRA_TESTS=ON"]
+                     "-DTONMIRA_TESTS=ON", *UNITS]
         subprocess.run(configure, check=True, stdout=subprocess.DEVNULL)
         subprocess.run(["cmake", "--build", str(self.build), "--target", PROGRAM, "-j", str(jobs)],
                        check=True, stdout=subprocess.DEVNULL)
-        commands = json.loads((self.build / "compile_commands.json").read_text())
-        self.commands = {}
-        for entry in commands:
-            path = os.path.relpath(entry["file"], self.source)
-            self.commands.setdefault(path, (entry["directory"], shlex.split(entry["command"])))
+        self._read_commands()
         link_file = next(self.build.rglob(f"{PROGRAM}.dir/link.txt"))
         self.link_folder = link_file.parent.parent.parent
         self.link_command = shlex.split(link_file.read_text().splitlines()[0])
+
+    def _read_commands(self):
+        """How each source file is compiled: as the unit that it is part of."""
+        self.commands = {}
+        for entry in json.loads((self.build / "compile_commands.json").read_text()):
+            unit = Path(entry["file"])
+            files = [unit]
+            if unit.suffix == ".cxx":
+                files = [Path(name) for name in re.findall(r'#include "(.*)"', unit.read_text())]
+            for path in files:
+                self.commands.setdefault(os.path.relpath(path, self.source), (
+                    entry["directory"], shlex.split(entry["command"]), str(unit)))
 
     def _copy(self):
         """What git knows or would add; a file that is unchanged keeps its time."""
@@ -152,13 +158,13 @@ class Project:
         original = self.source / mutation.path
         changed = folder / original.name
         changed.write_text(mutation.apply(original.read_text()))
-        directory, command = self.commands[mutation.path]
+        directory, command, unit = self.commands[mutation.path]
         parts = [part for part in command if part != "-Werror"]
         parts[parts.index("-o") + 1] = str(folder / "mutant.o")
-        parts[parts.index(str(original))] = str(changed)
+        parts[parts.index(unit)] = str(changed)
         parts.append("-w")
         if subprocess.run(parts, cwd=directory, capture_output=True, check=False).returncode != 0:
             return False
-        link = link_with(self.link_command, mutation.path, str(folder / "mutant.o"), str(program))
+        link = link_with(self.link_command, str(folder / "mutant.o"), str(program))
         return subprocess.run(link, cwd=self.link_folder, capture_output=True,
                               check=False).returncode == 0
