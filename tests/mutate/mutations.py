@@ -85,7 +85,8 @@ def _conditions_and_calls(source, tokens):
             opening = source.find("(", token.end())
             closing = _closing(source, opening)
             inside = source[opening + 1:closing] if closing else ""
-            if closing and ";" not in inside and not re.match(r"(const )?(auto|\w+\*)\b.* = ", inside):
+            declares = re.match(r"(const )?(auto|\w+\*)\b.* = ", inside)
+            if closing and ";" not in inside and not declares:
                 yield opening + 1, closing, f"!({inside})", "condition"
         if previous in (None, ";", "{", "}", ")", "else", "do") and text not in KEYWORDS:
             call = CALL.match(source, token.start())
