@@ -121,7 +121,8 @@ void Form1::PlayTone(Program& program, sound& tone, ToneKind kind, std::int16_t 
 
 void Form1::WaitTick() {
   const auto ends = [this] { return PlayingEnds(); };
-  platform_.pump.ProcessPending(ends);
+  // What follows a stop is for the outermost loop: a play from here would run within this one.
+  if (!ends()) platform_.pump.ProcessPending(ends);
   ExFunctions(context_).Pause(kPlayTickMs, ends);
 }
 

@@ -54,6 +54,7 @@ class FakeDownload : public RunningDownload {
 std::unique_ptr<RunningDownload> FakeDownloader::Begin(const std::string& link,
                                                        const std::string& path,
                                                        std::size_t most_bytes) {
+  if (!can_begin) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
   journal_.Add(Kind::kDownload, "download " + link + " to " + path);
   Answer answer = answers[link];
   const std::size_t size = answer.content ? answer.content->size() : 0;

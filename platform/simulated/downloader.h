@@ -27,6 +27,7 @@ class FakeDownloader : public Downloader {
       : journal_(journal), files_(files), pump_(pump) {}
 
   std::map<std::string, Answer> answers;  // by address
+  bool can_begin = true;                  // false: no download can even begin
 
   std::unique_ptr<RunningDownload> Begin(const std::string& link, const std::string& path,
                                          std::size_t most_bytes) override;

@@ -93,7 +93,7 @@ void FakeProcesses::Begin(const std::string& command, const std::string& how) {
 }
 
 void FakeWavePlayer::Play(const std::string& path, std::uint32_t flags) {
-  playing = path;
+  playing = files_.Exists(path) ? path : "";
   journal_.Add(Kind::kSound, "play " + path + " " + Hexadecimal(flags));
 }
 
@@ -106,6 +106,14 @@ void FakeBeeper::Beep(int pitch_hz, int duration_ms) {
   journal_.Add(Kind::kSound,
                "beep " + std::to_string(pitch_hz) + " " + std::to_string(duration_ms));
   pump_.Sleep(duration_ms);
+}
+
+FakeScreen::PixelsPerInch FakeScreen::LogicalPixelsPerInch() {
+  if (failing_queries > 0) {
+    --failing_queries;
+    throw base::RuntimeError(base::ErrorCode::kDeviceError);
+  }
+  return pixels_per_inch;
 }
 
 VersionRecord FakeVersion::Query() {

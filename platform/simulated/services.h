@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/files.h"
 #include "platform/simulated/journal.h"
 #include "platform/system.h"
 
@@ -78,9 +79,10 @@ class FakeProcesses : public Processes {
   Journal& journal_;
 };
 
+// A file that is not there is silence.
 class FakeWavePlayer : public WavePlayer {
  public:
-  explicit FakeWavePlayer(Journal& journal) : journal_(journal) {}
+  FakeWavePlayer(Journal& journal, FileSystem& files) : journal_(journal), files_(files) {}
 
   std::string playing;  // path of the sound that sounds now, empty in silence
 
@@ -89,6 +91,7 @@ class FakeWavePlayer : public WavePlayer {
 
  private:
   Journal& journal_;
+  FileSystem& files_;
 };
 
 // Blocks for the length of its sound.
@@ -107,8 +110,9 @@ class FakeScreen : public Screen {
  public:
   PixelsPerInch pixels_per_inch{96, 96};
   Size size{1920, 1080};
+  int failing_queries = 0;  // so many queries of the resolution from now throw
 
-  PixelsPerInch LogicalPixelsPerInch() override { return pixels_per_inch; }
+  PixelsPerInch LogicalPixelsPerInch() override;
   Size Pixels() override { return size; }
 };
 

@@ -40,7 +40,7 @@ class Simulation {
   Windows windows{journal};
   VirtualPump pump{journal, [this] { return windows.AnyVisible(); }};
   FakeProcesses processes{journal};
-  FakeWavePlayer waves{journal};
+  FakeWavePlayer waves{journal, files};
   FakeDirectSound direct_sound{journal};
   FakeSoundCapture sound_capture{journal, pump};
   FakeBeeper beeper{journal, pump};

@@ -65,7 +65,7 @@ class FakeCaptureBuffer : public CaptureBuffer {
   }
 
   bool Stop() override {
-    capture().Note("stop");
+    capture().Call(CaptureCall::kStop, "stop");
     SetRunning(false);
     return true;
   }

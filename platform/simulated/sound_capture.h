@@ -16,7 +16,7 @@
 
 namespace platform::simulated {
 
-enum class CaptureCall { kRoot, kDevices, kDevice, kBuffer, kEvent, kPositions, kStart };
+enum class CaptureCall { kRoot, kDevices, kDevice, kBuffer, kEvent, kPositions, kStart, kStop };
 
 class FakeSoundCapture : public SoundCapture {
  public:

@@ -1,5 +1,6 @@
 #include "platform/simulated/windows.h"
 
+#include "base/errors.h"
 #include "ui/progress_bar.h"
 #include "ui/window.h"
 
@@ -66,23 +67,23 @@ std::string Describe(const ui::MenuItem& item, ui::Property property) {
 class JournalView : public ui::WindowView {
  public:
   JournalView(Windows& windows, ui::Window& window) : windows_(windows), window_(window) {
-    ++windows_.open_views_;
     Note(" loaded");
+    ++windows_.open_views_;
   }
 
   ~JournalView() override {
     windows_.visible_.erase(window_.Name());
     --windows_.open_views_;
-    Note(" unloaded");
+    windows_.journal_.Add(Kind::kWindow, window_.Name() + " unloaded");
   }
 
   void ShowWindow(bool visible) override {
+    Note(visible ? " shown" : " hidden");
     if (visible) {
       windows_.visible_.insert(window_.Name());
     } else {
       windows_.visible_.erase(window_.Name());
     }
-    Note(visible ? " shown" : " hidden");
   }
 
   bool IsShown() const override {
@@ -93,19 +94,16 @@ class JournalView : public ui::WindowView {
   void CaptionChanged() override { Note(" caption: " + window_.Caption()); }
 
   void Changed(const ui::Control& control, ui::Property property) override {
-    windows_.journal_.Add(property == ui::Property::kPicture ? Kind::kPicture : Kind::kControl,
-                          window_.Name() + "." + control.Name() + Describe(control, property));
+    windows_.Tell(property == ui::Property::kPicture ? Kind::kPicture : Kind::kControl,
+                  window_.Name() + "." + control.Name() + Describe(control, property));
   }
 
   void Changed(const ui::MenuItem& item, ui::Property property) override {
-    windows_.journal_.Add(Kind::kControl,
-                          window_.Name() + "." + item.Name() + Describe(item, property));
+    windows_.Tell(Kind::kControl, window_.Name() + "." + item.Name() + Describe(item, property));
   }
 
  private:
-  void Note(const std::string& what) {
-    windows_.journal_.Add(Kind::kWindow, window_.Name() + what);
-  }
+  void Note(const std::string& what) { windows_.Tell(Kind::kWindow, window_.Name() + what); }
 
   Windows& windows_;
   ui::Window& window_;
@@ -113,6 +111,11 @@ class JournalView : public ui::WindowView {
 
 std::unique_ptr<ui::WindowView> Windows::Open(ui::Window& window) {
   return std::make_unique<JournalView>(*this, window);
+}
+
+void Windows::Tell(Kind kind, const std::string& text) {
+  if (refused_.erase(text) != 0) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
+  journal_.Add(kind, text);
 }
 
 }  // namespace platform::simulated

@@ -20,13 +20,20 @@ class Windows : public ui::WindowSystem {
 
   bool AnyVisible() const { return !visible_.empty(); }
 
+  // The system refuses, once, what the journal would tell by `text` ("Form2 loaded",
+  // "Form1.exit checked: yes"): out of memory.
+  void RefuseOnce(const std::string& text) { refused_.insert(text); }
+
   // Windows opened so far and not dropped.
   int open_views() const { return open_views_; }
 
  private:
   friend class JournalView;
 
+  void Tell(Kind kind, const std::string& text);
+
   Journal& journal_;
+  std::set<std::string> refused_;
   std::set<std::string> visible_;
   int open_views_ = 0;
 };

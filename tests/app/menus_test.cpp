@@ -146,6 +146,22 @@ TEST_F(MenusTest, TheSensitivityStaysBetween1And20) {
   Run();
 }
 
+TEST_F(MenusTest, ALevelAsTheButtonsWriteItIsReadBackAtTheNextStart) {
+  sim.files.Put(kSettings,
+                "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=EN\r\nSendData=n\r\nMicrophone= 7\r\n"
+                "MicrophoneON=y\r\n");
+  At(1s, [this](Form1& form1) {
+    EXPECT_EQ(form1.Frame4.Caption(), "Microphone input, sensitivity: 7");
+    form1.Command4.Click();
+    EXPECT_EQ(form1.Frame4.Caption(), "Microphone input, sensitivity: 8");
+    EXPECT_EQ(sim.Lines(kSettings)[4], "Microphone= 8");
+  });
+  EXPECT_FALSE(Run());
+  EXPECT_FALSE(program->form5.Loaded());
+  const Lines entries = LogEntries();
+  EXPECT_EQ(std::count(entries.begin(), entries.end(), "Microphone= 7"), 1);
+}
+
 TEST_F(MenusTest, TheSettingsMenuCannotBeUsedWhileATonePlays) {
   At(1s, [](Form1& form1) {
     form1.Option1.Click();

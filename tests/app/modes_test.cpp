@@ -147,14 +147,15 @@ TEST_F(ModesTest, EnterPlaysOnlyOnceAModeWasChosenAndEscStops) {
   EXPECT_EQ(main().DefaultButton(), &main().Command2);
 }
 
-TEST_F(ModesTest, AFailingModeChoiceIsReportedUnderItsErrorValue) {
+// Its error value is asserted where every handler's is.
+TEST_F(ModesTest, AFailingModeChoiceThatCannotBeWrittenDownEitherEndsTheProgramWithAMessage) {
   sim.At(1s, [this] {
     sim.files.FailWritesIn("C:\\Temp", base::ErrorCode::kDiskFull);
     program->form1.Option2.Click();
   });
   EXPECT_TRUE(Run());
-  // The error log cannot be written either: the error reaches the program's last resort.
   EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '61':\r\n\r\nDisk full"}));
+  EXPECT_FALSE(sim.files.Exists(kErrorLog));
 }
 
 TEST_F(ModesTest, ALogThatCannotBeWrittenOnceOpensTheErrorDialog) {

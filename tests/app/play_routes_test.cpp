@@ -129,6 +129,7 @@ std::ptrdiff_t StackPosition() {
 
 struct Rounds {
   std::string sound_bit;
+  int mode;
   int count;
 };
 
@@ -137,7 +138,8 @@ class QuickRoundsTest : public PlayTest, public testing::WithParamInterface<Roun
 TEST_P(QuickRoundsTest, OfPlayAndStopDoNotDeepenTheStack) {
   sim.files.Put(kSettings, GoodSettings(GetParam().sound_bit));
   std::vector<std::ptrdiff_t> positions;
-  At(1s, [](Form1& form1) { form1.Option1.Click(); });
+  At(1s,
+     [](Form1& form1) { form1.Options()[static_cast<std::size_t>(GetParam().mode - 1)]->Click(); });
   for (int round = 0; round < GetParam().count; ++round) {
     // Stop and the next Play are both waiting when the loop handles messages again.
     At(2s, [&positions](Form1& form1) {
@@ -155,7 +157,8 @@ TEST_P(QuickRoundsTest, OfPlayAndStopDoNotDeepenTheStack) {
 
 // A helper's sound costs nothing here; every round of the player makes a second of samples.
 INSTANTIATE_TEST_SUITE_P(Many, QuickRoundsTest,
-                         testing::Values(Rounds{"16", 10000}, Rounds{"256", 100}));
+                         testing::Values(Rounds{"16", 1, 10000}, Rounds{"256", 1, 100},
+                                         Rounds{"32", 6, 1000}, Rounds{"256", 6, 50}));
 
 TEST_F(PlayTest, TenThousandModeClicksDoNotDeepenTheStack) {
   std::vector<std::ptrdiff_t> positions;

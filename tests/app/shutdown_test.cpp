@@ -27,14 +27,54 @@ TEST_F(ShutdownTest, TheExitMenuClosesTheProgram) {
   EXPECT_TRUE(Run());
 }
 
-TEST_F(ShutdownTest, OpenWindowsAreUnloadedInTheirOrder) {
-  At(1s, [this](Form1& form1) {
-    form1.Command1.Click();
+class OpenWindowsTest : public ProgramTest {
+ protected:
+  void OpenEveryWindow() {
+    const std::initializer_list<ui::Window*> windows{
+        &program->frm_about, &program->form8, &program->form7, &program->form6,
+        &program->form5,     &program->form4, &program->form3, &program->form2};
+    for (ui::Window* window : windows) {
+      window->Show();
+      EXPECT_TRUE(window->Visible()) << window->Name();
+    }
     sim.journal.Clear();
+  }
+};
+
+// The news window takes the status window along.
+const Lines kUnloaded{"Form2 unloaded", "Form8 unloaded", "Form3 unloaded", "Form4 unloaded",
+                      "Form5 unloaded", "Form6 unloaded", "Form7 unloaded", "frmAbout unloaded"};
+
+TEST_F(OpenWindowsTest, AreUnloadedInTheirOrder) {
+  At(1s, [this](Form1& form1) {
+    OpenEveryWindow();
     form1.Close();
   });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(sim.journal.Texts({Kind::kWindow}), (Lines{"Form1 hidden", "Form2 unloaded"}));
+  Lines expected{"Form1 hidden", "Form3 hidden"};
+  expected.insert(expected.end(), kUnloaded.begin(), kUnloaded.end());
+  EXPECT_EQ(sim.journal.Texts({Kind::kWindow}), expected);
+}
+
+TEST_F(OpenWindowsTest, TerminateStopsEverythingAndUnloadsEveryWindow) {
+  settings::MainState state;
+  At(1s, [this, &state](Form1& form1) {
+    form1.Option1.Click();
+    sim.At(1100ms, [this, &state] {
+      EXPECT_EQ(sim.waves.playing, kWave);
+      OpenEveryWindow();
+      EXPECT_TRUE(RunTerminate(state));
+      throw platform::simulated::ProcessEnded{};
+    });
+    form1.Command2.Click();
+  });
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(state.stop_flag, 1);
+  EXPECT_TRUE(sim.waves.playing.empty());
+  EXPECT_FALSE(sim.files.Exists(kWave));
+  Lines expected = kUnloaded;
+  expected.insert(expected.end(), {"Form1 hidden", "end"});
+  EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess}), expected);
 }
 
 class HangingShutdownTest : public ProgramTest {
@@ -74,15 +114,6 @@ TEST_F(ShutdownTest, TheFirstCloseAsksNothing) {
   At(1s, [](Form1& form1) { form1.Close(); });
   EXPECT_TRUE(Run());
   EXPECT_TRUE(Messages().empty());
-}
-
-TEST_F(ShutdownTest, TerminateStopsEverythingAndUnloadsEveryWindow) {
-  Run();
-  sim.journal.Clear();
-  settings::MainState state;
-  EXPECT_TRUE(RunTerminate(state));
-  EXPECT_EQ(state.stop_flag, 1);
-  EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess}), (Lines{"Form1 hidden", "end"}));
 }
 
 TEST_F(ShutdownTest, AProgramThatShowsNoWindowEndsItself) {

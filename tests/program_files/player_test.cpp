@@ -232,19 +232,6 @@ TEST_F(PlayerTest, StopWhileNothingPlaysChangesNothingThatIsHeard) {
   EXPECT_EQ(PitchesShown(), (Lines{"440", "880", "440", "880"}));
 }
 
-TEST_F(PlayerTest, AnInvisibleFileShowsNoWindowAndTheProgramEndsAfterTheLastTone) {
-  for (const char* mode : {"16", "32", "64", "128", "256"}) {
-    sim.journal.Clear();
-    EXPECT_TRUE(Open(Invisible(ProgramWith(kTwo)), mode));
-    EXPECT_EQ(PitchesShown(), (Lines{"440", "880"})) << mode;
-    for (const std::string& text : sim.journal.Texts({Kind::kWindow})) {
-      EXPECT_FALSE(text.ends_with("shown")) << text;
-    }
-    EXPECT_EQ(sim.journal.entries().back().text, "end");
-    EXPECT_TRUE(sim.processes.running.empty());
-  }
-}
-
 TEST_F(PlayerTest, LoadingUnloadsTheNewsWindowBeforeAnythingSounds) {
   int unloaded_by_then = 0;
   sim.At(100ms, [&] { unloaded_by_then = news_unloaded; });

@@ -135,8 +135,15 @@ TEST_F(ErrorNotesTest, NothingIsUploadedWithoutConsent) {
   state.SendData = 0;
   LeaveTheErrorDialogAt(100ms);
   errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
-  EXPECT_FALSE(sim.files.Exists("C:\\Temp\\snd.ini"));
-  EXPECT_TRUE(sim.journal.Texts({Kind::kProcess}).empty());
+  EXPECT_TRUE(upload.sent.empty());
+}
+
+TEST_F(ErrorNotesTest, WithConsentTheErrorLogIsUploadedUnderItsNumber) {
+  state.SendData = 1;
+  LeaveTheErrorDialogAt(100ms);
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
+  // 0.5 * 5 s * 14 h * 20th of the month + 1 = 701
+  EXPECT_EQ(upload.sent, (Lines{"error.log as 701error.log"}));
 }
 
 TEST_F(ErrorNotesTest, AnErrorLogThatCannotBeWrittenIsAnErrorOfTheCaller) {

@@ -77,19 +77,40 @@ TEST_F(WinmmTest, InDutchTheLoadedCaptionStandsBeforeThePitch) {
 
 TEST_F(WinmmTest, AFullDiskIsSilentAndTheToneStillStops) {
   sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  for (const auto moment : {0ms, 100ms, 299ms}) {
+    sim.At(moment, [this] { EXPECT_TRUE(sim.waves.playing.empty()); });
+  }
   StopAt(300ms);
   winmm.SoundWinmmRND(440);
   EXPECT_EQ(sim.pump.now_ms(), 350);
   EXPECT_TRUE(Journal({Kind::kMessage}).empty());
+  EXPECT_TRUE(sim.files.PathsIn("C:\\Temp").empty());
 }
 
-TEST_F(WinmmTest, AReadOnlyWaveFileIsSilentAndTheToneStillStops) {
+// Nothing of what could not be written whole is played.
+TEST_F(WinmmTest, ADiskThatFillsUpWithinTheFileIsSilentAndTheToneStillStops) {
+  sim.files.Fail(Operation::kWrite, kWavePath, ErrorCode::kDiskFull);
+  sim.At(100ms, [this] { EXPECT_TRUE(sim.waves.playing.empty()); });
+  StopAt(300ms);
+  winmm.SoundWinmmRND(440);
+  EXPECT_EQ(sim.pump.now_ms(), 350);
+  EXPECT_TRUE(sim.files.PathsIn("C:\\Temp").empty());
+}
+
+TEST_F(WinmmTest, AReadOnlyWaveFileIsLeftAloneAndTheToneComesFromAnother) {
   sim.files.Put(kWavePath, "old");
   sim.files.Fail(Operation::kDelete, kWavePath, ErrorCode::kPathFileAccess);
   sim.files.Fail(Operation::kOpenForWriting, kWavePath, ErrorCode::kPathFileAccess);
+  sim.At(50ms, [this] {
+    EXPECT_NE(sim.waves.playing, kWavePath);
+    EXPECT_EQ(sim.files.Get(sim.waves.playing).value_or("").size(), 176444u);
+  });
   StopAt(100ms);
   EXPECT_NO_THROW(winmm.SoundWinmmRND(440));
   EXPECT_EQ(sim.pump.now_ms(), 150);
+  EXPECT_TRUE(sim.waves.playing.empty());
+  EXPECT_EQ(sim.files.PathsIn("C:\\Temp"), Lines{kWavePath});
+  EXPECT_EQ(sim.files.Get(kWavePath), "old");
 }
 
 class ShortTonesTest : public RoutesFixture {};
