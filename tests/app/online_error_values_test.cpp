@@ -1,5 +1,5 @@
 // The online services report their own error values.
-#include "tests/online/fixture.h"
+#include "tests/app/online_fixture.h"
 
 namespace app {
 namespace {

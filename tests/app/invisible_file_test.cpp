@@ -1,10 +1,15 @@
 // A file that is only to be heard.
-#include "tests/program_files/player_fixture.h"
+#include "tests/app/player_start_fixture.h"
 
-namespace program_files {
+namespace app {
 namespace {
 
-const Tones kTwoTones{{440, 500}, {880, 250}};
+using program_files::FileOf;
+using program_files::Invisible;
+using program_files::kFile;
+using program_files::ProgramWith;
+
+const program_files::Tones kTwoTones{{440, 500}, {880, 250}};
 
 struct InvisibleCase {
   std::string sound_mode;
@@ -12,7 +17,8 @@ struct InvisibleCase {
   Lines messages;
 };
 
-class InvisibleFileTest : public PlayerTest, public testing::WithParamInterface<InvisibleCase> {
+class InvisibleFileTest : public PlayerStartTest,
+                          public testing::WithParamInterface<InvisibleCase> {
  protected:
   Lines Shown() const {
     Lines shown;
@@ -24,9 +30,9 @@ class InvisibleFileTest : public PlayerTest, public testing::WithParamInterface<
 
   // With everything switched on that could open a window.
   void PutSettings() {
-    sim.files.Put(app::kSettings, "AutoUpdate=y\r\nSoundBit=" + GetParam().sound_mode +
-                                      "\r\nLanguage=NL\r\nSendData=n\r\nMicrophone=1\r\n"
-                                      "MicrophoneON=y\r\n");
+    sim.files.Put(kSettings, "AutoUpdate=y\r\nSoundBit=" + GetParam().sound_mode +
+                                 "\r\nLanguage=NL\r\nSendData=n\r\nMicrophone=1\r\n"
+                                 "MicrophoneON=y\r\n");
     sim.files.Put(kFile, FileOf(Invisible(ProgramWith(kTwoTones))));
     sim.environment.arguments = kFile;
     sim.screen.pixels_per_inch = {GetParam().dpi, GetParam().dpi};
@@ -70,4 +76,4 @@ INSTANTIATE_TEST_SUITE_P(Surroundings, InvisibleFileTest,
                          });
 
 }  // namespace
-}  // namespace program_files
+}  // namespace app
