@@ -11,15 +11,14 @@ Run it with /usr/bin/python3 after ./test or "cmake --build --preset windows".
 import statistics
 import time
 
-from real import PAIRS, PROGRAM, share_of_core, start_up_ms  # makes the rig known
-
-from rig.microphone import Microphone
-from rig.playing import start
-from rig.program import GOOD_SETTINGS, MAIN_TITLE, Folders
-from rig.rig import Rig
-from rig.screen import Screen
-from rig.sound import Recorder
-from rig.window import Driver, Place, Window
+from real import PAIRS, PROGRAM, share_of_core, start_up_ms  # noqa: E402
+from rig.microphone import Microphone  # noqa: E402
+from rig.playing import start  # noqa: E402
+from rig.program import GOOD_SETTINGS, MAIN_TITLE, Folders  # noqa: E402
+from rig.rig import Rig  # noqa: E402
+from rig.screen import Screen  # noqa: E402
+from rig.sound import Recorder  # noqa: E402
+from rig.window import Driver, Place, Window  # noqa: E402
 
 WATCHED_S = 10
 QUESTIONS = 200

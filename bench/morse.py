@@ -14,8 +14,8 @@ import numpy as np
 PROJECT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(PROJECT / "tests"))
 
-from rig.measuring import RATE, loud_stretches  # noqa: E402
-from rig.morse import CHUNK, CODES, MESSAGE, open_tool, symbols, write  # noqa: E402
+from rig.measuring import CHUNK, RATE, loud_stretches  # noqa: E402
+from rig.morse import CODES, MESSAGE, open_tool, symbols, write  # noqa: E402
 from rig.playing import start  # noqa: E402
 from rig.rig import Rig  # noqa: E402
 from rig.sound import Recorder  # noqa: E402

@@ -14,7 +14,7 @@ readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw
 
 # What runs it, listens to it and looks at it.
 readonly rig_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
-  python3-numpy python3-pytest python3-pytest-rerunfailures wine wine64 xdotool xvfb)
+  python3-numpy python3-pytest python3-pytest-xdist wine wine64 xdotool xvfb)
 
 # What serves the site and looks at it.
 readonly site_packages=(chromium chromium-driver fonts-liberation nginx openssl python3-pytest

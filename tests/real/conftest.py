@@ -2,6 +2,7 @@
 
 import contextlib
 import re
+import shutil
 import signal
 import subprocess
 import sys
@@ -19,9 +20,11 @@ from rig.processes import command_of  # noqa: E402
 from rig.program import GOOD_SETTINGS, Folders, Tonmira  # noqa: E402
 from rig.resolution import set_dpi  # noqa: E402
 from rig.rig import Rig, what_is_left_of  # noqa: E402
+from rig.retakes import (  # noqa: E402, F401
+    pytest_runtest_call, pytest_runtest_protocol, pytest_runtest_setup, pytest_terminal_summary)
 from rig.screen import Screen  # noqa: E402
 from rig.served_site import ServedSite, served_site  # noqa: E402
-from rig.sound import Recorder  # noqa: E402
+from rig.sound import Recorder, save_wav  # noqa: E402
 from rig.uploading import ACTIVITY, ERROR, Upsend  # noqa: E402
 from rig.waiting import wait_for  # noqa: E402
 from rig.window import Driver, User  # noqa: E402
@@ -98,7 +101,8 @@ def launch(rig: Rig, driver: Driver) -> Iterator[Callable[..., Tonmira]]:
 
 
 @pytest.fixture
-def begin(driver: Driver, launch: Callable[..., Tonmira], folders: Folders) -> Iterator[Callable[..., Tonmira]]:
+def begin(driver: Driver, launch: Callable[..., Tonmira],
+          folders: Folders) -> Iterator[Callable[..., Tonmira]]:
     """Starts the program with a site of its own."""
     def start(site: str, language: str = "EN", update: str = "y", send: str = "n") -> Tonmira:
         settings = list(GOOD_SETTINGS)
@@ -122,7 +126,7 @@ def browser(rig: Rig) -> Iterator[str]:
         # Starting a program by its bare name fails once in a while.
         with contextlib.suppress(subprocess.CalledProcessError):
             rig.run("wine", "reg", "add", rf"HKCR\{scheme}\shell\open\command", "/ve", "/d",
-                      f'"{program}" "%1"', "/f")
+                    f'"{program}" "%1"', "/f")
             return True
         return False
 
@@ -142,22 +146,35 @@ def driver_at_dpi(request: pytest.FixtureRequest, rig: Rig) -> Iterator[tuple[Dr
     set_dpi(rig, 96)
 
 
+@pytest.fixture
+def copy_with_noting_upload_program(rig: Rig) -> Path:
+    """A copy of the program in a folder whose name the command interpreter acts on; in place of
+    the upload program stands one that takes note of its start."""
+    folder = rig.new_folder("Tom & (Jerry)") / "Tonmira"
+    shutil.copytree(PROGRAM.parent, folder)
+    shutil.copy(LINK_TAKER, folder / "upsend.exe")
+    return folder / PROGRAM.name
+
+
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_makereport(item: pytest.Item) -> Iterator[None]:
-    """Keeps what the screen showed when a test failed, and names the windows in the report."""
+    """Keeps what the screen showed and what was heard when a test failed, and names the windows."""
     outcome = yield
     report = outcome.get_result()
-    rig = getattr(item, "funcargs", {}).get("rig")
-    driver = getattr(item, "funcargs", {}).get("driver")
+    fixtures = getattr(item, "funcargs", {})
+    rig, driver, recorder = (fixtures.get(name) for name in ("rig", "driver", "recorder"))
     if not (report.when == "call" and report.failed and rig):
         return
-    picture = FAILURES / f"{re.sub('[^A-Za-z0-9]+', '-', item.name)[:80]}.png"
+    name = re.sub("[^A-Za-z0-9]+", "-", item.name)[:80]
+    FAILURES.mkdir(parents=True, exist_ok=True)
+    lines = [f"screen: {FAILURES / name}.png"]
+    if recorder:
+        save_wav(FAILURES / f"{name}.wav", recorder.all_channels(item.first_frame))
+        lines.append(f"recording: {FAILURES / name}.wav (its third channel is the pilot)")
     try:
-        picture.parent.mkdir(parents=True, exist_ok=True)
-        rig.run("import", "-window", "root", str(picture))
+        rig.run("import", "-window", "root", f"{FAILURES / name}.png")
         shown = [w.title for w in driver.windows() if w.visible and w.title] if driver else []
-        processes = [command_of(pid) for pid in rig.processes()]
-        report.sections.append(("rig", "\n".join([
-            f"screen: {picture}", f"windows: {shown}", "processes:", *processes])))
+        lines += [f"windows: {shown}", "processes:", *map(command_of, rig.processes())]
     except (OSError, RuntimeError, subprocess.SubprocessError) as failure:
-        report.sections.append(("rig", f"gives no picture: {failure}"))
+        lines.append(f"gives no picture: {failure}")
+    report.sections.append(("rig", "\n".join(lines)))

@@ -1,14 +1,15 @@
 """The moving pictures of the main window: what the microphone hears, and the sine preview."""
 
 import time
-from collections.abc import Callable, Iterator
+from collections.abc import Callable
 
 import numpy as np
 import pytest
 
+from rig.measuring import measure
 from rig.microphone import Microphone
 from rig.paths import SCREENS
-from rig.program import GOOD_SETTINGS, MODES, Folders, Tonmira, hear_tone
+from rig.program import GOOD_SETTINGS, MODES, Folders, Tonmira
 from rig.rig import Rig
 from rig.screen import Screen, drawn, periods
 from rig.sound import Recorder
@@ -166,13 +167,16 @@ def test_a_tone_goes_on_when_the_microphone_is_unplugged(
     window.press("High pitch")
     window.press("Play Sound")
     recorder.wait_for_tone()
+    first = recorder.frames()
     microphone.unplug()
     try:
-        tone = hear_tone(recorder, 2, lambda t: t.length_s > 1)
+        tone = measure(recorder.record(2))
         assert tone and tone.frequency_hz == pytest.approx(10000, rel=1e-4)
         assert tone.length_s > 1
     finally:
+        # The server moves every recording with its default source, the rig's own, too.
         microphone.plug_in()
+        recorder.excuse(first)
     window.press("Stop Sound")
     recorder.wait_for_silence()
     program.wait_for_buttons(window, playing=False)
@@ -265,27 +269,3 @@ def test_a_thousand_choices_leave_one_animation_and_a_program_that_answers(
     assert screen.frames(inside(window, "Picture1"), 2) <= 2 * 21
     window.close()
     program.wait_for_end()
-
-
-@pytest.fixture
-def high_contrast(rig: Rig) -> Iterator[None]:
-    """White text on black windows."""
-    key = "HKCU\\Control Panel\\Colors"
-    colours = {"Window": "0 0 0", "WindowText": "255 255 255"}
-    for name, colour in colours.items():
-        rig.run("wine", "reg", "add", key, "/v", name, "/f", "/d", colour)
-    yield
-    for name in colours:
-        rig.run("wine", "reg", "delete", key, "/v", name, "/f")
-
-
-def test_the_pictures_take_the_systems_colours(
-        high_contrast: None, launch: Callable[..., Tonmira], folders: Folders, user: User,
-        screen: Screen) -> None:
-    _, window = start(launch, folders, user)
-    user.click_button(window, "Low pitch")
-    wait_for(lambda: marks_of(screen, window, "picWave").any(), "the microphone's picture", 15)
-    user.screenshot(window, SCREENS / "high-contrast.png", moving=True)
-    for picture in ("picWave", "Picture1"):
-        colours = set(np.unique(screen.look(inside(window, picture))).tolist())
-        assert {0x000000, 0xFFFFFF} <= colours

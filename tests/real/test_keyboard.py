@@ -4,7 +4,8 @@ from collections.abc import Callable
 
 import pytest
 
-from rig.program import GOOD_SETTINGS, Folders, Tonmira, hear_tone
+from rig.measuring import measure
+from rig.program import GOOD_SETTINGS, Folders, Tonmira
 from rig.sound import Recorder
 from rig.waiting import wait_for
 from rig.window import User, Window
@@ -33,7 +34,7 @@ def test_alt_and_a_letter_choose_enter_plays_and_escape_stops(
     recorder.wait_for_silence()
     user.type_keys("Return")
     recorder.wait_for_tone()
-    tone = hear_tone(recorder, 1, lambda t: abs(t.frequency_hz - 10000) < 1)
+    tone = measure(recorder.record(1))
     assert tone and tone.frequency_hz == pytest.approx(10000, rel=1e-4)
     user.type_keys("Escape")
     program.wait_for_buttons(window, playing=False)

@@ -1,7 +1,6 @@
 """What reaches the user's browser, and what is handed to the upload program."""
 
 import re
-import shutil
 import time
 from collections.abc import Callable
 from pathlib import Path
@@ -10,9 +9,7 @@ import pytest
 
 from rig.bad_hosts import closed_port, host
 from rig.online import CONTACT, DONATE, PATIENCE_S, WEBSITE, accept_update, good_site, opened
-from rig.paths import LINK_TAKER, PROGRAM
 from rig.program import GOOD_SETTINGS, Folders, Tonmira
-from rig.rig import Rig
 from rig.waiting import wait_for
 
 
@@ -64,23 +61,13 @@ def test_the_menus_open_the_pages_of_the_site(
         wait_for(lambda: len(opened(folders)) == number, page)
         assert opened(folders)[-1] == f'<"{site}{page}">'
     assert program.folders.log()[-3:] == ["> Visiting site", "> Visiting donation page",
-                                  "> Visiting donation page"]
-
-
-@pytest.fixture
-def copy_with_noting_upload_program(rig: Rig) -> Path:
-    """A copy of the program in a folder whose name the command interpreter acts on; in place of
-    the upload program stands one that takes note of its start."""
-    folder = rig.new_folder("Tom & (Jerry)") / "Tonmira"
-    shutil.copytree(PROGRAM.parent, folder)
-    shutil.copy(LINK_TAKER, folder / "upsend.exe")
-    return folder / PROGRAM.name
+                                          "> Visiting donation page"]
 
 
 @pytest.mark.parametrize(("send", "starts"), [("y", ["<>"]), ("n", [])])
 def test_the_log_is_handed_to_the_upload_program_at_the_end_only_with_consent(
-        launch: Callable[..., Tonmira], folders: Folders, copy_with_noting_upload_program: Path, send: str,
-        starts: list[str]) -> None:
+        launch: Callable[..., Tonmira], folders: Folders, copy_with_noting_upload_program: Path,
+        send: str, starts: list[str]) -> None:
     settings = list(GOOD_SETTINGS)
     settings[3] = f"SendData={send}"
     folders.write_settings(settings)

@@ -65,6 +65,7 @@ def test_the_browser_grows_with_the_news_window_and_closing_that_leaves_the_main
         program = begin(good.site, update="n")
         main = program.window(seconds=PATIENCE_S)
         news = program.window(NEWS_TITLES["EN"])
+        program.wait_for_log(">> Program starting finished")
         user.xdotool("windowsize", "--sync", user.x_window(news), "900", "640")
 
         def fits() -> bool:
@@ -84,6 +85,7 @@ def test_an_accepted_update_is_opened_in_the_users_browser_and_ends_the_program(
         program = begin(good.site)
         dialog = program.window("Update found", seconds=PATIENCE_S)
         assert "An update is found! Would you like to download the update?" in dialog.texts()
+        assert dialog.items() == ["Current version: 2.3.6", "New version: 2.3.7", "Link: " + link]
         assert not (folders.temp / "updatetonmira.txt").exists()
         accept_update(program)
         wait_for(lambda: opened(folders), "the browser")

@@ -14,6 +14,7 @@ from rig.program import Folders, Tonmira
 from rig.resolution import cut_off, set_dpi
 from rig.rig import Rig
 from rig.sound import Recorder
+from rig.streams import directsound, record_stream
 from rig.tone_programs import (PATH, PITCH, TIME, TONES, Entries, file_of, label, matches,
                                open_file, tones_in, wait_until_played)
 from rig.waiting import wait_for
@@ -155,10 +156,16 @@ def test_a_file_is_heard_while_the_main_window_plays(
         samples = recorder.samples(first)
         player.press("Exit")
         wait_for(lambda: not player.is_open(), "the end of the player")
-        for pitch in (1000, 3000, 6000):
+        for pitch in (3000, 6000):
             assert seconds_of(samples, pitch) > 1, pitch
-        # The main window's tone still sounds, can be stopped, and was never offered again.
-        assert seconds_of(recorder.record(1), 1000) > 0.5
+        # The main window's tone still sounds, can be stopped, and was never offered again. In the
+        # DirectSound mode it is started twice, and what is heard of both together is chance.
+        if sound_bit == "64":
+            heard = record_stream(rig, directsound(rig), 1)
+        else:
+            assert seconds_of(samples, 1000) > 1
+            heard = recorder.record(1)
+        assert seconds_of(heard, 1000) > 0.5
         assert not main.button("Play Sound").enabled
         main.press("Stop Sound")
         recorder.wait_for_silence()

@@ -15,8 +15,11 @@ from rig.waiting import wait_for
 from rig.window import Driver, User
 
 DOZEN = [440, 880, 660, 1320, 550, 1100, 2200, 4400, 3300, 1650, 990, 495]
+# The first tone opens the sound device, which takes its time.
+FIRST = [2000]
 # What starting and ending a tone may take; the helpers are processes of their own.
-SLOWEST_START_S = {"256": 0.35, "128": 0.35, "64": 0.35, "32": 1.5, "16": 2.5}
+SLOWEST_START_S = {"256": 0.1, "128": 0.1, "64": 0.1, "32": 0.4, "16": 0.8}
+SLOWEST_END_S = {"256": 0.1, "128": 0.1, "64": 0.15, "32": 0.4, "16": 0.8}
 
 Opener = Callable[..., Tonmira]
 
@@ -38,29 +41,21 @@ def opened(rig: Rig, driver: Driver) -> Iterator[Opener]:
 
 
 @pytest.mark.parametrize("sound_bit", ["256", "128", "64", "32", "16"])
-def test_a_dozen_tones_are_heard_in_order_at_their_pitches(
+def test_tones_are_heard_in_order_at_their_pitches_for_their_time(
         opened: Opener, rig: Rig, recorder: Recorder, sound_bit: str) -> None:
-    duration_ms = 400 if sound_bit in ("256", "128", "64") else 700
-    program = opened(file_of([(pitch, duration_ms) for pitch in DOZEN]), sound_bit=sound_bit)
-    player = program.window()
-
-    # The first play starts by itself while the recording cannot be prepared: the second counts.
-    wait_until_played(player)
-
-    def play_again() -> None:
-        player.press("(Re)play")
-        wait_for(lambda: not player.button("(Re)play").enabled, "the play")
-        wait_until_played(player)
-
-    heard = hear(recorder, DOZEN, play_again)
-    assert [round(tone.pitch_hz) for tone in heard] == DOZEN
-    assert [tone.pitch_hz for tone in heard] == pytest.approx(DOZEN, rel=1e-3)
+    helper = sound_bit in ("32", "16")
+    pitches = DOZEN[:4] if helper else DOZEN
+    duration_ms = 1000 if helper else 400
+    content = file_of([(pitch, duration_ms) for pitch in [*FIRST, *pitches]])
+    heard = hear(recorder, lambda: wait_until_played(
+        opened(content, sound_bit=sound_bit).window()))[len(FIRST):]
+    assert [tone.pitch_hz for tone in heard] == pytest.approx(pitches, rel=1e-3)
     nominal = (duration_ms + EXTRA_MS + (1000 if sound_bit == "16" else 0)) / 1000
-    late = SLOWEST_START_S[sound_bit]
+    shortest, longest = nominal - SLOWEST_START_S[sound_bit], nominal + SLOWEST_END_S[sound_bit]
     lengths = [tone.length_s for tone in heard]
-    assert all(nominal - late < length < nominal + late for length in lengths), lengths
+    assert all(shortest < length < longest for length in lengths), lengths
     periods = [b.start_s - a.start_s for a, b in zip(heard, heard[1:])]
-    assert all(nominal - late < period < nominal + late for period in periods), periods
+    assert all(shortest < period < longest for period in periods), periods
     wait_for(lambda: not helpers_running(rig), "the end of the helpers", 3)
 
 
@@ -110,7 +105,7 @@ def test_replay_starts_at_the_first_tone(opened: Opener, user: User, recorder: R
         wait_for(lambda: not player.button("(Re)play").enabled, "the play")
         wait_until_played(player)
 
-    assert matches(hear(recorder, [440, 880], replay), [440, 880])
+    assert matches(hear(recorder, replay), [440, 880])
 
 
 @pytest.mark.parametrize("sound_bit", ["256", "32", "16"])
@@ -144,9 +139,11 @@ def test_an_invisible_file_is_heard_without_a_window_and_ends(
     recorder.wait_for_silence()
     first = recorder.frames()
     program = opened(file_of([(440, 1200), (880, 1200)], visibility="invisible"))
-    recorder.wait_for_tone(30)
-    assert program.titles() == []
-    program.wait_for_end(30)
+    looks = 0
+    while program.running():
+        assert program.titles() == []
+        looks += 1
+    assert looks >= 20
     recorder.wait_for_silence()
     assert matches(tones_in(recorder.samples(first)), [440, 880])
 

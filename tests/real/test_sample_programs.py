@@ -7,32 +7,24 @@ import pytest
 from rig.paths import PROGRAM, PROJECT
 from rig.rig import Rig
 from rig.sound import Recorder
-from rig.tone_programs import Heard, file_of, open_file, tones_in
-from rig.waiting import wait_for
+from rig.tone_programs import Heard, file_of, hear, open_file, wait_until_played
 from rig.window import Driver
 
 SCALE = [523, 587, 659, 698, 784, 880, 988, 1047, 988, 880, 784, 698, 659, 587, 523]
 REST_HZ = 22050
 
 
-def hear(rig: Rig, driver: Driver, recorder: Recorder, path: Path, sound_bit: str,
-         wanted: list[int]) -> list[Heard]:
-    """What a whole play sounds like; taken once more when it is not what is wanted."""
-    heard: list[Heard] = []
-    for _ in range(2):
-        recorder.wait_for_silence()
-        first = recorder.frames()
+def play(rig: Rig, driver: Driver, recorder: Recorder, path: Path,
+         sound_bit: str) -> list[Heard]:
+    """What a whole play sounds like."""
+    def once() -> None:
         program = open_file(rig, driver, path, sound_bit=sound_bit)
         try:
-            player = program.window()
-            wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", 60)
-            recorder.record(0.5)
+            wait_until_played(program.window())
         finally:
             program.finish()
-        heard = tones_in(recorder.samples(first))
-        if [round(tone.pitch_hz) for tone in heard] == wanted:
-            break
-    return heard
+
+    return hear(recorder, once)
 
 
 def test_they_ship_as_they_are() -> None:
@@ -46,7 +38,7 @@ def test_they_ship_as_they_are() -> None:
 
 def test_the_scale_is_heard_up_and_down(rig: Rig, driver: Driver, recorder: Recorder) -> None:
     path = PROGRAM.parent / "samples" / "scale.tnf"
-    heard = hear(rig, driver, recorder, path, "256", SCALE)
+    heard = play(rig, driver, recorder, path, "256")
     assert [tone.pitch_hz for tone in heard] == pytest.approx(SCALE, rel=1e-3)
 
 
@@ -55,7 +47,7 @@ def test_a_rest_is_silent_for_its_time(rig: Rig, driver: Driver, recorder: Recor
                                        sound_bit: str) -> None:
     path = rig.new_folder("tones") / "rest.tnf"
     path.write_bytes(file_of([(659, 600), (REST_HZ, 600), (784, 600)], extra_ms=10))
-    heard = hear(rig, driver, recorder, path, sound_bit, [659, 784])
+    heard = play(rig, driver, recorder, path, sound_bit)
     assert [tone.pitch_hz for tone in heard] == pytest.approx([659, 784], rel=1e-3)
     pause_s = heard[1].start_s - heard[0].start_s - heard[0].length_s
     assert 0.5 < pause_s < 2.5

@@ -44,7 +44,7 @@ def test_a_redirection_is_not_followed(
     # On this machine, "localhost" is another host than "127.0.0.1".
     target = site.base_url.replace("127.0.0.1", "localhost")
     with served_site(rig.folder, rules=f"location ~ ^/usage/ {{ return {status} "
-                                         f"{target}$request_uri; }}") as redirecting:
+                                       f"{target}$request_uri; }}") as redirecting:
         upsend.hand_over("error.log", "4711error.log")
         assert upsend.run(redirecting.base_url) == NOT_SENT
         assert redirecting.requests() == [("PUT", "/usage/4711error.log", status)]

@@ -1,7 +1,7 @@
 """What a recording holds: pitch, peak and length of its longest steady tone, and its end.
 
-A recording is an array of samples of one channel, full scale 32768. It may begin late, and it may
-have gaps: only the longest stretch whose phase advances evenly is judged.
+A recording is an array of samples of one channel, full scale 32768. A tone is its longest stretch
+whose phase advances evenly.
 """
 
 from dataclasses import dataclass
@@ -119,12 +119,17 @@ def _measure_stretch(samples: np.ndarray, first: int, end: int) -> Tone | None:
 
 
 def steady_pitches(samples: np.ndarray, grid_hz: int) -> list[int]:
-    """The pitches of a stepped tone in the order in which they sound, to the nearest of a grid.
+    """The pitches of a stepped tone in the order in which they sound, to the nearest of a grid."""
+    return [pitch for pitch, _ in steps(samples, grid_hz)]
+
+
+def steps(samples: np.ndarray, grid_hz: int) -> list[tuple[int, float]]:
+    """Pitch, to the nearest of a grid, and beginning in seconds, to 10 ms, of each step of a tone.
 
     A piece counts when it lies close to the grid and the next piece agrees with it.
     """
     piece, hop = RATE // 40, RATE // 100
-    pitches: list[int] = []
+    found: list[tuple[int, float]] = []
     before = 0
     for start in range(0, len(samples) - piece + 1, hop):
         part = samples[start : start + piece].astype(float)
@@ -134,7 +139,15 @@ def steady_pitches(samples: np.ndarray, grid_hz: int) -> list[int]:
         frequency = rough_frequency(part)
         nearest = int(round(frequency / grid_hz)) * grid_hz
         agrees = nearest > 0 and abs(frequency - nearest) < grid_hz / 4
-        if agrees and nearest == before and (not pitches or pitches[-1] != nearest):
-            pitches.append(nearest)
+        if agrees and nearest == before and (not found or found[-1][0] != nearest):
+            found.append((nearest, (start - hop) / RATE))
         before = nearest if agrees else 0
-    return pitches
+    return found
+
+
+def faintest(samples: np.ndarray, frequency_hz: float) -> int:
+    """The lowest peak of any piece that must hold a whole period, 2 ms at least. In a tone without
+    a hole it is near the tone's own peak."""
+    piece = max(RATE // 500, int(np.ceil(RATE / frequency_hz)))
+    pieces = np.lib.stride_tricks.sliding_window_view(np.abs(samples), piece)[:: max(piece // 4, 1)]
+    return int(pieces.max(axis=1).min())

@@ -26,7 +26,7 @@ class Microphone:
         path = self._rig.folder / "microphone.wav"
         save_wav(path, (amplitude * np.stack(channels, axis=1)).astype("<i2"))
         self._player = self._rig.start("paplay", "--device=mic", "--latency-msec=20", str(path),
-                                         stderr=subprocess.DEVNULL)
+                                       stderr=subprocess.DEVNULL)
         wait_for(lambda: "paplay" in self._rig.run("pactl", "list", "clients"), "the feed")
 
     def silence(self) -> None:
@@ -41,7 +41,7 @@ class Microphone:
 
     def plug_in(self) -> None:
         self._rig.run("pactl", "load-module", "module-null-sink", "sink_name=mic",
-                        f"rate={RATE}", "channels=2", "format=s16le")
+                      f"rate={RATE}", "channels=2", "format=s16le")
         self._rig.run("pactl", "set-default-source", "mic.monitor")
         # The server lets every recording follow the default source; the rig's own one hears what
         # is played.
@@ -49,7 +49,7 @@ class Microphone:
         for output in outputs:
             if 'application.name = "parec"' in output:
                 self._rig.run("pactl", "move-source-output", output.split("\n")[0],
-                                "out.monitor")
+                              "card.monitor")
 
     def _module(self) -> str:
         modules = self._rig.run("pactl", "list", "short", "modules").splitlines()

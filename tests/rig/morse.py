@@ -48,6 +48,23 @@ def write(user: User, tool: Window, message: str) -> None:
     wait_for(lambda: text(tool, MESSAGE_BOX) == message, "the message")
 
 
+def as_text(tones: list[tuple[float, float]]) -> str:
+    """The code that is heard, with a blank between characters and " / " between words; a question
+    mark stands for every tone or pause that is none of these at speed 0."""
+    text = ""
+    for (begin, length), following in zip(tones, [*tones[1:], None]):
+        text += "." if 0.08 < length < 0.15 else "-" if 0.18 < length < 0.25 else "?"
+        if following:
+            pause = following[0] - begin - length
+            text += ("" if pause < 0.06 else " " if 0.085 < pause < 0.2
+                     else " / " if 0.65 < pause < 0.85 else "?")
+    return text
+
+
+def code_of(message: str) -> str:
+    return " / ".join(" ".join(CODES[c] for c in word) for word in message.split(" "))
+
+
 def symbols(recorder: Recorder, first_frame: int) -> list[tuple[float, float]]:
     """Beginning and length, in seconds, of every tone since `first_frame`."""
     return [(a / RATE, (b - a) / RATE)

@@ -25,6 +25,17 @@ def helpers_running(rig: Rig) -> list[str]:
             if name in command_of(pid).lower()]
 
 
+def pick(user: User, window: Window, mode: str, pitch: int) -> None:
+    """Picks a mode with the mouse; its slider gets the pitch where it has one."""
+    user.activate(window)
+    user.click_button(window, mode)
+    wait_for(lambda: window.is_checked(mode), f"the mode {mode!r}")
+    if mode == "Custom pitch":
+        window.slide(pitch)
+        wait_for(lambda: str(pitch) in [text.strip() for text in window.texts()],
+                 "the selected pitch")
+
+
 def press_play(user: User, window: Window, mode: str) -> None:
     user.activate(window)
     user.click_button(window, mode)

@@ -3,11 +3,9 @@
 from copy import copy
 from pathlib import Path
 
-from rig.measuring import Tone, measure
 from rig.paths import PROGRAM
 from rig.processes import all_processes, command_of, environment_of
 from rig.rig import Rig
-from rig.sound import Recorder
 from rig.waiting import wait_for
 from rig.window import Driver, User, Window, wait_for_window
 
@@ -151,16 +149,6 @@ class Tonmira:
                     and window.button("Play Sound").enabled != playing)
 
         wait_for(ready, "a playing window" if playing else "an idle window")
-
-
-def hear_tone(recorder: Recorder, seconds: float, good) -> Tone | None:
-    """Measures what is playing; a bad result is taken once more, for the machine is busy."""
-    tone = None
-    for _ in range(2):
-        tone = measure(recorder.record(seconds))
-        if tone and good(tone):
-            break
-    return tone
 
 
 def play_once(program: Tonmira, user: User, mode: str) -> Window:

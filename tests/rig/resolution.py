@@ -7,7 +7,7 @@ from rig.window import Driver, Window
 
 def set_dpi(rig: Rig, dpi: int) -> None:
     rig.run("wine", "reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t",
-              "REG_DWORD", "/d", str(dpi), "/f", timeout=60)
+            "REG_DWORD", "/d", str(dpi), "/f", timeout=60)
 
 
 def start_at_dpi(rig: Rig, driver: Driver, folders: Folders, dpi: int) -> Tonmira:

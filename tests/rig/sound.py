@@ -1,6 +1,5 @@
 """Listening to what the rig's sound card plays."""
 
-import subprocess
 import threading
 import time
 import wave
@@ -9,28 +8,32 @@ from pathlib import Path
 import numpy as np
 
 from rig.measuring import LOUD, RATE, last_loud_sample
-from rig.rig import Rig
+from rig.pilot import breaks
+from rig.session import Session
+from rig.sound_card import start_recording
+from rig.waiting import wait_for
 
-FRAME_BYTES = 4
+# The third channel is the pilot.
+CHANNELS = 3
+FRAME_BYTES = 2 * CHANNELS
 
 
 class Recorder:
-    """Records everything that reaches the sound card, and when each sample arrived.
+    """Records everything that reaches the sound card, and when.
 
     A moment told by this class is within some 40 ms of what a listener would hear: the sound card
-    takes its samples up to 20 ms before they are due, and the recorder hands them over in pieces
-    of 20 ms.
+    takes its samples in pieces of 20 ms, up to 20 ms before they are due.
     """
 
-    def __init__(self, rig: Rig):
-        self._process = rig.start(
-            "parec", "--device=out.monitor", "--format=s16le", f"--rate={RATE}", "--channels=2",
-            "--latency-msec=20", stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    def __init__(self, rig: Session):
+        self._process = start_recording(rig)
         self._bytes = bytearray()
-        self._arrivals: list[tuple[float, int]] = []
+        self._first_moment = float("inf")
+        self._excused: list[tuple[int, int]] = []
         self._lock = threading.Lock()
         self._thread = threading.Thread(target=self._read, daemon=True)
         self._thread.start()
+        self._wait_for_pilot()
 
     def stop(self) -> None:
         self._process.terminate()
@@ -45,13 +48,27 @@ class Recorder:
 
     def samples(self, first_frame: int = 0) -> np.ndarray:
         """The left channel from `first_frame` on."""
-        return self.stereo(first_frame)[:, 0].astype(np.int32)
+        return self.all_channels(first_frame)[:, 0].astype(np.int32)
 
     def stereo(self, first_frame: int = 0) -> np.ndarray:
+        return self.all_channels(first_frame)[:, :2]
+
+    def all_channels(self, first_frame: int = 0) -> np.ndarray:
+        """Left, right and the pilot."""
         with self._lock:
             end = len(self._bytes) // FRAME_BYTES * FRAME_BYTES
             data = bytes(self._bytes[first_frame * FRAME_BYTES : end])
-        return np.frombuffer(data, dtype="<i2").reshape(-1, 2)
+        return np.frombuffer(data, dtype="<i2").reshape(-1, CHANNELS)
+
+    def flaws(self, first_frame: int) -> list[float]:
+        """Where the recording since `first_frame` is not whole, in seconds from there: the pilot's
+        breaks. Nothing that is played can cause one."""
+        return [frame / RATE for frame in breaks(self.all_channels(first_frame)[:, 2])
+                if not any(a <= frame + first_frame <= b for a, b in self._excused)]
+
+    def excuse(self, first_frame: int) -> None:
+        """What breaks from there up to now is the test's own doing."""
+        self._excused.append((first_frame, self.frames() + RATE // 2))
 
     def record(self, seconds: float) -> np.ndarray:
         """The left channel of the next `seconds`."""
@@ -77,9 +94,15 @@ class Recorder:
         return self.moment_of(first_frame + last)
 
     def moment_of(self, frame: int) -> float:
-        """When this frame arrived (time.monotonic)."""
+        """When this frame was played (time.monotonic): the card's clock is the system's, and the
+        piece that was least late tells the difference between the two."""
         with self._lock:
-            return next(when for when, count in self._arrivals if count > frame)
+            return self._first_moment + frame / RATE
+
+    def _wait_for_pilot(self) -> None:
+        """Its first samples may come seconds after the recorder's start; what sounds till then is
+        lost."""
+        wait_for(lambda: self.all_channels()[-1:, 2].any(), "the pilot", 20)
 
     def _wait(self, condition, seconds: float, what: str) -> None:
         first = self.frames()
@@ -101,7 +124,8 @@ class Recorder:
         while stream and (data := stream.read1(65536)):
             with self._lock:
                 self._bytes += data
-                self._arrivals.append((time.monotonic(), len(self._bytes) // FRAME_BYTES))
+                count = len(self._bytes) // FRAME_BYTES
+                self._first_moment = min(self._first_moment, time.monotonic() - count / RATE)
 
 
 def save_wav(path: Path, frames: np.ndarray) -> None:

@@ -3,8 +3,8 @@
 import numpy as np
 import pytest
 
-from rig.measuring import (RATE, last_loud_sample, loud_stretches, measure, short_pitch,
-                           steady_pitches)
+from rig.measuring import (RATE, faintest, last_loud_sample, loud_stretches, measure, short_pitch,
+                           steady_pitches, steps)
 
 
 def tone(frequency: float, seconds: float, amplitude: float = 30000) -> np.ndarray:
@@ -87,8 +87,25 @@ def test_the_last_sound_is_found_to_the_sample() -> None:
 
 
 def test_the_pitches_of_a_stepped_tone_are_told_in_their_order() -> None:
-    steps = [np.concatenate([tone(pitch, 0.09), silence(0.01)]) for pitch in (200, 400, 600, 9000)]
-    assert steady_pitches(np.concatenate(steps), 200) == [200, 400, 600, 9000]
+    parts = [np.concatenate([tone(pitch, 0.09), silence(0.01)]) for pitch in (200, 400, 600, 9000)]
+    assert steady_pitches(np.concatenate(parts), 200) == [200, 400, 600, 9000]
+
+
+def test_the_steps_of_a_tone_are_told_with_their_beginnings() -> None:
+    parts = np.concatenate([tone(pitch, 0.2) for pitch in (200, 400, 600)])
+    found = steps(parts, 200)
+    assert [pitch for pitch, _ in found] == [200, 400, 600]
+    assert [begin for _, begin in found] == pytest.approx([0, 0.2, 0.4], abs=0.021)
+
+
+@pytest.mark.parametrize("frequency", [4, 440, 10000, 21000])
+def test_a_hole_of_three_milliseconds_is_found(frequency: float) -> None:
+    whole = tone(frequency, 2)
+    assert faintest(whole, frequency) > 29000
+    holed = whole.copy()
+    length = max(0.003, 1.5 / frequency)
+    holed[RATE : RATE + int(length * RATE)] = 0
+    assert faintest(holed, frequency) < 28000
 
 
 def test_a_pitch_beside_the_grid_is_no_step() -> None:

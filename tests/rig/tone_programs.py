@@ -52,18 +52,12 @@ class Heard:
 
 
 def tones_in(samples: np.ndarray, chunk: int = CHUNK) -> list[Heard]:
-    """Every tone that stands by itself; parts of one that a gap in the recording cut apart count
-    as one."""
+    """Every tone that stands by itself. One without a steady pitch has the pitch 0."""
     tones: list[Heard] = []
     for first, end in loud_stretches(samples, chunk):
         steady = measure(samples[first:end])
-        if steady is None:
-            continue
-        tone = Heard(steady.frequency_hz, first / RATE, (end - first) / RATE)
-        if tones and abs(tones[-1].pitch_hz / max(tone.pitch_hz, 1) - 1) < 5e-3:
-            tones[-1].length_s = tone.start_s + tone.length_s - tones[-1].start_s
-        else:
-            tones.append(tone)
+        tones.append(Heard(steady.frequency_hz if steady else 0.0, first / RATE,
+                           (end - first) / RATE))
     return tones
 
 
@@ -76,18 +70,13 @@ def wait_until_played(player: Window, seconds: float = 60) -> None:
     wait_for(lambda: player.button("(Re)play").enabled, "the end of the play", seconds)
 
 
-def hear(recorder: Recorder, wanted: list[int], play: Callable[[], None]) -> list[Heard]:
-    """What is heard while `play` runs; taken again when it is not what is wanted."""
-    heard: list[Heard] = []
-    for _ in range(3):
-        recorder.wait_for_silence()
-        first = recorder.frames()
-        play()
-        recorder.record(0.5)
-        heard = tones_in(recorder.samples(first))
-        if matches(heard, wanted):
-            break
-    return heard
+def hear(recorder: Recorder, play: Callable[[], None]) -> list[Heard]:
+    """What is heard while `play` runs."""
+    recorder.wait_for_silence()
+    first = recorder.frames()
+    play()
+    recorder.record(0.5)
+    return tones_in(recorder.samples(first))
 
 
 def matches(heard: list[Heard], wanted: list[int]) -> bool:

@@ -10,6 +10,10 @@ from rig.paths import DRIVER
 from rig.rig import Rig
 from rig.waiting import wait_for
 
+# What the driver starts plays with that much in hand. With Wine's own 10 ms its tones have holes on
+# any busy machine.
+STEADY_SOUND = {"PULSE_LATENCY_MSEC": "100"}
+
 
 @dataclass(frozen=True)
 class Place:
@@ -59,8 +63,8 @@ class Driver:
     def __init__(self, rig: Rig):
         self.rig = rig
         self._process = rig.start("wine", str(DRIVER), stdin=subprocess.PIPE,
-                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                                    encoding="utf-8")
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                  encoding="utf-8", env={**rig.env, **STEADY_SOUND})
 
     def ask(self, *fields: str) -> list[list[str]]:
         """The answer's lines, each as its fields."""
@@ -138,6 +142,10 @@ class Window:
         """Chooses an item of the one drop-down list, without the mouse."""
         self.driver.ask("select", self.control("ComboBox").handle, str(index))
 
+    def items(self) -> list[str]:
+        """The lines of the one list."""
+        return [line[0] for line in self.driver.ask("items", self.control("ListBox").handle)]
+
     def choose(self, command: int) -> None:
         self.driver.ask("command", self.handle, str(command))
 
@@ -171,8 +179,8 @@ class User:
         place = window.place()
         try:
             ids = self.rig.run("xdotool", "search", "--onlyvisible", "--name",
-                                 f"^{re.escape(window.title)}$",
-                                 stderr=subprocess.DEVNULL).split()
+                               f"^{re.escape(window.title)}$",
+                               stderr=subprocess.DEVNULL).split()
             for candidate in ids:
                 position = self.xdotool("getwindowgeometry", candidate)
                 found = re.search(r"Position: (-?\d+),(-?\d+)", position)

@@ -22,6 +22,7 @@
 //   command WINDOW ID                 posts a menu choice
 //   slide BAR VALUE                   puts a horizontal scroll bar's thumb at a value
 //   select COMBO INDEX                chooses an item of a drop-down list
+//   items LIST                        the lines of a list
 //   store KEY NAME TYPE HEX           a value of the registry under the machine's root, as it is
 //   forget KEY                        deletes that key
 //   cut WINDOW                        captions that do not fit into their controls
@@ -90,6 +91,7 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
        [](const Fields& f) {
          Post(Window(f.at(1)), WM_COMMAND, static_cast<WPARAM>(std::stoi(f.at(2))));
        }},
+      {"items", [](const Fields& f) { PrintItems(Window(f.at(1))); }},
       {"select", Select},
       {"store", Store},
       {"forget", [](const Fields& f) { ForgetKey(Wide(f.at(1))); }},

@@ -82,6 +82,17 @@ void PrintControls(HWND parent) {
   EnumChildWindows(parent, PrintControl, 0);
 }
 
+void PrintItems(HWND list) {
+  const auto count = Ask(list, LB_GETCOUNT);
+  for (LRESULT i = 0; i < count; ++i) {
+    const auto index = static_cast<WPARAM>(i);
+    std::wstring text(static_cast<std::size_t>(Ask(list, LB_GETTEXTLEN, index)) + 1, L'\0');
+    Ask(list, LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back();
+    std::cout << Utf8(text) << '\n';
+  }
+}
+
 void Clicks(const Fields& fields) {
   const std::size_t buttons = fields.size() - 2;
   const unsigned long count = std::stoul(fields.at(1));

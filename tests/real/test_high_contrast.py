@@ -1,0 +1,118 @@
+"""The windows in a high-contrast scheme of the system: every text stands out from its ground."""
+
+from collections.abc import Callable, Iterator
+
+import numpy as np
+import pytest
+
+from rig.contrast import best_contrast
+from rig.paths import SCREENS
+from rig.program import FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
+from rig.rig import Rig
+from rig.screen import Screen
+from rig.waiting import wait_for
+from rig.window import Driver, User, Window
+
+# The system's scheme "High Contrast Black".
+BLACK, WHITE, GREEN, PURPLE = "0 0 0", "255 255 255", "0 255 0", "128 0 128"
+SCHEME = {
+    **dict.fromkeys(["AppWorkspace", "Background", "ButtonAlternateFace", "ButtonFace",
+                     "InfoWindow", "Menu", "MenuBar", "Scrollbar", "Window"], BLACK),
+    **dict.fromkeys(["ActiveBorder", "ButtonDkShadow", "ButtonHilight", "ButtonLight",
+                     "ButtonShadow", "ButtonText", "HilightText", "InactiveBorder",
+                     "InactiveTitleText", "InfoText", "MenuText", "TitleText", "WindowFrame",
+                     "WindowText"], WHITE),
+    **dict.fromkeys(["GradientInactiveTitle", "GrayText", "InactiveTitle"], GREEN),
+    **dict.fromkeys(["ActiveTitle", "GradientActiveTitle", "Hilight", "MenuHilight"], PURPLE),
+}
+COLOURS = r"HKEY_CURRENT_USER\Control Panel\Colors"
+# The scheme has no themed controls.
+THEMES = r"HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\ThemeManager"
+# What readable text needs (W3C, Web Content Accessibility Guidelines 2.1, level AA).
+READABLE = 4.5
+
+
+def put(rig: Rig, values: dict[str, str], active: str) -> None:
+    """Writes colours as they stand in a registry file, and whether controls are themed."""
+    colours = [f'"{name}"={value}' for name, value in values.items()]
+    lines = ["REGEDIT4", "", f"[{COLOURS}]", *colours,
+             "", f"[{THEMES}]", f'"ThemeActive"="{active}"', ""]
+    path = rig.new_folder("colours") / "colours.reg"
+    path.write_text("\r\n".join(lines))
+    rig.run("wine", "regedit", "/S", rig.windows_path(path))
+
+
+@pytest.fixture(scope="module")
+def high_contrast(rig: Rig, driver: Driver) -> Iterator[None]:
+    before = rig.prefix / "before.reg"
+    rig.run("wine", "regedit", "/E", rig.windows_path(before), COLOURS)
+    put(rig, {name: f'"{colour}"' for name, colour in SCHEME.items()}, active="0")
+    yield
+    put(rig, dict.fromkeys(SCHEME, "-"), active="1")
+    rig.run("wine", "regedit", "/S", rig.windows_path(before))
+
+
+@pytest.fixture
+def started(high_contrast: None, launch: Callable[..., Tonmira], folders: Folders) -> Tonmira:
+    folders.write_settings(GOOD_SETTINGS)
+    program = launch(folders)
+    program.wait_for_log(">> Program starting finished")
+    return program
+
+
+def unreadable(screen: Screen, window: Window) -> dict[str, float]:
+    """The texts that do not stand out enough, with their contrast."""
+    found = {c.text: best_contrast(screen.look(c.place)) for c in window.controls()
+             if c.visible and c.text.strip() and c.kind in ("Static", "Button", "Edit")}
+    assert found
+    return {text: contrast for text, contrast in found.items() if contrast < READABLE}
+
+
+def look_at(user: User, screen: Screen, window: Window, name: str) -> None:
+    user.activate(window)
+    user.screenshot(window, SCREENS / f"contrast-{name}.png", moving=True)
+    wait_for(lambda: not unreadable(screen, window),
+             f"readable texts in {name}: {unreadable(screen, window)}", 3)
+
+
+def test_every_text_of_the_windows_is_readable(
+        started: Tonmira, user: User, screen: Screen) -> None:
+    main = started.window()
+    look_at(user, screen, main, "main")
+    main.press("Custom pitch")
+    wait_for(lambda: main.button("Help").enabled, "the help button")
+    look_at(user, screen, main, "chosen")
+    main.press("Help")
+    help_window = started.window("Help")
+    look_at(user, screen, help_window, "help")
+    help_window.close()
+    main.choose(MENU_ABOUT)
+    box = started.window("About Tonmira")
+    look_at(user, screen, box, "about")
+    box.press("OK")
+    main.press("Morse tool")
+    wait_for(lambda: main.is_checked("Morse tool"), "the mode")
+    main.press("Start")
+    look_at(user, screen, started.window("Morse tool"), "morse")
+
+
+def test_the_first_run_dialog_is_readable(
+        high_contrast: None, launch: Callable[..., Tonmira], folders: Folders, user: User,
+        screen: Screen) -> None:
+    program = launch(folders)
+    dialog = program.window(FIRST_RUN_TITLE)
+    program.wait_for_log(">> Program starting finished")
+    look_at(user, screen, dialog, "first-run")
+
+
+def test_the_pictures_take_the_systems_colours(
+        started: Tonmira, user: User, screen: Screen) -> None:
+    window = started.window()
+    user.activate(window)
+    user.click_button(window, "Low pitch")
+    wait_for(lambda: best_contrast(screen.look(window.control("TonmiraPicture", "picWave").place))
+             == 21, "the microphone's picture", 15)
+    user.screenshot(window, SCREENS / "high-contrast.png", moving=True)
+    for picture in ("picWave", "Picture1"):
+        colours = set(np.unique(screen.look(window.control("TonmiraPicture", picture).place)))
+        assert {0x000000, 0xFFFFFF} <= colours

@@ -1,0 +1,66 @@
+"""A test is run again only where its recording was bad for reasons of its own, and it is said.
+
+What is heard wrong in a whole recording is wrong. Where the pilot broke while a test ran, what the
+test heard tells nothing about the program: its result does not count, good or bad, and it is taken
+again. Hooks for pytest; a recording test is one with a fixture "recorder".
+"""
+
+from _pytest.runner import runtestprotocol
+from _pytest.terminal import TerminalReporter
+from collections.abc import Iterator
+
+import pytest
+
+from rig.sound import Recorder
+
+TAKES = 5
+RETAKEN = "retaken"
+
+
+def recorder_of(item: pytest.Item) -> Recorder | None:
+    return getattr(item, "funcargs", {}).get("recorder")
+
+
+@pytest.hookimpl(hookwrapper=True)
+def pytest_runtest_setup(item: pytest.Item) -> Iterator[None]:
+    yield
+    recorder = recorder_of(item)
+    item.first_frame = recorder.frames() if recorder else 0
+
+
+@pytest.hookimpl(hookwrapper=True)
+def pytest_runtest_call(item: pytest.Item) -> Iterator[None]:
+    yield
+    recorder = recorder_of(item)
+    item.flaws = recorder.flaws(item.first_frame) if recorder else []
+
+
+def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> bool:
+    item.ihook.pytest_runtest_logstart(nodeid=item.nodeid, location=item.location)
+    retakes: list[str] = []
+    while True:
+        item.flaws = []
+        reports = runtestprotocol(item, log=False, nextitem=nextitem)
+        if not item.flaws or len(retakes) == TAKES - 1:
+            break
+        retakes.append(f"{len(item.flaws)} breaks, the first after {item.flaws[0]:.2f} s")
+        item._initrequest()
+    for report in reports:
+        if report.when == "call":
+            report.user_properties += [(RETAKEN, why) for why in retakes]
+            if item.flaws:
+                report.outcome = "failed"
+                report.longrepr = f"no whole recording in {TAKES} takes: " + "; ".join(retakes)
+        item.ihook.pytest_runtest_logreport(report=report)
+    item.ihook.pytest_runtest_logfinish(nodeid=item.nodeid, location=item.location)
+    return True
+
+
+def pytest_terminal_summary(terminalreporter: TerminalReporter) -> None:
+    lines = [f"{report.nodeid}: {why}" for reports in terminalreporter.stats.values()
+             for report in reports if getattr(report, "when", "") == "call"
+             for name, why in report.user_properties if name == RETAKEN]
+    terminalreporter.section("recordings")
+    terminalreporter.line(f"{len(lines)} taken again because the recording was not whole")
+    for line in lines:
+        terminalreporter.line("  " + line)

@@ -1,0 +1,76 @@
+"""A place of its own on this machine: one temporary folder, one environment, and processes that end
+with it. Several can stand side by side; nothing outside the folder is written."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+from contextlib import ExitStack
+from pathlib import Path
+
+from rig.processes import all_processes, end_process, environment_of
+
+# What runs here does not wait for other work of this machine, where the system lets us say so; the
+# sound card, as a real one, waits for nobody.
+AHEAD = ["chrt", "--rr", "1"]
+FIRST_OF_ALL = ["chrt", "--rr", "5"]
+
+
+def allowed(prefix: list[str]) -> list[str]:
+    """The prefix of a command, or nothing where this user may not use it."""
+    tried = subprocess.run([*prefix, "true"], check=False, stdout=subprocess.DEVNULL,
+                           stderr=subprocess.DEVNULL)
+    return prefix if tried.returncode == 0 else []
+
+
+class Session:
+    def __init__(self) -> None:
+        self.folder = Path(tempfile.mkdtemp(prefix="tonmira-rig-"))
+        self.at_end = ExitStack()
+        self.at_end.callback(shutil.rmtree, self.folder, ignore_errors=True)
+        self._ahead, self._first_of_all = allowed(AHEAD), allowed(FIRST_OF_ALL)
+        for name in ("home", "runtime", "tmp"):
+            (self.folder / name).mkdir(mode=0o700)
+        kept = {name: os.environ[name] for name in ("PATH", "USER") if name in os.environ}
+        self.env = {
+            **kept,
+            "LANG": "C.UTF-8",
+            "HOME": str(self.folder / "home"),
+            "TMPDIR": str(self.folder / "tmp"),
+            "XDG_RUNTIME_DIR": str(self.folder / "runtime"),
+            "TONMIRA_RIG": str(self.folder),
+        }
+
+    def close(self) -> None:
+        self.at_end.close()
+
+    def new_folder(self, name: str) -> Path:
+        """A new, empty folder whose name begins with `name`."""
+        return Path(tempfile.mkdtemp(prefix=name + "-", dir=self.folder))
+
+    def run(self, *command: str, timeout: float = 60, stderr: int | None = None) -> str:
+        """Runs a tool here and returns what it prints."""
+        return subprocess.run([*self._ahead, *command], env=self.env, stdin=subprocess.DEVNULL,
+                              check=True, timeout=timeout, stdout=subprocess.PIPE, stderr=stderr,
+                              text=True).stdout
+
+    def start(self, *command: str, first_of_all: bool = False,
+              **options: object) -> subprocess.Popen:
+        """Starts a process that ends with the session."""
+        options = {"stdin": subprocess.DEVNULL, "env": self.env, **options}
+        prefix = self._first_of_all if first_of_all else self._ahead
+        process = subprocess.Popen([*prefix, *command], start_new_session=True, **options)
+        self.at_end.callback(end_process, process)
+        return process
+
+    def put_first(self, process: subprocess.Popen) -> None:
+        """Does again for all threads of a process what it undid of `first_of_all` at its start."""
+        if self._first_of_all:
+            command, policy, priority = self._first_of_all
+            subprocess.run([command, "--all-tasks", policy, "--pid", priority, str(process.pid)],
+                           check=True)
+
+    def processes(self) -> list[int]:
+        """Every process that runs here, found by its environment."""
+        mark = f"TONMIRA_RIG={self.folder}".encode()
+        return [pid for pid in all_processes() if mark in environment_of(pid)]
