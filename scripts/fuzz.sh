@@ -32,7 +32,7 @@ fuzz() {
   build/fuzz/tests/fuzz/"$name"_fuzzer "$limit" -max_len="$most_bytes" -timeout=60 \
     -rss_limit_mb=256 -malloc_limit_mb=16 -dict="tests/fuzz/$name.dict" \
     -artifact_prefix="$findings/$name-" -print_final_stats=1 \
-    "$found" "tests/fuzz/corpus/$name" ${further_seeds[$name]:-} \
+    "$found" "tests/fuzz/corpus/$name" ${further_seeds[$name]:+"${further_seeds[$name]}"} \
     2>&1 | grep -vE '^#[0-9]+\s+(NEW|REDUCE|RELOAD) | # Uses: |^stat::(slowest|peak|new_units)' |
     sed '/^###### Recommended/,/^###### End/d'
 }

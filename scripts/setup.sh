@@ -4,7 +4,7 @@
 readonly python=/usr/bin/python3
 
 # What only looks at portable code.
-readonly portable_packages=(cmake g++ libgtest-dev make python3)
+readonly portable_packages=(clang cmake libclang-rt-dev libgtest-dev make python3)
 
 # What fuzzes it: Clang with libFuzzer.
 readonly fuzz_packages=(clang cmake libclang-rt-dev make)
@@ -66,12 +66,12 @@ build() {
 
 # Prints what the portable build lacks, on any system, in one line; nothing when all is there.
 missing_portable_tools() {
-  local missing=() compiler=${CXX:-c++}
+  local missing=() compiler=clang++
   command -v cmake >/dev/null || missing+=(cmake)
   command -v make >/dev/null || missing+=(make)
   [[ -x $python ]] || missing+=(python3)
   if ! command -v "$compiler" >/dev/null; then
-    missing+=(g++)
+    missing+=(clang libclang-rt-dev)
   elif ! echo '#include <gtest/gtest.h>' | "$compiler" -std=c++20 -fsyntax-only -x c++ - 2>/dev/null; then
     missing+=(libgtest-dev)
   fi
