@@ -6,6 +6,7 @@ namespace app {
 std::vector<lang::CaptionSlot> Form1::Captions() {
   using lang::Slot;
   std::vector<lang::CaptionSlot> captions;
+  captions.reserve(kToneModes.size());
   for (const ToneModeFacts& mode : kToneModes) {
     captions.push_back({mode.caption, &OptionOf(mode.mode)});
   }

@@ -7,6 +7,7 @@ namespace app {
 
 std::vector<ui::OptionButton*> Form1::Options() {
   std::vector<ui::OptionButton*> options;
+  options.reserve(kToneModes.size());
   for (const ToneModeFacts& mode : kToneModes) options.push_back(&OptionOf(mode.mode));
   return options;
 }

@@ -65,6 +65,7 @@ std::vector<std::string> WithAccessKeys(const std::vector<std::string>& captions
     }
   }
   std::vector<std::string> marked;
+  marked.reserve(candidates.size());
   for (const Candidate& candidate : candidates) marked.push_back(Marked(candidate));
   return marked;
 }

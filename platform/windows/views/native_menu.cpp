@@ -10,6 +10,7 @@ namespace {
 
 std::vector<std::string> CaptionsOf(const std::vector<ui::MenuItem*>& items) {
   std::vector<std::string> captions;
+  captions.reserve(items.size());
   for (const ui::MenuItem* item : items) {
     captions.push_back(item->IsSeparator() ? std::string() : item->Caption());
   }

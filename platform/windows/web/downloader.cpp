@@ -72,12 +72,13 @@ struct Service {
   DownloadCallback::Allocator allocate;
   DownloadFunction download;
 
-  Service() {
+  Service()
+      : download(
+            FunctionOf<DownloadFunction>(LoadSystemLibrary(L"urlmon.dll"), "URLDownloadToFileW")) {
     const HMODULE ole = LoadSystemLibrary(L"ole32.dll");
     initialize = FunctionOf<InitializeFunction>(ole, "CoInitializeEx");
     uninitialize = FunctionOf<UninitializeFunction>(ole, "CoUninitialize");
     allocate = FunctionOf<DownloadCallback::Allocator>(ole, "CoTaskMemAlloc");
-    download = FunctionOf<DownloadFunction>(LoadSystemLibrary(L"urlmon.dll"), "URLDownloadToFileW");
   }
 
   bool complete() const {
@@ -185,7 +186,7 @@ std::unique_ptr<RunningDownload> WindowsDownloader::Begin(const std::string& lin
   DWORD thread_id = 0;
   const KernelHandle thread = Own(CreateThread(nullptr, 0, RunJob, owner.get(), 0, &thread_id));
   if (thread) {
-    owner.release();
+    static_cast<void>(owner.release());
   } else {
     job->stage = Stage::kFailed;
   }
