@@ -24,6 +24,9 @@ readonly site_packages=(chromium chromium-driver fonts-liberation nginx openssl 
 readonly lint_packages=(clang clang-format clang-tidy cmake flake8 g++-mingw-w64-x86-64-win32 git make
   shellcheck)
 
+# What makes root filesystems, for other kinds of Wine.
+readonly root_packages=(debootstrap)
+
 heading() {
   printf '\n== %s\n' "$*"
 }

@@ -1,12 +1,14 @@
 """Where things are that the rig uses and makes."""
 
+import os
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
 
-# Built by the preset "windows".
-PROGRAM = PROJECT / "build" / "windows" / "tonmira" / "tonmira.exe"
-PARTS = PROJECT / "build" / "windows" / "rig"
+# Built by the preset "windows", if no other build is named.
+BUILD = Path(os.environ.get("TONMIRA_BUILD", PROJECT / "build" / "windows"))
+PROGRAM = BUILD / "tonmira" / "tonmira.exe"
+PARTS = BUILD / "rig"
 DRIVER = PARTS / "driver.exe"
 BARE_WINDOW = PARTS / "bare_window.exe"
 BARE_PLAYER = PARTS / "bare_player.exe"
