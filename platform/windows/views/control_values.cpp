@@ -31,7 +31,8 @@ void ShowListItems(HWND list, const ui::ListBox& list_box, const Appearance& app
   }
   SelectObject(context.get(), before);
   const int margin = appearance.Scale(8);
-  SendMessageW(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest) + static_cast<WPARAM>(margin), 0);
+  SendMessageW(list, LB_SETHORIZONTALEXTENT,
+               static_cast<WPARAM>(widest) + static_cast<WPARAM>(margin), 0);
 }
 
 }  // namespace
