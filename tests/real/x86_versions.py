@@ -1,5 +1,5 @@
-"""The 32-bit program on the versions of Windows that only it is for. Run by scripts/other_windows.sh;
-a 64-bit Wine is never one of these."""
+"""The 32-bit program on the versions of Windows that only it is for. Run by
+scripts/other_windows.sh; a 64-bit Wine is never one of these."""
 
 import subprocess
 from collections.abc import Callable, Iterator
@@ -35,8 +35,8 @@ def test_it_starts_and_tells_the_version(
             assert OLD_WARNING in warning.texts()
             user.activate(warning)
             user.click_button(warning, "OK")
-            wait_for(lambda handle=warning.handle: handle not in [w.handle for w in driver.windows()],
-                     "the end of the warning")
+            wait_for(lambda handle=warning.handle:
+                     handle not in [w.handle for w in driver.windows()], "the end of the warning")
     program.wait_for_log(">> Program starting finished")
     window = program.window(MAIN_TITLE)
     assert NUMBERS[version] in folders.log()
