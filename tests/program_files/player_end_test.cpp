@@ -3,7 +3,7 @@
 namespace program_files {
 namespace {
 
-const Tones kThree{{440, 500}, {880, 500}, {1760, 500}};
+const Tones kThreeTones{{440, 500}, {880, 500}, {1760, 500}};
 
 // The ways out: Exit and the window's frame, while it plays and afterwards.
 struct WayOut {
@@ -21,7 +21,7 @@ TEST_P(WayOutTest, EndsTheProgramAndLeavesNothingSounding) {
     const std::int64_t classic = std::string(mode) == "16" ? 1000 : 0;
     At(std::chrono::milliseconds(begin + GetParam().moment.count() + 3 * classic),
        GetParam().action);
-    EXPECT_TRUE(Open(ProgramWith(kThree), mode));
+    EXPECT_TRUE(Open(ProgramWith(kThreeTones), mode));
     EXPECT_TRUE(sim.processes.running.empty()) << mode;
     EXPECT_EQ(sim.waves.playing, "") << mode;
     EXPECT_FALSE(sim.files.Exists(kWave)) << mode;

@@ -19,11 +19,11 @@ std::string BytesOf(const Lines& lines) {
   return bytes;
 }
 
-const Lines kTune{"%valid%", "[info]", "{236}", "{My tune}", "{visible}", "[sound]",
-                  "{50}",    "<440>",  "\\500", "<880>",     "\\250"};
+const Lines kWholeTune{"%valid%", "[info]", "{236}", "{My tune}", "{visible}", "[sound]",
+                       "{50}",    "<440>",  "\\500", "<880>",     "\\250"};
 
-Lines With(std::size_t line, const std::string& text) {
-  Lines lines = kTune;
+Lines TuneWith(std::size_t line, const std::string& text) {
+  Lines lines = kWholeTune;
   lines[line - 1] = text;
   return lines;
 }
@@ -40,7 +40,7 @@ Lines TextsOf(const std::vector<Finding>& findings) {
 }
 
 TEST(ReadToneProgram, AGoodFileIsItsProgram) {
-  const ReadProgram read = ReadToneProgram(BytesOf(kTune));
+  const ReadProgram read = ReadToneProgram(BytesOf(kWholeTune));
   EXPECT_EQ(TextsOf(read.findings), Lines{});
   EXPECT_FALSE(read.given_up);
   EXPECT_EQ(read.lines, 11);
@@ -51,7 +51,7 @@ TEST(ReadToneProgram, AGoodFileIsItsProgram) {
 }
 
 TEST(ReadToneProgram, TheBytesMayComeInPiecesOfAnySize) {
-  const std::string bytes = BytesOf(With(9, "500"));
+  const std::string bytes = BytesOf(TuneWith(9, "500"));
   for (const std::size_t size : {1u, 2u, 3u, 50u, 5000u}) {
     BytesFile source(bytes, size);
     const ReadProgram read = ReadToneProgram(source);
@@ -72,7 +72,7 @@ class MistakeTest : public testing::TestWithParam<Mistake> {};
 
 TEST_P(MistakeTest, IsFoundWhereItIs) {
   const auto& [name, line, text, findings] = GetParam();
-  EXPECT_EQ(TextsOf(ReadToneProgram(BytesOf(With(line, text))).findings), findings);
+  EXPECT_EQ(TextsOf(ReadToneProgram(BytesOf(TuneWith(line, text))).findings), findings);
 }
 
 const std::string kPitchMark = "expected a line that begins with \"<\" and a pitch, found ";
@@ -144,22 +144,22 @@ TEST(ReadToneProgram, NothingAtAllLacksFiveLines) {
   EXPECT_EQ(read.lines, 0);
 }
 
-Lines Long(std::size_t count) {
-  Lines lines(kTune.begin(), kTune.begin() + 7);
+Lines LongProgram(std::size_t count) {
+  Lines lines(kWholeTune.begin(), kWholeTune.begin() + 7);
   while (lines.size() + 2 <= count) lines.insert(lines.end(), {"<440>", "\\1"});
   if (lines.size() < count) lines.push_back("last");
   return lines;
 }
 
 TEST(ReadToneProgram, TheLongestFileHas1999Lines) {
-  const ReadProgram read = ReadToneProgram(BytesOf(Long(1999)));
+  const ReadProgram read = ReadToneProgram(BytesOf(LongProgram(1999)));
   EXPECT_EQ(TextsOf(read.findings), Lines{});
   EXPECT_EQ(read.lines, 1999);
   EXPECT_EQ(read.program.tones.size(), 996u);
 }
 
 TEST(ReadToneProgram, Line2000IsAFindingAndTheRestIsChecked) {
-  Lines lines = Long(2000);
+  Lines lines = LongProgram(2000);
   lines[7] = "<1>";
   const ReadProgram read = ReadToneProgram(BytesOf(lines));
   EXPECT_EQ(TextsOf(read.findings), (Lines{"i 2000:1: expected at most 1999 lines, found last",
@@ -206,8 +206,8 @@ TEST(ReadToneProgram, MoreTextIsNotReadToItsEnd) {
 }
 
 TEST(ReadToneProgram, SixteenMebibytesOfTextAreRead) {
-  std::string bytes = BytesOf(kTune);
-  const std::size_t text = bytes.size() - 2 * kTune.size();
+  std::string bytes = BytesOf(kWholeTune);
+  const std::size_t text = bytes.size() - 2 * kWholeTune.size();
   const std::string name((16u << 20) - text, 'x');
   bytes.insert(bytes.find("My"), name);
   EXPECT_TRUE(ReadToneProgram(bytes).findings.empty());

@@ -20,14 +20,14 @@ namespace {
 constexpr int kExtraTimeMs = 10;
 constexpr int kRestHz = 22050;
 
-using Tone = Tones::value_type;
+using PitchAndTime = Tones::value_type;
 
 struct Sample {
   std::string file;
   int lines;
   int tones;
-  Tone first;
-  Tone last;
+  PitchAndTime first;
+  PitchAndTime last;
   int length_ms;  // of the whole, extra times included
 };
 
@@ -101,9 +101,9 @@ TEST(SamplesTest, NoCheckFailsAndTheTonesAreTheExpectedOnes) {
     const Tones tones = TonesOf(parsed.program);
     EXPECT_EQ(tones.front(), sample.first);
     EXPECT_EQ(tones.back(), sample.last);
-    const int length_ms =
-        std::accumulate(tones.begin(), tones.end(), 0,
-                        [](int sum, const Tone& tone) { return sum + tone.second + kExtraTimeMs; });
+    const int length_ms = std::accumulate(
+        tones.begin(), tones.end(), 0,
+        [](int sum, const PitchAndTime& tone) { return sum + tone.second + kExtraTimeMs; });
     EXPECT_EQ(length_ms, sample.length_ms);
   }
 }
@@ -182,8 +182,9 @@ TEST(SamplesTest, OdeToJoyBeginsInItsRhythm) {
 TEST(SamplesTest, NoNoteRunsIntoItsOwnRepetition) {
   for (const Sample& sample : kSamples) {
     const Tones tones = TonesIn(sample.file);
-    EXPECT_EQ(std::adjacent_find(tones.begin(), tones.end(),
-                                 [](const Tone& a, const Tone& b) { return a.first == b.first; }),
+    EXPECT_EQ(std::adjacent_find(
+                  tones.begin(), tones.end(),
+                  [](const PitchAndTime& a, const PitchAndTime& b) { return a.first == b.first; }),
               tones.end())
         << sample.file;
   }
