@@ -11,8 +11,8 @@ namespace {
 using lang::FileOf;
 using platform::simulated::Operation;
 
-constexpr char kDutch[] = "lng_nl.dll";
-constexpr char kEnglish[] = "lng_en.dll";
+constexpr char kDutchTexts[] = "lng_nl.dll";
+constexpr char kEnglishTexts[] = "lng_en.dll";
 
 class LanguageMenuTest : public ProgramTest {
  protected:
@@ -25,7 +25,7 @@ class LanguageMenuTest : public ProgramTest {
 
 TEST_F(LanguageMenuTest, EverySlotOfTheMainWindowTakesItsText) {
   UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   Run();
   for (std::size_t i = 0; i < 9; ++i) {
     EXPECT_EQ(main().Options()[i]->Caption(), "text " + std::to_string(4 + i));
@@ -51,7 +51,7 @@ TEST_F(LanguageMenuTest, EverySlotOfTheMainWindowTakesItsText) {
 
 TEST_F(LanguageMenuTest, TheMessageTextsDescribeTheModes) {
   UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [](Form1& form1) {
     for (std::size_t i = 0; i < 9; ++i) {
       form1.Options()[i]->Click();
@@ -63,8 +63,8 @@ TEST_F(LanguageMenuTest, TheMessageTextsDescribeTheModes) {
 }
 
 TEST_F(LanguageMenuTest, TheHelpWindowIsTranslatedOnlyInDutch) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  sim.files.Put(kEnglish, FileOf("en", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
+  sim.files.Put(kEnglishTexts, FileOf("en", 79));
   At(1s, [this](Form1& form1) {
     form1.HelpRequested();
     EXPECT_EQ(program->form2.Label1.Caption(), "How to make a tone");
@@ -83,7 +83,7 @@ TEST_F(LanguageMenuTest, TheHelpWindowIsTranslatedOnlyInDutch) {
 }
 
 TEST_F(LanguageMenuTest, TheMorseToolIsTranslatedOnlyInDutch) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [this](Form1& form1) {
     program->form4.Show();
     EXPECT_EQ(program->form4.Label2.Caption(), "Pitch (Hertz):");
@@ -104,7 +104,7 @@ TEST_F(LanguageMenuTest, TheMorseToolIsTranslatedOnlyInDutch) {
 }
 
 TEST_F(LanguageMenuTest, AnotherWindowNumberChangesNoControlButTakesTheMessageTexts) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [](Form1& form1) {
     form1.LoadCaptions("nl", 7);
     EXPECT_EQ(form1.Option1.Caption(), "Low pitch");
@@ -115,7 +115,7 @@ TEST_F(LanguageMenuTest, AnotherWindowNumberChangesNoControlButTakesTheMessageTe
 }
 
 TEST_F(LanguageMenuTest, TheDutchMenuTranslatesWhatIsShownAndKeepsTheSetting) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [this](Form1& form1) {
     form1.Option3.Click();
     form1.dutch.Click();
@@ -128,7 +128,7 @@ TEST_F(LanguageMenuTest, TheDutchMenuTranslatesWhatIsShownAndKeepsTheSetting) {
 }
 
 TEST_F(LanguageMenuTest, SwitchingWithAToolSelectedKeepsItsPlayCaption) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [](Form1& form1) {
     form1.Option8.Click();
     form1.dutch.Click();
@@ -138,7 +138,7 @@ TEST_F(LanguageMenuTest, SwitchingWithAToolSelectedKeepsItsPlayCaption) {
 }
 
 TEST_F(LanguageMenuTest, OpenWindowsKeepTheirLanguageUntilTheyAreOpenedAgain) {
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [this](Form1& form1) {
     form1.HelpRequested();
     form1.dutch.Click();
@@ -152,7 +152,7 @@ TEST_F(LanguageMenuTest, OpenWindowsKeepTheirLanguageUntilTheyAreOpenedAgain) {
 
 TEST_F(LanguageMenuTest, EnglishWithoutItsFileLeavesTheDutchCaptionsUntilTheNextStart) {
   UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
   At(1s, [](Form1& form1) {
     form1.english.Click();
     EXPECT_EQ(form1.Option1.Caption(), "text 4");
@@ -165,8 +165,8 @@ TEST_F(LanguageMenuTest, EnglishWithoutItsFileLeavesTheDutchCaptionsUntilTheNext
 
 TEST_F(LanguageMenuTest, AReadErrorIsReportedUnderItsErrorValue) {
   UseDutch();
-  sim.files.Put(kDutch, FileOf("nl", 79));
-  sim.files.Fail(Operation::kRead, kDutch, base::ErrorCode::kDeviceError);
+  sim.files.Put(kDutchTexts, FileOf("nl", 79));
+  sim.files.Fail(Operation::kRead, kDutchTexts, base::ErrorCode::kDeviceError);
   sim.At(100ms, [this] { program->form6.Command1.Click(); });
   EXPECT_TRUE(Run());
   EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  57,   Error value:  1015");

@@ -12,7 +12,7 @@ inline const std::string kUpdateAddress = "https://www.tonmira.example/updateton
 inline const std::string kTestAddress = "https://www.tonmira.example/testcon.dat";
 inline constexpr char kUpdateFile[] = "C:\\Temp\\updatetonmira.txt";
 inline constexpr char kTestFile[] = "C:\\Temp\\testcon.dat";
-inline constexpr char kHandOver[] = "C:\\Temp\\snd.ini";
+inline constexpr char kUploadHandOver[] = "C:\\Temp\\snd.ini";
 
 class OnlineTest : public ProgramTest {
  protected:

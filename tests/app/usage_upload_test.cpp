@@ -25,7 +25,7 @@ TEST_F(UsageUploadTest, WithConsentTheLogIsHandedOverWhenTheProgramEnds) {
   CloseAt(1s);
   EXPECT_TRUE(Run());
   // 0.5 * 5 s * 14 h * 20th of the month + 1 = 701
-  EXPECT_EQ(sim.files.Get(kHandOver), "C:\\Temp\\userdata.txt\r\n701.txt\r\n");
+  EXPECT_EQ(sim.files.Get(kUploadHandOver), "C:\\Temp\\userdata.txt\r\n701.txt\r\n");
   EXPECT_EQ(Started(), (Lines{kUploadProgram, "end"}));
 }
 
@@ -33,7 +33,7 @@ TEST_F(UsageUploadTest, WithoutConsentNothingIsHandedOverAndNoProcessIsStarted) 
   PutSettings("n", "n");
   CloseAt(1s);
   EXPECT_TRUE(Run());
-  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_FALSE(sim.files.Exists(kUploadHandOver));
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
@@ -41,7 +41,7 @@ TEST_F(UsageUploadTest, BeforeTheUserWasAskedNothingIsHandedOver) {
   for (const std::string& settings : {std::string(), std::string("damaged\r\nSendData=y\r\n")}) {
     sim.files.Put(kSettings, settings);
     Run();
-    EXPECT_FALSE(sim.files.Exists(kHandOver));
+    EXPECT_FALSE(sim.files.Exists(kUploadHandOver));
     for (const std::string& text : Started()) EXPECT_EQ(text.find("upsend"), std::string::npos);
   }
 }
@@ -51,7 +51,7 @@ TEST_F(UsageUploadTest, ConsentInAFileThatIsDamagedFurtherDownDoesNotCount) {
                 "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=EN\r\nSendData=y\r\nMicrophone=99\r\n"
                 "MicrophoneON=n\r\n");
   Run();
-  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_FALSE(sim.files.Exists(kUploadHandOver));
 }
 
 TEST_F(UsageUploadTest, TheLogIsHandedOverBeforeTheWindowsGo) {
@@ -70,11 +70,11 @@ TEST_F(UsageUploadTest, TerminateHandsTheLogOverOnlyWithConsent) {
   for (const std::int16_t flag : {std::int16_t{1}, std::int16_t{0}}) {
     Run();
     sim.journal.Clear();
-    sim.files.Delete(kHandOver);
+    sim.files.Delete(kUploadHandOver);
     settings::MainState state;
     state.SendData = flag;
     EXPECT_TRUE(RunTerminate(state));
-    EXPECT_EQ(sim.files.Exists(kHandOver), flag == 1);
+    EXPECT_EQ(sim.files.Exists(kUploadHandOver), flag == 1);
     EXPECT_EQ(Started(), flag == 1 ? (Lines{kUploadProgram, "end"}) : (Lines{"end"}));
   }
 }
@@ -95,7 +95,7 @@ TEST_F(UsageUploadTest, ANumberThatDoesNotFitGoesToTheErrorTrap) {
   // of the shutdown that meets it, and nobody is left to meet it a third time.
   EXPECT_TRUE(Run());
   EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '6':\r\n\r\nOverflow"}));
-  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_FALSE(sim.files.Exists(kUploadHandOver));
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
@@ -112,7 +112,7 @@ TEST_F(UsageUploadTest, ANumberThatDoesNotFitOnceIsReportedAndTheErrorDialogEnds
   EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  6,   Error value:  106");
   EXPECT_EQ(Messages(), (Lines{"critical yes/no [Error] Do you want to forcibly close tonmira?"}));
   // What went to the maker is the error, under the number that did fit.
-  EXPECT_EQ(sim.files.Get(kHandOver), "error.log\r\n1error.log\r\n");
+  EXPECT_EQ(sim.files.Get(kUploadHandOver), "error.log\r\n1error.log\r\n");
 }
 
 TEST_F(UsageUploadTest, WithConsentAnErrorIsHandedOver) {
@@ -136,7 +136,7 @@ TEST_F(UsageUploadTest, AnErrorIsNeverHandedOverWithoutConsent) {
   });
   LeaveTheErrorDialogAt(2s);
   EXPECT_TRUE(Run());
-  EXPECT_FALSE(sim.files.Exists(kHandOver));
+  EXPECT_FALSE(sim.files.Exists(kUploadHandOver));
   EXPECT_EQ(Started(), (Lines{"end"}));
 }
 
