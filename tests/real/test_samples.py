@@ -18,8 +18,9 @@ BUILDS = {
 def output(command: list[str], **options: object) -> str:
     """What a command prints that computes for a long time. It does not go ahead of others, as what
     else runs on a rig does: another one may be listening to something at this moment."""
-    return subprocess.run(command, check=True, text=True, timeout=600, stdin=subprocess.DEVNULL,
-                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, **options).stdout.strip()
+    done = subprocess.run(command, check=True, text=True, timeout=600, stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, **options)
+    return done.stdout.strip()
 
 
 def test_every_build_makes_the_samples_of_the_plain_formula(rig: Rig, tmp_path: Path) -> None:
