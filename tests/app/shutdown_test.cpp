@@ -116,6 +116,13 @@ TEST_F(ShutdownTest, TheFirstCloseAsksNothing) {
   EXPECT_TRUE(Messages().empty());
 }
 
+TEST_F(ShutdownTest, TerminateEndsAProgramWhoseMainWindowIsNotThere) {
+  program = std::make_unique<Application>(sim.services);
+  settings::MainState state;
+  EXPECT_TRUE(RunTerminate(state));
+  EXPECT_EQ(sim.journal.Texts({Kind::kWindow, Kind::kProcess}), Lines{"end"});
+}
+
 TEST_F(ShutdownTest, AProgramThatShowsNoWindowEndsItself) {
   At(100ms, [](Form1& form1) { form1.Hide(); });
   EXPECT_TRUE(Run());

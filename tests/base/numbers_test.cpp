@@ -51,6 +51,7 @@ TEST(Numbers, LeadingNumberTakesTheLongestPrefix) {
       {"1e", 1},
       {"1e+", 1},
       {"1d2", 100},
+      {"1D2", 100},
       {"1E-2x", 0.01},
       {"0x10", 0},
       {"12 34", 12},
