@@ -5,15 +5,34 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 readonly rigs=${TONMIRA_RIGS:-3}
-options=(-q -p no:cacheprovider --durations=5 -n "$rigs" --dist loadfile)
+# These keep a processor busy for a minute, at the rig's priority: nobody should listen beside them.
+readonly busy=(tests/real/test_samples.py tests/real/test_surroundings.py)
+readonly no_tests_chosen=5
+
+options=(-q -p no:cacheprovider --durations=5 --dist loadfile)
 if [[ ${1:-} && $1 != -* ]]; then
   options+=(-k "$1")
-  shift
 fi
+(($# == 0)) || [[ $1 == -* ]] || shift
 
 # What judges does not wait for what else the machine does, where that is allowed.
 ahead=(nice -n -10)
 "${ahead[@]}" true 2>/dev/null || ahead=()
 
 export PYTHONDONTWRITEBYTECODE=1
-exec "${ahead[@]}" /usr/bin/python3 -m pytest "${options[@]}" tests/rig tests/real "$@"
+chosen=0
+failed=0
+
+# tests PYTEST_ARGUMENT...
+tests() {
+  local code=0
+  "${ahead[@]}" /usr/bin/python3 -m pytest "${options[@]}" "$@" || code=$?
+  if ((code != no_tests_chosen)); then
+    chosen=1
+    ((code == 0)) || failed=1
+  fi
+}
+
+tests -n "$rigs" "${busy[@]/#/--ignore=}" tests/rig tests/real "$@"
+tests -n 2 "${busy[@]}" "$@"
+((chosen == 1 && failed == 0))

@@ -24,7 +24,7 @@ def streams(session: Session) -> list[Stream]:
     found = []
     for block in session.run("pactl", "list", "sink-inputs").split("Sink Input #")[1:]:
         application = re.search(r'application\.name = "(.*)"', block)
-        samples = re.search(r"Sample Specification: (\S+)", block)
+        samples = re.search(r"Sample \w+: (\S+)", block)
         if application and samples and application[1] != "pacat":
             found.append(Stream(int(block.split("\n")[0]), application[1], samples[1]))
     return found
