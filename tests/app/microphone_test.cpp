@@ -263,16 +263,21 @@ TEST_F(MicrophoneTest, WhileATonePlaysThePictureGoesOn) {
 }
 
 TEST_F(MicrophoneTest, ClosingTheProgramEndsCaptureBeforeItsFilesGo) {
-  sim.files.Put("C:\\Temp\\tnftmp.wav", "left");
-  At(1s, [this](Form1& form1) {
-    sim.journal.Clear();
-    form1.Close();
-  });
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(
-      sim.journal.Texts({Kind::kWindow, Kind::kSound, Kind::kFile, Kind::kProcess}),
-      (Lines{"Form1 hidden", "capture stop", "delete C:\\Temp\\tnftmp.wav", "stop 0x2", "end"}));
-  EXPECT_EQ(sim.sound_capture.live_objects, 0);
+  // Whether the settings or the menu switched it on.
+  for (const char* on : {"y", "n"}) {
+    sim.files.Put(kSettings, SettingsWith("1", on));
+    sim.files.Put("C:\\Temp\\tnftmp.wav", "left");
+    At(std::chrono::milliseconds(sim.pump.now_ms()) + 1s, [this](Form1& form1) {
+      if (!form1.microinputonoff.Checked()) form1.microinputonoff.Click();
+      sim.journal.Clear();
+      form1.Close();
+    });
+    EXPECT_TRUE(Run());
+    EXPECT_EQ(
+        sim.journal.Texts({Kind::kWindow, Kind::kSound, Kind::kFile, Kind::kProcess}),
+        (Lines{"Form1 hidden", "capture stop", "delete C:\\Temp\\tnftmp.wav", "stop 0x2", "end"}));
+    EXPECT_EQ(sim.sound_capture.live_objects, 0);
+  }
 }
 
 TEST_F(MicrophoneTest, WithAFileOnTheCommandLineCaptureStartsAllTheSame) {
