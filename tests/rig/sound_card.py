@@ -38,10 +38,14 @@ def start_sound_card(session: Session) -> None:
     script.write_text(SOUND_CARD.format(
         socket=socket, rate=RATE, card_map=f"channel_map={CHANNELS}",
         out_map=f"channel_map={STEREO} master_channel_map={STEREO}"))
+    # Ahead of everything as it is, it would be ended after 200 ms without a pause.
+    settings = session.folder / "daemon.conf"
+    settings.write_text("rlimit-rttime = -1\n")
     server = session.start(
         "pulseaudio", "-n", "--file", str(script), "--daemonize=no", "--system=no",
         "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no", "--high-priority=no",
-        "--disallow-exit", "--log-level=error", stderr=subprocess.DEVNULL, first_of_all=True)
+        "--disallow-exit", "--log-level=error", stderr=subprocess.DEVNULL, first_of_all=True,
+        env={**session.env, "PULSE_CONFIG": str(settings)})
     wait_for(socket.exists, "the sound server")
     wait_for(lambda: "sink_name=mic" in modules_of(session), "the sound devices")
     session.put_first(server)
