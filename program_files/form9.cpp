@@ -43,7 +43,6 @@ void Form9::LoadProgram() {
   Command1.SetEnabled(false);
   Parse();
   if (program_.hidden_flag == 0 && !closes_after_loading_) Show();
-  Label1.SetCaption("0");
   PlayUntilDone();
   if (program_.hidden_flag == 1) Unload();
 }

@@ -12,6 +12,7 @@ import shlex
 import shutil
 import signal
 import subprocess
+import threading
 import time
 from dataclasses import dataclass
 from pathlib import Path
@@ -56,6 +57,8 @@ class Project:
         self.source = Path(work) / "source"
         self.build = Path(work) / "build"
         self.root = Path(root)
+        self.costs = {}  # seconds, by filter
+        self.cost_lock = threading.Lock()
 
     def prepare(self, jobs):
         self._copy()
@@ -112,8 +115,18 @@ class Project:
 
     def baseline(self):
         """The processor time of all tests without a mutation, in seconds; all must pass."""
+        return self._cost("*")
+
+    def _cost(self, tests):
+        """The processor time of these tests without a mutation, in seconds."""
+        with self.cost_lock:
+            if tests not in self.costs:
+                self.costs[tests] = self._measured(tests)
+            return self.costs[tests]
+
+    def _measured(self, tests):
         before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
-        code, output = self._run(self.link_folder / PROGRAM, "*", 600)
+        code, output = self._run(self.link_folder / PROGRAM, tests, 600)
         if code != 0:
             raise RuntimeError(f"fails without a mutation: {first_failure(output)}")
         return resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
@@ -143,8 +156,10 @@ class Project:
         program = folder / "mutant"
         if not self._build(mutation, folder, program):
             return Result("stillborn", "", time.monotonic() - begin)
-        limit = int(20 + 3 * baseline)
         for tests in self.filters(room):
+            # What a room's own tests take is little, and most mutations without an end are theirs.
+            cost = baseline if tests.startswith("-") else self._cost(tests)
+            limit = int(5 + 3 * cost)
             code, output = self._run(program, tests, limit)
             if code == 0:
                 continue
