@@ -91,7 +91,9 @@ def _conditions_and_calls(source, tokens):
         if previous in (None, ";", "{", "}", ")", "else", "do") and text not in KEYWORDS:
             call = CALL.match(source, token.start())
             closing = _closing(source, call.end() - 1) if call else None
-            if closing and source[closing + 1:closing + 2] == ";" and _at_line_start(source, token):
+            makes_room = call and call.group().endswith("reserve(")  # changes no result
+            alone = closing and source[closing + 1:closing + 2] == ";"
+            if alone and not makes_room and _at_line_start(source, token):
                 yield token.start(), closing + 2, ";", "call"
         previous = text
 

@@ -60,6 +60,10 @@ def test_a_statement_that_is_one_call_goes():
     assert ("call", "if (a) ;") in changes("if (a) b();")
 
 
+def test_making_room_beforehand_is_left_alone():
+    assert changes("void f() {\n  names.reserve(a);\n}\n") == set()
+
+
 def test_a_declaration_is_no_call():
     assert changes("void f() {\n  std::string text(other);\n}\n") == set()
 
