@@ -194,6 +194,7 @@ TEST(ValueText, ALongTextIsWhole) {
 TEST(ValueText, ANumberIsItsHexadecimalDigitsMostSignificantByteFirst) {
   const std::vector<std::pair<std::string, std::string>> cases{{"\x2A\0\0\0"s, "&h0000002A"},
                                                                {"\x78\x56\x34\x12", "&h12345678"},
+                                                               {"\x10\x9A\xBC\xE0", "&hE0BC9A10"},
                                                                {"\xFF\xFF\xFF\xFF", "&hFFFFFFFF"},
                                                                {"\0\0\0\0"s, "&h00000000"}};
   for (const auto& [data, text] : cases) {

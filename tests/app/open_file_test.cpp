@@ -1,5 +1,6 @@
 // Opening a tone program: from the main window's menu, and by the command line.
 #include "tests/app/play_fixture.h"
+#include "tests/lang/file_of.h"
 
 namespace app {
 namespace {
@@ -97,6 +98,24 @@ TEST_F(OpenFileTest, WhileATonePlaysItPlaysOnAndCannotBeStartedTwice) {
   });
   EXPECT_FALSE(Run());
   EXPECT_EQ(sim.waves.playing, "");
+}
+
+TEST_F(OpenFileTest, InDutchTheStatusOfATonePlayingStays) {
+  std::string settings = GoodSettings("256");
+  settings.replace(settings.find("=EN"), 3, "=NL");
+  sim.files.Put(kSettings, settings);
+  sim.files.Put("lng_nl.dll", lang::FileOf("nl", 82));
+  At(1s, [](Form1& form1) {
+    form1.Option3.Click();
+    form1.Command2.Click();
+  });
+  At(1500ms, [](Form1& form1) {
+    EXPECT_EQ(form1.StatusBar1.Caption(), "text 29 10000");
+    form1.openfile.Click();
+    EXPECT_EQ(form1.StatusBar1.Caption(), "text 29 10000");
+    form1.Command3.Click();
+  });
+  EXPECT_FALSE(Run());
 }
 
 TEST_F(OpenFileTest, ACopyThatCannotBeStartedIsReported) {
