@@ -1,10 +1,11 @@
-// Notices that the hand-over file is gone.
+// Notices that the hand-over file is gone, or is another one by now.
 #pragma once
 
 namespace helpers {
 
 // The file may be missing for a moment while it is rewritten, so it is gone only when two looks in
-// a row, `kLookEvery` apart or more, have missed it.
+// a row, `kLookEvery` apart or more, have missed it. One with another request is not the one that was
+// read, and missed, too.
 class RequestWatch {
  public:
   static constexpr unsigned kLookEvery = 50;  // ms

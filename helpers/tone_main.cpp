@@ -1,5 +1,6 @@
-// tone16.dll and tone32.dll: plays what the hand-over file asks for until it is terminated. Ends at
-// once with kNoRequest if that file is missing or holds anything else.
+// tone16.dll and tone32.dll: plays what the hand-over file asks for until it is terminated, that file
+// is gone or who started it has ended. Ends at once with kNoRequest if the file is missing or holds
+// anything else.
 #include <cstdint>
 #include <optional>
 
@@ -18,7 +19,7 @@ constexpr helpers::AtTop kAtTop =
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
   SetErrorMode(SEM_FAILCRITICALERRORS);
-  const helpers::RequestFile file;
+  helpers::RequestFile file;
   const std::optional<std::uint32_t> request = file.Read();
   if (!request) return kNoRequest;
   helpers::EndBusyPointer();

@@ -34,6 +34,13 @@ void ToneStream::Fill(std::span<Frame> frames) {
   for (Frame& frame : frames) frame = Next();
 }
 
+void ToneStream::SkipTo(std::uint32_t elapsed_ms) {
+  if (!sweep_) return;
+  const std::uint32_t steps = elapsed_ms / 1000 * kSweepStepsPerSecond +
+                              elapsed_ms % 1000 * kSweepStepsPerSecond / 1000;
+  for (std::uint32_t step = 0; step < steps && !at_top_; ++step) NextStep();
+}
+
 bool ToneStream::Heard(std::uint32_t pitch_hz) const {
   return !at_top_ && pitch_hz <= kHighestPitch && Carries(carried_rate_hz_, pitch_hz);
 }

@@ -42,6 +42,10 @@ class ToneStream {
 
   void Fill(std::span<Frame> frames);
 
+  // Puts a sweep at the beginning of the step that it plays this long after its own beginning; a tone
+  // has no such steps.
+  void SkipTo(std::uint32_t elapsed_ms);
+
   // The last step of a sweep is over.
   bool AtTop() const { return at_top_; }
 

@@ -57,16 +57,19 @@ void WaveDevice::Close() {
   waveOutReset(device_);
   for (Buffer& buffer : buffers_) waveOutUnprepareHeader(device_, &buffer.header, sizeof(WAVEHDR));
   waveOutClose(device_);
+  for (Buffer& buffer : buffers_) buffer.header = {};
   device_ = nullptr;
 }
 
-bool WaveDevice::Feed(ToneStream& stream) {
+std::optional<std::uint32_t> WaveDevice::Feed(ToneStream& stream) {
+  std::uint32_t fed = 0;
   for (Buffer& buffer : buffers_) {
     if (Queued(buffer.header)) continue;
     stream.Fill({buffer.frames.data(), buffer.header.dwBufferLength / sizeof(Frame)});
-    if (waveOutWrite(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR) return false;
+    if (waveOutWrite(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR) return std::nullopt;
+    ++fed;
   }
-  return true;
+  return fed;
 }
 
 bool WaveDevice::Played() const {

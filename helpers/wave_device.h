@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "helpers/rates.h"
 #include "helpers/tone_stream.h"
@@ -27,8 +28,12 @@ class WaveDevice {
   // if that cannot be had; another rate may be tried then.
   bool Open(std::uint32_t rate_hz);
 
-  // Fills every buffer that is free and plays it. False if the device refuses (it was unplugged).
-  bool Feed(ToneStream& stream);
+  // Fills every buffer that is free and plays it; how many these were. Nothing if the device refuses
+  // (it was unplugged).
+  std::optional<std::uint32_t> Feed(ToneStream& stream);
+
+  // What has not been played yet is lost.
+  void Close();
 
   // All that was fed has been played.
   bool Played() const;
@@ -46,7 +51,6 @@ class WaveDevice {
   };
 
   bool Prepare(std::uint32_t rate_hz);
-  void Close();
 
   platform::windows::KernelHandle freed_;  // event: a buffer was played
   HWAVEOUT device_ = nullptr;

@@ -117,6 +117,30 @@ TEST(ToneStream, IsTheSameInBuffersOfAnySize) {
   }
 }
 
+TEST(ToneStream, ASweepThatLostItsDeviceGoesOnWhereItWouldBe) {
+  // 5 s at 5 steps a second are 25 steps above 200 Hz: 5200 Hz, one rise for each turn.
+  const auto stream = Stream(kSweep, 96000);
+  stream->SkipTo(5100);
+  const Samples samples = Take(*stream, 96000 / 5);
+  int rises = 0;
+  for (std::size_t n = 1; n < samples.size(); ++n) rises += samples[n - 1] < 0 && samples[n] >= 0;
+  EXPECT_NEAR(rises, 5200 / 5, 1);
+}
+
+TEST(ToneStream, ASweepWhoseTimeIsOverIsAtItsTop) {
+  const auto stream = Stream(kSweep, 96000);
+  stream->SkipTo(31999);
+  EXPECT_FALSE(stream->AtTop());
+  stream->SkipTo(0xFFFFFFFF);
+  EXPECT_TRUE(stream->AtTop());
+}
+
+TEST(ToneStream, AToneKnowsNoTime) {
+  const auto stream = Stream(440, 44100);
+  stream->SkipTo(5000);
+  EXPECT_EQ(Take(*stream, 1000), Take(*Stream(440, 44100), 1000));
+}
+
 TEST(ToneStream, BeginsSoftly) {
   const auto stream = Stream(11025, 44100);  // a quarter turn per frame: 0, 30000, 0, -30000
   const Samples samples = Take(*stream, 230);

@@ -1,6 +1,7 @@
 #include "platform/windows/system/processes.h"
 
 #include "base/errors.h"
+#include "base/owner_text.h"
 #include "platform/windows/api/handles.h"
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/api/windows_api.h"
@@ -30,7 +31,19 @@ void StartCommand(const wchar_t* program, const std::string& command, WORD show)
   CloseHandle(process.hProcess);
 }
 
+base::Owner ThisProcess() {
+  FILETIME began{};
+  FILETIME ignored{};
+  GetProcessTimes(GetCurrentProcess(), &began, &ignored, &ignored, &ignored);
+  return {GetCurrentProcessId(),
+          static_cast<std::uint64_t>(began.dwHighDateTime) << 32 | began.dwLowDateTime};
+}
+
 }  // namespace
+
+WindowsProcesses::WindowsProcesses() {
+  SetEnvironmentVariableA(base::kOwner, base::OwnerText(ThisProcess()).c_str());
+}
 
 std::vector<ProcessEntry> WindowsProcesses::Snapshot() {
   std::vector<ProcessEntry> processes;

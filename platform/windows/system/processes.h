@@ -7,6 +7,9 @@ namespace platform::windows {
 
 class WindowsProcesses final : public Processes {
  public:
+  // From then on every program that this one starts can tell whose it is (base/owner_text.h).
+  WindowsProcesses();
+
   std::vector<ProcessEntry> Snapshot() override;
   bool Terminate(std::uint32_t id) override;
   void Start(const std::string& command) override;
