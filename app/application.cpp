@@ -1,5 +1,6 @@
 #include "app/application.h"
 
+#include "app/leftovers.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -18,13 +19,15 @@ Application::Application(platform::Platform& platform, lang::Languages languages
       form8(platform.windows),
       form3(platform, state_, errors_, languages, form8),
       form7(platform, errors_),
-      form9(platform, state_, form1, {[this] { form3.Unload(); }, [this] { UnloadAll(); }}),
+      form9(platform, state_, form1,
+            {[this] { form3.Unload(); }, [this] { UnloadAll(); }}),
       frm_about(platform, errors_,
                 [this] { form1.LoadCaptions(state_.language, lang::kAboutBox); }) {
   const std::initializer_list<ui::Window*> windows{&form1, &form2, &form3, &form4, &form5,
                                                    &form6, &form7, &form8, &form9, &frm_about};
   for (ui::Window* window : windows) {
     window->OnUntrappedError = [this](const base::RuntimeError& error) { EndAfter(error); };
+    window->OnSessionEnd = [this] { EndSession(); };
   }
 }
 
@@ -107,6 +110,13 @@ std::string Application::CommandLine(platform::Platform& platform) {
 void Application::UnloadAll() {
   form1.Unload();
   UnloadOthers();
+}
+
+void Application::EndSession() {
+  state_.stop_flag = 1;
+  tone::RouteSupport(platform_, state_, form1).KillAll();
+  Leftovers(platform_).ClearAtEnd(state_);
+  platform_.processes.EndProcess();
 }
 
 // Nobody could be told of a browser that does not start: this is the error dialog already.

@@ -59,6 +59,9 @@ class Application : public settings::ErrorScene {
   void Translate(std::int16_t formval);
   void UnloadOthers();
   void UnloadAll();
+
+  // Silence, no file left behind, gone: nothing is started then, and nobody is asked or told.
+  void EndSession();
   void EndAfter(const base::RuntimeError& error);
   void VisitSite();
 };

@@ -65,9 +65,9 @@ std::int16_t Form1::TakePitch(const ToneModeFacts& mode) {
 }
 
 void Form1::StartHearingTest() {
-  platform_.Texts().Write(
-      state_.temp_folder + "\\testhearing.ini",
-      base::Line(base::FactsOf(state_.SoundBit).code) + base::Line(state_.language));
+  state_.hearing_file = state_.temp_folder + "\\testhearing.ini";
+  platform_.Texts().Write(state_.hearing_file, base::Line(base::FactsOf(state_.SoundBit).code) +
+                                                   base::Line(state_.language));
   platform_.processes.Start("hearage.dll");
 }
 

@@ -1,6 +1,7 @@
 // Start-up and shutdown of the main window.
 #include "app/form1.h"
 
+#include "app/leftovers.h"
 #include "base/text.h"
 
 namespace app {
@@ -44,6 +45,7 @@ void Form1::DeleteOldLog(ExFunctions& ex_functions) {
 
 void Form1::StartUp(Program& program, ExFunctions& ex_functions) {
   TakeCommandLine();
+  Leftovers(platform_).ClearAtStart();
   if (file_mode_flag_ == 0) others_.status.Show();
   StartLog();
   CheckSystem(program, ex_functions);
@@ -154,6 +156,7 @@ void Form1::Form_Unload() {
     ExFunctions(context_).WavPlay("0", false, true);
     // The play that this ends never comes to release what it started.
     if (playing) local_sound.KillAll();
+    Leftovers(platform_).ClearAtEnd(state_);
     if (state_.SendData == 1) program.SendData();
     others_.unload();
     platform_.processes.EndProcess();

@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/byte_source.h"
 
@@ -42,6 +43,9 @@ class FileSystem {
 
   // Gives `from` the name `to`, in one step, replacing a file of that name.
   virtual void Rename(const std::string& from, const std::string& to) = 0;
+
+  // The files whose paths begin with `path`, which names a folder and the beginning of a name.
+  virtual std::vector<std::string> Beginning(const std::string& path) = 0;
 
   // Returns whether there was such a file.
   virtual bool Delete(const std::string& path) = 0;

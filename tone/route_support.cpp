@@ -1,5 +1,7 @@
 #include "tone/route_support.h"
 
+#include <limits>
+
 #include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/sine_modes.h"
@@ -23,7 +25,9 @@ void RouteSupport::KillAll() {
     ShowPitchCaption();
     DeleteIfThere(HandOverPath());
     playing = 0;
-    DeleteIfThere(WavePath());
+    DeleteIfThere(temp_ + "\\tnfwinmmtmp.wav");
+    // The one that a play still under way writes, too: it may never come to delete it.
+    if (!state_.own_wave.empty()) DeleteIfThere(state_.own_wave);
   });
 }
 
@@ -45,9 +49,13 @@ void RouteSupport::WriteHandOver(std::int16_t pitch) {
 
 void RouteSupport::WriteTone(std::int32_t pitch) {
   const std::string image = waves_.CreateWaveArray(SineSecond(pitch), kSampleRate, kBitsPerSample);
-  if (waves_.WriteWave(WavePath(), image) || !platform_.files.Exists(WavePath())) return;
+  auto failure = waves_.WriteWave(WavePath(), image);
+  if (!failure) return;
+  if (!platform_.files.Exists(WavePath())) throw *failure;
   own_wave_ = platform_.files.TemporaryName(WavePath());
-  waves_.WriteWave(own_wave_, image);
+  state_.own_wave = own_wave_;
+  failure = waves_.WriteWave(own_wave_, image);
+  if (failure) throw *failure;
 }
 
 void RouteSupport::DeleteIfThere(const std::string& path) {
@@ -72,6 +80,13 @@ bool RouteSupport::Stopped() const {
 
 void RouteSupport::HandleMessages() {
   platform_.pump.ProcessPending([this] { return Stopped(); });
+}
+
+// A wait that one call of delay does not hold is made of several.
+void RouteSupport::Wait(std::int32_t time_ms) {
+  constexpr std::int32_t kLongest = std::numeric_limits<std::int16_t>::max();
+  for (; time_ms > kLongest; time_ms -= kLongest) waves_.delay(kLongest);
+  waves_.delay(static_cast<std::int16_t>(time_ms));
 }
 
 void RouteSupport::Pause(std::int16_t time_ms) {

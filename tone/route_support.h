@@ -61,7 +61,8 @@ class RouteSupport {
   void WriteHandOver(std::int16_t pitch);
 
   // Writes one second of a tone as the generated WAV file. When another running copy of the program
-  // holds that, this object uses a file of its own from then on.
+  // holds that, this object uses a file of its own from then on. Throws base::RuntimeError when
+  // there is no file to play then.
   void WriteTone(std::int32_t pitch);
   void DeleteIfThere(const std::string& path);
 
@@ -87,7 +88,7 @@ class RouteSupport {
   void HandleMessages();
 
   // Blocks the thread without handling messages.
-  void Wait(std::int16_t time_ms) { waves_.delay(time_ms); }
+  void Wait(std::int32_t time_ms);
 
   // Waits, handling messages now and then, for at most `time_ms`; ends early once stopped.
   void Pause(std::int16_t time_ms);

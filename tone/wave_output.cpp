@@ -16,7 +16,8 @@ std::string WaveOutput::CreateWaveArray(const SampleBuffer& samples, std::int32_
   return WaveImage(samples, sample_rate, bits_per_sample);
 }
 
-bool WaveOutput::WriteWave(const std::string& file_name, const std::string& image) {
+std::optional<base::RuntimeError> WaveOutput::WriteWave(const std::string& file_name,
+                                                        const std::string& image) {
   const bool there = base::Quietly([&] {
     if (!platform_.files.OpenForReading(file_name)) {
       throw base::RuntimeError(base::ErrorCode::kFileNotFound);
@@ -24,13 +25,13 @@ bool WaveOutput::WriteWave(const std::string& file_name, const std::string& imag
   });
   if (there) base::Quietly([&] { platform_.files.Delete(file_name); });
 
-  const bool written = base::Quietly([&] {
+  const auto failure = base::Caught([&] {
     const auto file = platform_.files.OpenForWriting(file_name);
     file->Write(image);
     file->Close();
   });
-  if (!written) base::Quietly([&] { platform_.files.Delete(file_name); });
-  return written;
+  if (failure) base::Quietly([&] { platform_.files.Delete(file_name); });
+  return failure;
 }
 
 void WaveOutput::WavPlay(const std::string& path, bool loop_sound, bool kill_all) {

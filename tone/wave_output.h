@@ -3,8 +3,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "base/errors.h"
 #include "platform/platform.h"
 #include "tone/sine.h"
 
@@ -19,9 +21,10 @@ class WaveOutput {
   std::string CreateWaveArray(const SampleBuffer& samples, std::int32_t sample_rate,
                               std::int16_t bits_per_sample);
 
-  // Writes the image, replacing the file whole, and says whether it did. Errors are swallowed; a
+  // Writes the image, replacing the file whole, and returns what kept it from that, if anything. A
   // file that could not be written whole is not left behind.
-  bool WriteWave(const std::string& file_name, const std::string& image);
+  std::optional<base::RuntimeError> WriteWave(const std::string& file_name,
+                                              const std::string& image);
 
   // Starts a file without waiting for its end, in a loop if asked, or with `kill_all` stops
   // whatever is playing (the path is ignored then). Errors are ignored.

@@ -14,7 +14,7 @@ constexpr std::int16_t kSweepTickMs = 75;
 void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
   base::Quietly([&] {
     support_.ReadTempFolder();
-    StartTone(pitch);
+    StartOrStaySilent(pitch);
     support_.ShowPitch(pitch);
     support_.WaitUntilStopped(kWaveTickMs);
     support_.Silence();
@@ -22,8 +22,9 @@ void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
   });
 }
 
-void WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch, std::int16_t Duration) {
-  base::Quietly([&] {
+std::optional<base::RuntimeError> WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch,
+                                                                std::int32_t Duration) {
+  return base::Caught([&] {
     support_.ReadTempFolder();
     StartTone(pitch);
     support_.Wait(Duration);
@@ -49,7 +50,7 @@ void WinmmRoutes::SoundWinmmLTH() {
       support_.HandleMessages();
       if (pitch >= base::kHighestPitch) pitch = 0;
       pitch = base::ToInt16(pitch + base::kSweepStep);
-      StartTone(pitch);
+      StartOrStaySilent(pitch);
       support_.ShowPitch(pitch);
       support_.DrawStep(pitch);
       support_.Pause(kSweepTickMs);
@@ -60,6 +61,12 @@ void WinmmRoutes::SoundWinmmLTH() {
   });
 }
 
+// Only Stop ends what goes on until it is stopped.
+void WinmmRoutes::StartOrStaySilent(std::int32_t pitch) {
+  base::Quietly([&] { StartTone(pitch); });
+}
+
+// The system would sound its own signal, over and over, in place of a file that is not there.
 void WinmmRoutes::StartTone(std::int32_t pitch) {
   support_.WriteTone(pitch);
   support_.Loop(support_.WavePath());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "tone/route_support.h"
@@ -15,8 +16,9 @@ class WinmmRoutes {
   // A generated tone, until it is stopped. `pitch` in Hz.
   void SoundWinmmRND(std::int16_t pitch);
 
-  // A generated tone of `Duration` ms. Messages wait until it is over.
-  void SoundWinmmRNDTMP(std::int16_t pitch, std::int16_t Duration);
+  // A generated tone of `Duration` ms. Messages wait until it is over. Returns, at once, what keeps
+  // it from being played, if anything.
+  std::optional<base::RuntimeError> SoundWinmmRNDTMP(std::int16_t pitch, std::int32_t Duration);
 
   // The prepared file "tonedx" + modeval + ".dll" (a WAV file) of the current folder.
   void SoundWinmm(std::int16_t pitch, const std::string& modeval);
@@ -26,6 +28,7 @@ class WinmmRoutes {
 
  private:
   void StartTone(std::int32_t pitch);
+  void StartOrStaySilent(std::int32_t pitch);
 
   RouteSupport& support_;
 };

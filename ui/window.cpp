@@ -49,6 +49,10 @@ void Window::Close() {
   Handle([this] { Unload(); });
 }
 
+void Window::SessionEnds() {
+  if (OnSessionEnd) OnSessionEnd();
+}
+
 void Window::Handle(const std::function<void()>& event) {
   std::optional<base::RuntimeError> untrapped;
   try {

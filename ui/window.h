@@ -68,6 +68,10 @@ class Window {
   void Handle(const std::function<void()>& event);
   std::function<void(const base::RuntimeError&)> OnUntrappedError;
 
+  // The user logs off or the system shuts down: the process may be ended as soon as this returns.
+  void SessionEnds();
+  std::function<void()> OnSessionEnd;
+
   void Add(Control& control) { controls_.push_back(&control); }
   void Add(MenuItem& item) { menu_.push_back(&item); }
 

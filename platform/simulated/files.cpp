@@ -142,6 +142,16 @@ void Files::Rename(const std::string& from, const std::string& to) {
   Put(to, bytes);
 }
 
+std::vector<std::string> Files::Beginning(const std::string& path) {
+  std::vector<std::string> paths;
+  for (const auto& [key, file] : files_) {
+    if (key.starts_with(base::ToLower(path)) && FolderOf(key) == base::ToLower(FolderOf(path))) {
+      paths.push_back(file.path);
+    }
+  }
+  return paths;
+}
+
 bool Files::Delete(const std::string& path) {
   Check(Operation::kDelete, path);
   if (files_.erase(base::ToLower(path)) == 0) return false;

@@ -63,6 +63,7 @@ class Files : public FileSystem {
   std::unique_ptr<InputFile> OpenForReading(const std::string& path) override;
   std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
   void Rename(const std::string& from, const std::string& to) override;
+  std::vector<std::string> Beginning(const std::string& path) override;
   bool Delete(const std::string& path) override;
   std::string TemporaryName(const std::string& path) override;
 

@@ -67,6 +67,13 @@ TEST_P(FailingCallTest, EndsTheProcedureThereAndKillAllSilencesTheRest) {
   EXPECT_FALSE(sim.files.Exists(kWavePath));
 }
 
+TEST_F(FailingCallTest, WhatCannotBeWrittenIsNotPlayed) {
+  sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  direct_sound.ToneDXRND(440);
+  direct_sound.ToneDXRNDTMP(440, 100);
+  EXPECT_TRUE(Journal({Kind::kSound}).empty());
+}
+
 INSTANTIATE_TEST_SUITE_P(Calls, FailingCallTest,
                          testing::Values(DirectSoundCall::kRoot, DirectSoundCall::kDevice,
                                          DirectSoundCall::kLevel, DirectSoundCall::kBuffer,

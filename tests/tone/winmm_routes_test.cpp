@@ -83,8 +83,45 @@ TEST_F(WinmmTest, AFullDiskIsSilentAndTheToneStillStops) {
   StopAt(300ms);
   winmm.SoundWinmmRND(440);
   EXPECT_EQ(sim.pump.now_ms(), 350);
+  // Asked to play a file that is not there, the system would sound a signal of its own.
+  EXPECT_EQ(Journal({Kind::kSound}), Lines{"stop 0x2"});
   EXPECT_TRUE(Journal({Kind::kMessage}).empty());
   EXPECT_TRUE(sim.files.PathsIn("C:\\Temp").empty());
+}
+
+TEST_F(WinmmTest, OnAFullDiskTheSweepIsSilentAndStillStops) {
+  sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  StopAt(300ms);
+  winmm.SoundWinmmLTH();
+  EXPECT_LE(sim.pump.now_ms(), 300 + 75);
+  for (const std::string& text : Journal({Kind::kSound})) EXPECT_EQ(text, "stop 0x2");
+}
+
+TEST_F(WinmmTest, ASweepIsHeardAgainWhenItsFileCanBeWrittenAgain) {
+  sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  sim.At(200ms, [this] { sim.files.Heal(); });
+  sim.At(300ms, [this] { EXPECT_TRUE(sim.files.Exists(kWavePath)); });
+  StopAt(400ms);
+  winmm.SoundWinmmLTH();
+  const Lines sounds = Journal({Kind::kSound});
+  EXPECT_EQ(std::count(sounds.begin(), sounds.end(), "play " + kWavePath + " 0x20009"), 3);
+}
+
+TEST_F(WinmmTest, AToneOfFixedLengthThatCannotBeWrittenReturnsItsErrorAtOnce) {
+  sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  const auto failure = winmm.SoundWinmmRNDTMP(700, 200);
+  ASSERT_TRUE(failure.has_value());
+  EXPECT_EQ(failure->code(), ErrorCode::kDiskFull);
+  EXPECT_EQ(sim.pump.now_ms(), 0);
+  EXPECT_TRUE(Journal({Kind::kSound}).empty());
+}
+
+TEST_F(WinmmTest, AToneOfTheGreatestLengthsIsHeardWhole) {
+  sim.pump.journal_waits = true;
+  EXPECT_FALSE(winmm.SoundWinmmRNDTMP(700, 64000).has_value());
+  EXPECT_EQ(sim.pump.now_ms(), 64000);
+  EXPECT_EQ(Journal({Kind::kWait, Kind::kSound}),
+            (Lines{"play " + kWavePath + " 0x20009", "sleep 32767", "sleep 31233", "stop 0x2"}));
 }
 
 // Nothing of what could not be written whole is played.
@@ -157,6 +194,19 @@ TEST_F(KillAllTest, SilencesEveryRouteInItsOrder) {
             (Lines{"terminate mytone32.dll", "terminate tone16.dll", "stop 0x2",
                    "Actual pitch (Hertz): ", "delete " + kHandOver, "delete " + kWavePath}));
   EXPECT_EQ(support.playing, 0);
+}
+
+// As at the end of the program, when the play that made it never comes to delete it.
+TEST_F(KillAllTest, DeletesTheSecondFileOfAPlayThatIsStillUnderWay) {
+  sim.files.Put(kWavePath, "another copy's");
+  sim.files.Lock(kWavePath);
+  sim.At(50ms, [this] {
+    EXPECT_EQ(sim.files.PathsIn("C:\\Temp").size(), 2u);
+    RouteSupport(sim.services, state, scene).KillAll();
+    EXPECT_EQ(sim.files.PathsIn("C:\\Temp"), Lines{kWavePath});
+  });
+  StopAt(100ms);
+  winmm.SoundWinmmRND(440);
 }
 
 TEST_F(KillAllTest, AFileThatCannotBeDeletedDoesNotKeepTheOtherFromGoing) {

@@ -135,6 +135,21 @@ void WindowsFileSystem::Rename(const std::string& from, const std::string& to) {
   if (error != ERROR_SUCCESS) ThrowFileError(error, target);
 }
 
+std::vector<std::string> WindowsFileSystem::Beginning(const std::string& path) {
+  std::vector<std::string> paths;
+  const std::string folder = path.substr(0, path.find_last_of('\\') + 1);
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW(NameOf(path + "*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return paths;
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+      paths.push_back(folder + Narrow(found.cFileName));
+    }
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+  return paths;
+}
+
 bool WindowsFileSystem::Delete(const std::string& path) {
   const std::wstring name = NameOf(path);
   const DWORD error = Insist(name, [&] { return DeleteFileW(name.c_str()) != 0; });

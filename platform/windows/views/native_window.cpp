@@ -183,7 +183,7 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case WM_ENDSESSION:
       // The process may be ended as soon as this returns.
-      if (wparam != FALSE) window_.Close();
+      if (wparam != FALSE) window_.SessionEnds();
       return 0;
     case WM_SIZE:
       if (wparam != SIZE_MINIMIZED) controls_.Fit(LOWORD(lparam), HIWORD(lparam));
