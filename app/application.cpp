@@ -20,7 +20,8 @@ Application::Application(platform::Platform& platform, lang::Languages languages
       form3(platform, state_, errors_, languages, form8),
       form7(platform, errors_),
       form9(platform, state_, form1,
-            {[this] { form3.Unload(); }, [this] { UnloadAll(); }}),
+            {[this] { form3.Unload(); }, [this] { UnloadAll(); },
+             [this](const std::string& entry) { Log(entry); }}),
       frm_about(platform, errors_,
                 [this] { form1.LoadCaptions(state_.language, lang::kAboutBox); }) {
   const std::initializer_list<ui::Window*> windows{&form1, &form2, &form3, &form4, &form5,
@@ -110,6 +111,10 @@ std::string Application::CommandLine(platform::Platform& platform) {
 void Application::UnloadAll() {
   form1.Unload();
   UnloadOthers();
+}
+
+void Application::Log(const std::string& entry) {
+  base::Quietly([&] { settings::ActivityLog(platform_, errors_).PrintFile(entry); });
 }
 
 void Application::EndSession() {

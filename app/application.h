@@ -59,6 +59,7 @@ class Application : public settings::ErrorScene {
   void Translate(std::int16_t formval);
   void UnloadOthers();
   void UnloadAll();
+  void Log(const std::string& entry);
 
   // Silence, no file left behind, gone: nothing is started then, and nobody is asked or told.
   void EndSession();

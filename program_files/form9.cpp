@@ -39,10 +39,16 @@ void Form9::LoadProgram() {
     IllFile();
     return;
   }
-  if (!ReadLines()) return;
+  bool whole = false;
+  if (!base::Quietly([&] { whole = ReadLines(); })) IllFile();
+  if (!whole) return;
   Command1.SetEnabled(false);
-  Parse();
-  if (program_.hidden_flag == 0 && !closes_after_loading_) Show();
+  if (!Parse()) {
+    IllFile();
+    return;
+  }
+  // Also when it is to be closed after the play: what sounds can be stopped and left.
+  if (program_.hidden_flag == 0) Show();
   PlayUntilDone();
   if (program_.hidden_flag == 1) Unload();
 }
@@ -67,17 +73,21 @@ bool Form9::ReadLines() {
   return step.progress == kDone;
 }
 
-void Form9::Parse() {
-  base::Quietly([this] {
-    ProgramChecks checks(parse_, program_);
-    Tell(checks.CheckHead());
-    checks.BeginEntries(SecondPass(*OpenFile()));
+// False when the file cannot be read a second time.
+bool Form9::Parse() {
+  ProgramChecks checks(parse_, program_);
+  Tell(checks.CheckHead());
+  std::int32_t lines = 0;
+  if (!base::Quietly([&] { lines = SecondPass(*OpenFile()); })) return false;
+  base::Quietly([&] {
+    checks.BeginEntries(lines);
     while (checks.HasEntry()) {
       platform_.pump.ProcessPending();
       Tell(checks.CheckEntry());
     }
     Label2.SetCaption(base::BareNumber(ToneCount()));
   });
+  return true;
 }
 
 void Form9::Tell(std::span<const Finding> findings) {
@@ -102,7 +112,8 @@ void Form9::lowFile() {
   CloseAfterLoading();
 }
 
-// The load routine goes on: every failed check has its message, and what was read is played.
+// The load routine goes on: every failed check has its message, and what was read is played, where
+// Stop ends it, too.
 void Form9::CloseAfterLoading() {
   closes_after_loading_ = true;
   Hide();

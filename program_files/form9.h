@@ -4,13 +4,14 @@
 // Its load routine does everything: it reads and checks the file, shows the window unless the file
 // is marked invisible, and plays. Play returns when the last tone is over or after Stop; the user's
 // input is handled before and after each tone, so a stop takes effect when the tone that sounds is
-// over.
+// over. A tone that cannot be played ends the play: the window then shows how far it came.
 // Unloading the window ends the program. Handlers and procedures trap their errors and end quietly.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -34,6 +35,7 @@ class Form9 : public ui::Window {
   struct Surroundings {
     std::function<void()> unload_news_window;
     std::function<void()> unload_every_window;  // the main one among them, which ends the program
+    std::function<void(const std::string& entry)> log;  // an entry of the activity log
   };
 
   Form9(platform::Platform& platform, settings::MainState& state, tone::PlayScene& play_scene,
@@ -71,7 +73,7 @@ class Form9 : public ui::Window {
   void LoadProgram();
   std::unique_ptr<platform::InputFile> OpenFile();
   bool ReadLines();
-  void Parse();
+  bool Parse();
   void Tell(std::span<const Finding> findings);
   void IllFile();
   void lowFile();
@@ -81,10 +83,13 @@ class Form9 : public ui::Window {
   // Playing (form9_play.cpp).
   void PlayUntilDone();
   void Play();
+  // The error that ended the play before its end.
+  std::optional<base::RuntimeError> PlayTones();
   void PlayTone();
   void StartHelper();
   bool SoundsByHelper() const;
   void SoundTone();
+  void NoteFailure(const base::RuntimeError& error);
   void EndHelper();
   void ShowAllPlayed();
   std::int16_t ToneCount() const { return program_.ToneCount(); }

@@ -60,20 +60,29 @@ void Form9::Play() {
     stop_flag_ = 0;
     tone_number_ = 0;
     table_index_ = 0;
-    // A tone that fails is the last one.
-    base::Quietly([this] {
-      do {
-        PlayTone();
-        // What the user did meanwhile: a stop ends the play with the tone that sounded.
-        platform_.pump.ProcessPending();
-      } while (tone_number_ < ToneCount() && stop_flag_ != 1);
-    });
+    const auto failure = PlayTones();
+    if (failure) NoteFailure(*failure);
     if (program_.hidden_flag == 1) Unload();
-    ShowAllPlayed();
+    if (!failure) ShowAllPlayed();
     Command1.SetEnabled(true);
     Label6.SetCaption("");
     Label8.SetCaption("");
   });
+}
+
+std::optional<base::RuntimeError> Form9::PlayTones() {
+  return base::Caught([this] {
+    do {
+      PlayTone();
+      // What the user did meanwhile: a stop ends the play with the tone that sounded.
+      platform_.pump.ProcessPending();
+    } while (tone_number_ < ToneCount() && stop_flag_ != 1);
+  });
+}
+
+void Form9::NoteFailure(const base::RuntimeError& error) {
+  around_.log(">>> Tone " + base::BareNumber(tone_number_) + " cannot be played: " +
+              error.description());
 }
 
 void Form9::PlayTone() {
@@ -108,8 +117,9 @@ void Form9::SoundTone() {
   const Tone tone = program_.ToneAt(table_index_);
   const base::Output output = base::OutputOf(sound_mode_);
   if (output == base::Output::kPlayer || output == base::Output::kDirectSound) {
-    winmm_.SoundWinmmRNDTMP(tone.pitch_hz,
-                            base::ToInt16(tone.duration_ms + program_.extra_time_ms));
+    const auto failure =
+        winmm_.SoundWinmmRNDTMP(tone.pitch_hz, tone.duration_ms + program_.extra_time_ms);
+    if (failure) throw *failure;
     return;
   }
   if (output == base::Output::kHelper16) support_.Wait(kClassicStartMs);

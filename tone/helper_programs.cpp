@@ -13,6 +13,7 @@ constexpr char kSounding32[] = "tone32.dll";
 
 void HelperPrograms::Start(base::Output output, Named named) {
   platform::Processes& processes = platform_.processes;
+  if (output == base::Output::kHelper16) ExpectClassic();
   if (output == base::Output::kHelper16 && named == Named::kAlone) {
     processes.StartHidden(std::string("cmd /c ") + kStarter16);
   } else if (output == base::Output::kHelper16) {
@@ -20,6 +21,16 @@ void HelperPrograms::Start(base::Output output, Named named) {
         base::InterpreterCommand(platform_.environment.ProgramFolder(), kStarter16));
   } else if (output == base::Output::kHelper32) {
     processes.StartHidden(kSounding32);
+  }
+}
+
+// The command interpreter starts in any case, whatever it finds then.
+void HelperPrograms::ExpectClassic() {
+  const std::string folder = platform_.environment.ProgramFolder() + "\\";
+  for (const char* name : {kStarter16, kSounding16}) {
+    if (!platform_.files.Exists(folder + name)) {
+      throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+    }
   }
 }
 

@@ -20,7 +20,7 @@ class HelperPrograms {
   explicit HelperPrograms(platform::Platform& platform) : platform_(platform), killer_(platform) {}
 
   // Starts the helper of an output, hidden, without waiting for it; nothing for an output without
-  // one. Throws base::RuntimeError when it cannot be started.
+  // one. Throws base::RuntimeError when it cannot be started or is not there.
   void Start(base::Output output, Named named);
 
   // Ends every process that sounds for an output; nothing for one without a helper.
@@ -30,6 +30,8 @@ class HelperPrograms {
   void EndAll();
 
  private:
+  void ExpectClassic();
+
   platform::Platform& platform_;
   ProcessKiller killer_;
 };

@@ -8,6 +8,9 @@ Simulation::Simulation() {
   files.AddFolder("C:\\Tonmira");
   files.AddFolder(kTemp);
   files.AddFolder(kAppData);
+  for (const char* helper : {"play16.exe", "tone16.dll", "tone32.dll"}) {
+    files.Put(environment.program_folder + "\\" + helper, "a program");
+  }
   environment.variables["TEMP"] = kTemp;
   environment.variables["APPDATA"] = kAppData;
 }

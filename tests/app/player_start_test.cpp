@@ -44,12 +44,21 @@ TEST_F(PlayerStartTest, LoadingUnloadsTheNewsWindow) {
   EXPECT_FALSE(loaded_later);
 }
 
-TEST_F(PlayerStartTest, APlayerWhoseFileCannotBeReadIsShownAndIdle) {
+TEST_F(PlayerStartTest, AFileThatCannotBeReadHasItsMessageAndTheProgramEnds) {
   sim.files.Fail(platform::simulated::Operation::kRead, kFile, base::ErrorCode::kPermissionDenied);
-  EXPECT_FALSE(Open(ProgramWith(kTwo)));
+  EXPECT_TRUE(Open(ProgramWith(kTwo)));
   EXPECT_EQ(PitchesShown(), Lines{});
-  EXPECT_TRUE(player().Visible());
-  EXPECT_FALSE(main().Visible());
+  EXPECT_EQ(Messages(), Lines{program_files::kIllegal});
+  EXPECT_EQ(Entries("shown"), Lines{});
+}
+
+TEST_F(PlayerStartTest, AToneThatCannotBePlayedIsInTheActivityLog) {
+  sim.At(200ms, [this] { sim.files.Fail(platform::simulated::Operation::kWrite, kWave,
+                                        base::ErrorCode::kDiskFull); });
+  EXPECT_FALSE(Open(ProgramWith(kTwo)));
+  EXPECT_EQ(player().Label1.Caption(), "1");
+  EXPECT_EQ(LogEntries()[LogEntries().size() - 2], ">>> Tone 2 cannot be played: Disk full");
+  EXPECT_EQ(Messages(), Lines{});
 }
 
 TEST_F(PlayerStartTest, TheSoundModeIsThatOfTheSettings) {

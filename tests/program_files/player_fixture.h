@@ -39,7 +39,9 @@ class PlayerTest : public testing::Test {
     main_window = std::make_unique<tone::NotingMainWindow>(sim.services.windows, sim.journal);
     window = std::make_unique<Form9>(
         sim.services, state, *main_window,
-        Form9::Surroundings{[this] { ++news_unloaded; }, [this] { sim.processes.EndProcess(); }});
+        Form9::Surroundings{[this] { ++news_unloaded; },
+                            [this] { sim.processes.EndProcess(); },
+                            [this](const std::string& entry) { logged.push_back(entry); }});
     loaded_entries = 0;
     return sim.Run([this, sound_mode] {
       main_window->Load();
@@ -103,6 +105,7 @@ class PlayerTest : public testing::Test {
   std::unique_ptr<tone::NotingMainWindow> main_window;
   std::unique_ptr<Form9> window;
   int news_unloaded = 0;
+  Lines logged;
 
  private:
   std::size_t loaded_entries = 0;  // of the journal, when the load routine was through
