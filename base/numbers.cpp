@@ -115,6 +115,18 @@ bool IsNumber(std::string_view text) {
   return length != 0 && length == text.size();
 }
 
+std::string WithPoint(std::string_view text, char decimal_sign) {
+  std::string result(text);
+  for (char& c : result) {
+    if (c == decimal_sign) {
+      c = '.';
+    } else if (c == '.') {
+      c = decimal_sign;
+    }
+  }
+  return result;
+}
+
 double WholePart(double value) {
   return std::floor(value);
 }

@@ -29,6 +29,10 @@ double NumberFromText(std::string_view text);
 // Whether NumberFromText takes the text for a number (of any size).
 bool IsNumber(std::string_view text);
 
+// `text`, written with `decimal_sign` for the point, as the functions above want it. A point in it
+// is no number then.
+std::string WithPoint(std::string_view text, char decimal_sign);
+
 // The greatest whole number not above `value`.
 double WholePart(double value);
 

@@ -29,9 +29,10 @@ Form4::Form4(platform::Platform& platform, settings::MainState& state, tone::Pla
   Command2.OnClick = [this] { Command2_Click(); };
   Check1.OnClick = [this] { Check1_Click(); };
   for (ui::TextBox* field : {&Text2, &Text3}) {
-    field->AcceptsKey = [field](char32_t key) {
+    field->AcceptsKey = [this, field](char32_t key) {
       if (key == kBackspace) return true;
-      return key < 128 && base::IsNumber(field->Text() + static_cast<char>(key));
+      const std::string text = field->Text() + static_cast<char>(key);
+      return key < 128 && base::IsNumber(WithPoint(text));
     };
   }
   SetDefaultButton(&Command1);
@@ -65,6 +66,7 @@ void Form4::Form_Unload() {
 void Form4::Command1_Click() {
   base::Quietly([this] {
     ReadFields();
+    TakeNumbers();
     TakeMessage();
     position_ = 1;
     stop_flag = 0;
@@ -91,9 +93,13 @@ void Form4::Check1_Click() {
   });
 }
 
-void Form4::ReadFields() {
-  speed_long_ = base::ToInt32(base::NumberFromText(Text2.Text()));
-  pitch_long_ = base::ToInt32(base::NumberFromText(Text3.Text()));
+std::string Form4::WithPoint(const std::string& number) {
+  return base::WithPoint(number, platform_.environment.DecimalSign());
+}
+
+void Form4::TakeNumbers() {
+  speed_long_ = base::ToInt32(base::NumberFromText(WithPoint(Text2.Text())));
+  pitch_long_ = base::ToInt32(base::NumberFromText(WithPoint(Text3.Text())));
   if (speed_long_ > 500) Correct(speed_long_, 0, "Max Speed", "Max speed = 500", Text2);
   if (pitch_long_ < 50) Correct(pitch_long_, 700, "Min Pitch", "Min pitch = 50 Hertz", Text3);
   if (pitch_long_ > base::kHighestPitch) {

@@ -54,7 +54,9 @@ class Form4 : public ui::Window {
   void Command2_Click();
   void Check1_Click();
 
-  void ReadFields();
+  // A number as the user's locale writes it, with a point for its decimal sign.
+  std::string WithPoint(const std::string& number);
+  void TakeNumbers();
   void Correct(std::int32_t& value, std::int32_t corrected, const std::string& title,
                const std::string& text, ui::TextBox& field);
   void TakeMessage();

@@ -26,6 +26,9 @@ class Environment {
 
   virtual std::string FullPath(const std::string& path) = 0;
   virtual void SetCurrentFolder(const std::string& path) = 0;
+
+  // What the user's locale writes for the point of a number.
+  virtual char DecimalSign() = 0;
 };
 
 struct LocalTime {

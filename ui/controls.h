@@ -166,6 +166,9 @@ class TextBox : public Control {
   // What the user's editing does: the field holds `text` now. The view knows already.
   void Edit(const std::string& text);
 
+  // The view knows of `text`, however it came there.
+  void Take(const std::string& text) { StoreCaption(text); }
+
  private:
   Lines lines_;
 };

@@ -45,6 +45,10 @@ void Window::Unload() {
   view_.reset();
 }
 
+void Window::ReadFields() {
+  if (view_) view_->ReadFields();
+}
+
 void Window::Close() {
   Handle([this] { Unload(); });
 }

@@ -58,6 +58,9 @@ class Window {
   virtual void Hide();
   void Unload();
 
+  // Before fields are used: takes over what stands in them on the screen.
+  void ReadFields();
+
   // The user closes the window by its frame.
   virtual void Close();
 

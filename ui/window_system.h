@@ -35,6 +35,10 @@ class WindowView {
   virtual void CaptionChanged() = 0;
   virtual void Changed(const Control& control, Property property) = 0;
   virtual void Changed(const MenuItem& item, Property property) = 0;
+
+  // Gives the text boxes, check boxes and drop-down lists the values that stand on the screen: what
+  // other programs put there, assistive ones for instance, comes without an event.
+  virtual void ReadFields() = 0;
 };
 
 class WindowSystem {

@@ -22,6 +22,7 @@ class FixedEnvironment : public Environment {
   std::string program_folder = "C:\\Tonmira";
   std::string program_name = "tonmira";
   std::string current_folder = "C:\\Users\\Tom";
+  char decimal_sign = '.';
 
   std::string Get(const std::string& name) override;
   std::string Arguments() override { return arguments; }
@@ -29,6 +30,7 @@ class FixedEnvironment : public Environment {
   std::string ProgramName() override { return program_name; }
   std::string FullPath(const std::string& path) override;
   void SetCurrentFolder(const std::string& path) override { current_folder = path; }
+  char DecimalSign() override { return decimal_sign; }
 };
 
 // The date and the time of day stand still; only the pump's milliseconds run.

@@ -102,7 +102,20 @@ class JournalView : public ui::WindowView {
     windows_.Tell(Kind::kControl, window_.Name() + "." + item.Name() + Describe(item, property));
   }
 
+  void ReadFields() override {
+    for (ui::Control* control : window_.Controls()) {
+      const auto put = windows_.put_by_others.find(window_.Name() + "." + control->Name());
+      if (put != windows_.put_by_others.end()) Take(*control, put->second);
+    }
+  }
+
  private:
+  static void Take(ui::Control& control, const std::string& value) {
+    if (auto* box = dynamic_cast<ui::TextBox*>(&control)) box->Take(value);
+    if (auto* box = dynamic_cast<ui::CheckBox*>(&control)) box->SetValue(value == "yes");
+    if (auto* box = dynamic_cast<ui::ComboBox*>(&control)) box->SetListIndex(std::stoi(value));
+  }
+
   void Note(const std::string& what) { windows_.Tell(Kind::kWindow, window_.Name() + what); }
 
   Windows& windows_;

@@ -1,6 +1,7 @@
 // Windows without a display: every visible change goes to the journal.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -17,6 +18,10 @@ class Windows : public ui::WindowSystem {
   std::unique_ptr<ui::WindowView> Open(ui::Window& window) override;
 
   std::set<std::string> hidden_by_others;  // names of windows that another program has hidden
+
+  // What other programs have put into fields, unnoticed: by name ("Form4.Text1") the text, "yes" or
+  // "no" of a check box, the index of a drop-down list's item.
+  std::map<std::string, std::string> put_by_others;
 
   bool AnyVisible() const { return !visible_.empty(); }
 

@@ -45,6 +45,15 @@ INSTANTIATE_TEST_SUITE_P(
                     Choice{"EnglishAtLast", {kDutch, kEnglish}, false, Settings("EN", "y")}),
     [](const auto& choice) { return choice.param.name; });
 
+// A screen reader's script, say.
+TEST_F(FirstRunTest, WhatAnotherProgramChoseCountsAsChosen) {
+  sim.windows.put_by_others = {{"Form5.Combo1", "1"}, {"Form5.Check1", "yes"}};
+  AcceptAt(200ms);
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.files.Get(kSettings), Settings("NL", "n"));
+  EXPECT_EQ(Processes(), (Lines{"start \"C:\\Tonmira\\tonmira.exe\"", "end"}));
+}
+
 TEST_F(FirstRunTest, DutchIsTheMainWindowsLanguageAsSoonAsItIsAccepted) {
   OnTheDialogAt(100ms, [](Form5& dialog) { dialog.Combo1.Choose(kDutch); });
   sim.At(150ms, [this] { EXPECT_EQ(main().State().language, ""); });

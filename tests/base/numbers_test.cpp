@@ -95,5 +95,12 @@ TEST(Numbers, ThirtyTwoBitsAreChecked) {
   ExpectError(ErrorCode::kOverflow, [] { AddInt32(2147483647, 1); });
 }
 
+TEST(WithPoint, TurnsTheLocalesNumberIntoOneWithAPoint) {
+  EXPECT_EQ(WithPoint("-1,5e3", ','), "-1.5e3");
+  EXPECT_EQ(WithPoint("1.5", '.'), "1.5");
+  EXPECT_FALSE(IsNumber(WithPoint("1.5", ',')));
+  EXPECT_FALSE(IsNumber(WithPoint("1,5", '.')));
+}
+
 }  // namespace
 }  // namespace base

@@ -16,9 +16,8 @@ TEST(OwnerText, IsReadBack) {
 }
 
 TEST(OwnerText, NothingElseIs) {
-  for (const char* text :
-       {"", " ", "1", "1 ", " 1 2", "1  2", "1 2 ", "1 2 3", "-1 2", "1 -2", "1,2", "a b",
-        "4294967296 1", "1 18446744073709551616", "1\t2"}) {
+  for (const char* text : {"", " ", "1", "1 ", " 1 2", "1  2", "1 2 ", "1 2 3", "-1 2", "1 -2",
+                           "1,2", "a b", "4294967296 1", "1 18446744073709551616", "1\t2"}) {
     EXPECT_EQ(ParseOwner(text), std::nullopt) << text;
   }
 }

@@ -32,6 +32,7 @@ class NoView : public ui::WindowView {
   void CaptionChanged() override {}
   void Changed(const ui::Control&, ui::Property) override {}
   void Changed(const ui::MenuItem&, ui::Property) override {}
+  void ReadFields() override {}
 };
 
 class NotingPlayScene : public PlayScene {

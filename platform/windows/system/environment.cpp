@@ -69,4 +69,11 @@ void WindowsEnvironment::SetCurrentFolder(const std::string& path) {
   if (!SetCurrentDirectoryW(folder.c_str())) ThrowFileError(GetLastError(), folder);
 }
 
+// One that is no single ASCII character cannot be typed into a field that takes those only.
+char WindowsEnvironment::DecimalSign() {
+  wchar_t sign[8] = L"";
+  const int size = GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, sign, 8);
+  return size == 2 && sign[0] < 128 ? static_cast<char>(sign[0]) : '.';
+}
+
 }  // namespace platform::windows

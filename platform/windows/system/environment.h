@@ -13,6 +13,7 @@ class WindowsEnvironment final : public Environment {
   std::string ProgramName() override;
   std::string FullPath(const std::string& path) override;
   void SetCurrentFolder(const std::string& path) override;
+  char DecimalSign() override;
 };
 
 }  // namespace platform::windows

@@ -10,6 +10,9 @@ namespace platform::windows {
 // list. Nothing for other controls.
 void ShowValue(HWND handle, const ui::Control& control);
 
+// The other way round: text boxes, check boxes and drop-down lists take what stands on the screen.
+void ReadValue(HWND handle, ui::Control& control);
+
 // The items of a list or drop-down list. Nothing for other controls.
 void ShowItems(HWND handle, const ui::Control& control, const Appearance& appearance);
 

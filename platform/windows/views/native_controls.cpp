@@ -172,6 +172,10 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
   }
 }
 
+void NativeControls::ReadFields() const {
+  for (std::size_t i = 0; i < handles_.size(); ++i) ReadValue(handles_[i], control(i));
+}
+
 void NativeControls::Fit(int width, int height) {
   for (const auto& view : browser_views_) MoveWindow(view->handle(), 0, 0, width, height, TRUE);
 }

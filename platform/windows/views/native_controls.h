@@ -49,6 +49,9 @@ class NativeControls {
 
   void Changed(const ui::Control& control, ui::Property property);
 
+  // ui::WindowView::ReadFields for all of them.
+  void ReadFields() const;
+
   // The parent has a new size.
   void Fit(int width, int height);
 

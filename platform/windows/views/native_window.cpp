@@ -124,6 +124,10 @@ void NativeWindow::Changed(const ui::MenuItem& item, ui::Property property) {
   DrawMenuBar(handle_);
 }
 
+void NativeWindow::ReadFields() {
+  controls_.ReadFields();
+}
+
 void NativeWindow::ShowAccessKeys() {
   std::vector<std::string> captions = menu_.BarCaptions();
   const auto bar_count = static_cast<std::ptrdiff_t>(captions.size());

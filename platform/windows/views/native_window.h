@@ -34,6 +34,7 @@ class NativeWindow final : public ui::WindowView {
   void CaptionChanged() override;
   void Changed(const ui::Control& control, ui::Property property) override;
   void Changed(const ui::MenuItem& item, ui::Property property) override;
+  void ReadFields() override;
 
   // Handles a keyboard message as a dialog does (Tab, arrows, Enter, Esc, access keys). Returns
   // whether that was all. The window may be gone when it returns.
