@@ -1,7 +1,6 @@
 #include "app/application.h"
 
 #include "app/leftovers.h"
-#include "base/numbers.h"
 #include "base/text.h"
 
 namespace app {
@@ -131,11 +130,9 @@ void Application::VisitSite() {
   });
 }
 
-// An error that no procedure traps: reporting itself has failed, so all that is left is to say so.
+// An error that no procedure traps: nearly always that of a report, of which the user is not told.
 void Application::EndAfter(const base::RuntimeError& error) {
-  platform_.messages.Show(
-      "Run-time error '" + base::BareNumber(error.number()) + "':\r\n\r\n" + error.description(),
-      "Tonmira", platform::MessageIcon::kCritical, platform::MessageButtons::kOk);
+  errors_.ShowUntrapped(error);
   platform_.processes.EndProcess();
 }
 

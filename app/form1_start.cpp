@@ -152,7 +152,8 @@ void Form1::Form_Unload() {
     others_.news.Hide();
     if (state_.MicrophoneON == 1) EndCapture();
     DirectSoundRecord.reset();
-    platform_.files.Delete(state_.temp_folder + "\\tnftmp.wav");
+    const std::string old_wave = state_.temp_folder + "\\tnftmp.wav";
+    if (platform_.files.Exists(old_wave)) platform_.files.Delete(old_wave);
     ExFunctions(context_).WavPlay("0", false, true);
     // The play that this ends never comes to release what it started.
     if (playing) local_sound.KillAll();

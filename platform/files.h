@@ -35,7 +35,7 @@ class FileSystem {
   // True for a file, false for a folder or nothing.
   virtual bool Exists(const std::string& path) = 0;
 
-  // Null when there is no such file or folder.
+  // Null when there is no such file or folder, or a folder of that name in its place.
   virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;
 
   // Creates the file, or empties the one that is there.

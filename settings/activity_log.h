@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -19,7 +20,8 @@ class ActivityLog {
   ActivityLog(platform::Platform& platform, base::ErrorReporter& errors)
       : platform_(platform), errors_(errors) {}
 
-  // Appends one entry; a full log has its last line replaced. Throws base::RuntimeError.
+  // Appends one entry; a full log has its last line replaced. A log that is held, by a virus
+  // scanner say, is waited for, for a second at most. Throws base::RuntimeError.
   void PrintFile(std::string_view newdata);
 
   // Reads the log into the slots. Slots without an entry keep what they hold. Error value
@@ -28,6 +30,11 @@ class ActivityLog {
 
  private:
   static constexpr std::size_t kMaxLines = 100;
+  static constexpr int kTries = 6;
+  static constexpr int kPauseMs = 200;
+
+  // Calls `body` until the log is not held any more, kTries times at most.
+  void Insist(const std::function<void()>& body);
 
   std::string Path() const;
 

@@ -49,6 +49,7 @@ void Form5::Combo1_Click() {
 
 void Form5::Command1_Click() {
   base::TrapErrors(errors_, base::ErrorValue::kFirstRunAccept, [this] {
+    ReadFields();
     WriteSettings();
     StartAnew();
     unload_all_();

@@ -83,6 +83,12 @@ void Files::Fail(Operation operation, const std::string& path, base::ErrorCode c
   faults_[{operation, base::ToLower(path)}] = code;
 }
 
+void Files::FailTimes(int times, Operation operation, const std::string& path,
+                      base::ErrorCode code) {
+  Fail(operation, path, code);
+  times_left_[{operation, base::ToLower(path)}] = times;
+}
+
 void Files::Lock(const std::string& path) {
   for (const Operation operation : {Operation::kOpenForReading, Operation::kOpenForWriting,
                                     Operation::kRename, Operation::kDelete}) {
@@ -108,6 +114,7 @@ void Files::KillAt(int n) {
 
 void Files::Heal() {
   faults_.clear();
+  times_left_.clear();
   folder_faults_.clear();
   operations_ = 0;
   fault_at_ = 0;
@@ -126,6 +133,7 @@ std::unique_ptr<InputFile> Files::OpenForReading(const std::string& path) {
 
 std::unique_ptr<OutputFile> Files::OpenForWriting(const std::string& path) {
   CheckFolder(path);
+  CheckNoFolder(path);
   Check(Operation::kOpenForWriting, path);
   journal_.Add(Kind::kFile, "create " + path);
   Put(path, "");
@@ -134,6 +142,7 @@ std::unique_ptr<OutputFile> Files::OpenForWriting(const std::string& path) {
 
 void Files::Rename(const std::string& from, const std::string& to) {
   Check(Operation::kRename, to);
+  CheckNoFolder(to);
   const auto file = files_.find(base::ToLower(from));
   if (file == files_.end()) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
   journal_.Add(Kind::kFile, "rename " + from + " to " + to);
@@ -170,10 +179,24 @@ void Files::Check(Operation operation, const std::string& path) {
     throw base::RuntimeError(*fault_code_);
   }
   const auto fault = faults_.find({operation, base::ToLower(path)});
-  if (fault != faults_.end()) throw base::RuntimeError(fault->second);
+  if (fault != faults_.end()) {
+    const base::ErrorCode code = fault->second;
+    const auto times = times_left_.find(fault->first);
+    if (times != times_left_.end() && --times->second == 0) {
+      times_left_.erase(times);
+      faults_.erase(fault);
+    }
+    throw base::RuntimeError(code);
+  }
   const auto folder_fault = folder_faults_.find(base::ToLower(FolderOf(path)));
   if (folder_fault != folder_faults_.end() && ChangesTheDisk(operation)) {
     throw base::RuntimeError(folder_fault->second);
+  }
+}
+
+void Files::CheckNoFolder(const std::string& path) const {
+  if (folders_.contains(base::ToLower(path))) {
+    throw base::RuntimeError(base::ErrorCode::kPathFileAccess);
   }
 }
 

@@ -43,6 +43,9 @@ class Files : public FileSystem {
   // Every `operation` on `path` fails with `code` until Heal().
   void Fail(Operation operation, const std::string& path, base::ErrorCode code);
 
+  // The next `times` ones do, and no more.
+  void FailTimes(int times, Operation operation, const std::string& path, base::ErrorCode code);
+
   // Another program holds the file: opening, renaming onto and deleting it are denied.
   void Lock(const std::string& path);
 
@@ -78,12 +81,14 @@ class Files : public FileSystem {
 
   void Check(Operation operation, const std::string& path);
   void CheckFolder(const std::string& path) const;
+  void CheckNoFolder(const std::string& path) const;  // a folder stands in its place
   void Write(const std::string& path, std::string_view bytes);
 
   Journal& journal_;
   std::map<std::string, File> files_;
   std::set<std::string> folders_;
   std::map<std::pair<Operation, std::string>, base::ErrorCode> faults_;
+  std::map<std::pair<Operation, std::string>, int> times_left_;  // of the faults that pass
   std::map<std::string, base::ErrorCode> folder_faults_;
   int operations_ = 0;
   int fault_at_ = 0;

@@ -209,5 +209,18 @@ TEST_F(FirstRunTest, AStartWithGoodSettingsLeavesTheDialogAndTheLeftoverAlone) {
   EXPECT_TRUE(sim.files.Exists("nl.ini"));
 }
 
+// The start goes on; the file cannot be written in its place either, and that is told.
+TEST_F(FirstRunTest, AFolderInPlaceOfTheSettingsCountsAsNoFile) {
+  sim.files.AddFolder(kSettings);
+  OnTheDialogAt(100ms, [this](Form5& dialog) {
+    EXPECT_TRUE(dialog.Visible());
+    EXPECT_EQ(LogEntries().back(), ">> Program starting finished");
+    dialog.Command1.Click();
+  });
+  LeaveTheErrorDialogAt(1s);
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  75,   Error value:  502");
+}
+
 }  // namespace
 }  // namespace app

@@ -148,13 +148,18 @@ TEST_F(ModesTest, EnterPlaysOnlyOnceAModeWasChosenAndEscStops) {
 }
 
 // Its error value is asserted where every handler's is.
-TEST_F(ModesTest, AFailingModeChoiceThatCannotBeWrittenDownEitherEndsTheProgramWithAMessage) {
+TEST_F(ModesTest, AFailingModeChoiceThatCannotBeWrittenDownEitherHasItsErrorDialog) {
   sim.At(1s, [this] {
     sim.files.FailWritesIn("C:\\Temp", base::ErrorCode::kDiskFull);
     program->form1.Option2.Click();
   });
+  sim.At(2s, [this] {
+    EXPECT_EQ(program->form6.List1.Items()[0], "Error number:  61,   Error value:  1010");
+    EXPECT_EQ(program->form6.List1.Items()[1], "<Disk full> Not writable: C:\\Temp");
+    program->form6.Command1.Click();
+  });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '61':\r\n\r\nDisk full"}));
+  EXPECT_EQ(Messages(), Lines{});
   EXPECT_FALSE(sim.files.Exists(kErrorLog));
 }
 

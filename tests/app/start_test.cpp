@@ -207,11 +207,16 @@ TEST_F(StartTest, AnotherErrorWithTheOldLogIsReportedAndTheStartGoesOnFromTheCom
   EXPECT_EQ(LogEntries(), kStartEntries);
 }
 
-TEST_F(StartTest, AFailureThatTheSecondPassMeetsAgainEndsTheProgramWithAMessage) {
+TEST_F(StartTest, AFailureThatTheSecondPassMeetsAgainEndsTheProgramWithTheDialog) {
   sim.files.Fail(Operation::kOpenForWriting, kLog, ErrorCode::kDiskFull);
   sim.At(120ms, [this] { program->form6.done_flag = 1; });
+  sim.At(500ms, [this] {
+    EXPECT_TRUE(program->form6.Visible());
+    EXPECT_EQ(program->form6.List1.Items()[1], "<Disk full>");
+    program->form6.done_flag = 1;
+  });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '61':\r\n\r\nDisk full"}));
+  EXPECT_EQ(Messages(), Lines{});
 }
 
 TEST_F(StartTest, AnApplicationDataFolderThatCannotBeWrittenEndsTheProgramAtOnce) {
@@ -240,47 +245,6 @@ TEST_F(StartTest, AProbeFileThatCannotBeDeletedIsReported) {
   EXPECT_TRUE(Run());
   EXPECT_EQ(sim.Lines(kErrorLog)[0], "Error number:  70,   Error value:  1012");
 }
-
-// What of the surroundings is missing, and how the program answers.
-struct FolderFault {
-  std::string name;
-  std::function<void(platform::simulated::Simulation&)> arrange;
-  Lines messages;
-};
-
-class FolderFaultTest : public ProgramTest, public testing::WithParamInterface<FolderFault> {};
-
-TEST_P(FolderFaultTest, EndsTheProgramWithAMessageAndNoHang) {
-  GetParam().arrange(sim);
-  EXPECT_TRUE(Run());
-  EXPECT_EQ(Messages(), GetParam().messages);
-}
-
-const std::string kPathNotFound = "critical [Tonmira] Run-time error '76':\r\n\r\nPath not found";
-const std::string kDenied = "critical [Tonmira] Run-time error '70':\r\n\r\nPermission denied";
-
-INSTANTIATE_TEST_SUITE_P(
-    Folders, FolderFaultTest,
-    testing::Values(
-        FolderFault{"TempUnset",
-                    [](auto& sim) { sim.environment.variables.erase("TEMP"); },
-                    {kPathNotFound}},
-        FolderFault{"TempMissing",
-                    [](auto& sim) { sim.files.RemoveFolder(platform::simulated::kTemp); },
-                    {kPathNotFound}},
-        FolderFault{"TempReadOnly",
-                    [](auto& sim) {
-                      sim.files.FailWritesIn(platform::simulated::kTemp,
-                                             ErrorCode::kPermissionDenied);
-                    },
-                    {kDenied}},
-        FolderFault{"AppDataUnset",
-                    [](auto& sim) { sim.environment.variables.erase("APPDATA"); },
-                    {"exclamation [Write error] Write error"}},
-        FolderFault{"AppDataMissing",
-                    [](auto& sim) { sim.files.RemoveFolder(platform::simulated::kAppData); },
-                    {"exclamation [Write error] Write error"}}),
-    [](const auto& fault) { return fault.param.name; });
 
 }  // namespace
 }  // namespace app

@@ -92,9 +92,14 @@ TEST_F(UsageUploadTest, ANumberThatDoesNotFitGoesToTheErrorTrap) {
     form1.Close();
   });
   // The number is drawn for the error log, too, and does not fit there either: it is now the trap
-  // of the shutdown that meets it, and nobody is left to meet it a third time.
+  // of the shutdown that meets it, and nobody is left to meet it a third time. The user is shown
+  // the first.
+  At(2s, [this](Form1&) {
+    EXPECT_EQ(program->form6.List1.Items()[0], "Error number:  6,   Error value:  106");
+    program->form6.done_flag = 1;
+  });
   EXPECT_TRUE(Run());
-  EXPECT_EQ(Messages(), (Lines{"critical [Tonmira] Run-time error '6':\r\n\r\nOverflow"}));
+  EXPECT_EQ(Messages(), Lines{});
   EXPECT_FALSE(sim.files.Exists(kUploadHandOver));
   EXPECT_EQ(Started(), (Lines{"end"}));
 }

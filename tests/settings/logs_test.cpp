@@ -63,6 +63,28 @@ TEST_F(ActivityLogTest, ALogThatCannotBeWrittenIsAnErrorOfTheCaller) {
   EXPECT_EQ(sim.files.Get(kLogPath), "20-11-2026\r\n14:30\r\n");
 }
 
+TEST_F(ActivityLogTest, ALogThatIsHeldForAMomentIsWaitedFor) {
+  log.PrintFile("#a");
+  for (const Operation operation : {Operation::kOpenForWriting, Operation::kOpenForReading}) {
+    sim.files.FailTimes(5, operation, kLogPath, ErrorCode::kPermissionDenied);
+    EXPECT_NO_THROW(log.PrintFile("#b"));
+  }
+  EXPECT_EQ(LogEntries(), (Lines{"#a", "#b", "#b"}));
+  EXPECT_FALSE(sim.files.Exists(kErrorPath));
+}
+
+TEST_F(ActivityLogTest, OneThatStaysHeldIsAnErrorOfTheCaller) {
+  sim.files.Fail(Operation::kOpenForWriting, kLogPath, ErrorCode::kPermissionDenied);
+  EXPECT_THROW(log.PrintFile("#a"), RuntimeError);
+  EXPECT_EQ(sim.pump.now_ms(), 1000);
+}
+
+TEST_F(ActivityLogTest, AFullDiskIsNotWaitedFor) {
+  sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
+  EXPECT_THROW(log.PrintFile("#a"), RuntimeError);
+  EXPECT_EQ(sim.pump.now_ms(), 0);
+}
+
 TEST_F(ActivityLogTest, TwoCopiesThatWriteInTurnsLeaveALogOfWholeLines) {
   ErrorNotes other_errors{sim.services, state, scene, upload};
   ActivityLog other{sim.services, other_errors};
@@ -146,11 +168,62 @@ TEST_F(ErrorNotesTest, WithConsentTheErrorLogIsUploadedUnderItsNumber) {
   EXPECT_EQ(upload.sent, (Lines{"error.log as 701error.log"}));
 }
 
-TEST_F(ErrorNotesTest, AnErrorLogThatCannotBeWrittenIsAnErrorOfTheCaller) {
+TEST_F(ErrorNotesTest, AnErrorLogThatCannotBeWrittenLeadsToTheDialogAllTheSame) {
+  state.SendData = 1;
   sim.files.FailWritesIn("C:\\Temp", ErrorCode::kDiskFull);
-  EXPECT_THROW(errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow)),
+  sim.At(100ms, [this] {
+    EXPECT_TRUE(dialog.Visible());
+    EXPECT_EQ(dialog.List1.Items(),
+              (Lines{"Error number:  6,   Error value:  4", "<Overflow> Not writable: C:\\Temp",
+                     "Resolution: 1920 x 1080,   DPI: 96", "Time: 14:30, Date: 20-11-2026"}));
+    EXPECT_EQ(scene.hidden, 1);
+    dialog.Command1.Click();
+  });
+  EXPECT_NO_THROW(errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow)));
+  EXPECT_EQ(unloads, 1);
+  EXPECT_TRUE(upload.sent.empty());
+  EXPECT_TRUE(sim.journal.Texts({Kind::kMessage}).empty());
+}
+
+TEST_F(ErrorNotesTest, AnErrorLogOfTheLastErrorIsNotSentInItsPlace) {
+  state.SendData = 1;
+  sim.files.Put(kErrorPath, "the last error");
+  sim.files.Fail(Operation::kRename, kErrorPath, ErrorCode::kPermissionDenied);
+  LeaveTheErrorDialogAt(100ms);
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
+  EXPECT_TRUE(upload.sent.empty());
+  EXPECT_EQ(sim.files.PathsIn("C:\\Temp"), (Lines{kErrorPath, kLogPath}));
+}
+
+TEST_F(ErrorNotesTest, AScreenThatTellsNoResolutionKeepsNoneFromTheDialog) {
+  sim.screen.failing_queries = 1;
+  LeaveTheErrorDialogAt(100ms);
+  errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kOverflow));
+  EXPECT_EQ(sim.Lines(kErrorPath)[2], "Resolution: 1920 x 1080,   DPI: 0");
+}
+
+TEST_F(ErrorNotesTest, AnErrorThatNobodyTrapsIsShownInTheDialogAndNowhereElse) {
+  sim.At(100ms, [this] {
+    EXPECT_EQ(dialog.List1.Items()[1], "<Out of memory>");
+    dialog.Command1.Click();
+  });
+  errors.ShowUntrapped(RuntimeError(ErrorCode::kOutOfMemory));
+  EXPECT_EQ(unloads, 1);
+  EXPECT_FALSE(sim.files.Exists(kErrorPath));
+  EXPECT_TRUE(sim.journal.Texts({Kind::kMessage}).empty());
+}
+
+TEST_F(ErrorNotesTest, OfAReportThatFailsTheErrorItselfIsShown) {
+  sim.random.first = {0.999};
+  sim.clock.now = {2026, 12, 31, 23, 59, 59};
+  EXPECT_THROW(errors.ErrorNote(ErrorValue::kPlay, RuntimeError(ErrorCode::kFileNotFound)),
                RuntimeError);
-  EXPECT_FALSE(dialog.Visible());
+  sim.At(100ms, [this] {
+    EXPECT_EQ(dialog.List1.Items()[0], "Error number:  53,   Error value:  4");
+    dialog.Command1.Click();
+  });
+  errors.ShowUntrapped(RuntimeError(ErrorCode::kOverflow));
+  EXPECT_EQ(unloads, 1);
 }
 
 TEST_F(ErrorNotesTest, AnUploadNumberBeyond16BitsIsAnErrorOfTheCaller) {

@@ -37,6 +37,11 @@ DWORD Insist(const std::wstring& path, Attempt attempt) {
   }
 }
 
+bool IsFolder(const std::wstring& name) {
+  const DWORD attributes = GetFileAttributesW(name.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 class WindowsInputFile final : public InputFile {
  public:
   WindowsInputFile(KernelHandle file, std::wstring path)
@@ -108,6 +113,7 @@ std::unique_ptr<InputFile> WindowsFileSystem::OpenForReading(const std::string& 
     return file != nullptr;
   });
   if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return nullptr;
+  if (error == ERROR_ACCESS_DENIED && IsFolder(name)) return nullptr;
   if (error != ERROR_SUCCESS) ThrowFileError(error, name);
   // A device's name (a serial port, say) opens too, but reading it could block for ever.
   if (GetFileType(file.get()) != FILE_TYPE_DISK) return nullptr;
