@@ -14,15 +14,6 @@ struct SlotRange {
 // The slots that must hold a text.
 constexpr SlotRange kRequired[] = {{4, 29}, {31, 39}, {41, 47}, {49, 56}, {58, 68}};
 
-// Lines end with CR LF; a file with other line ends was damaged on its way.
-bool HasStrayLineEnd(std::string_view content) {
-  for (std::size_t i = 0; i < content.size(); ++i) {
-    if (content[i] == '\n' && (i == 0 || content[i - 1] != '\r')) return true;
-    if (content[i] == '\r' && (i + 1 == content.size() || content[i + 1] != '\n')) return true;
-  }
-  return false;
-}
-
 bool IsText(const std::string& entry) {
   return !entry.empty() && entry != " ";
 }
@@ -31,7 +22,6 @@ bool IsText(const std::string& entry) {
 
 std::optional<LanguageFile> LanguageFile::Parse(std::string_view content,
                                                 const std::string& language) {
-  if (HasStrayLineEnd(content)) return std::nullopt;
   LanguageFile file;
   base::FieldReader reader(content);
   for (std::size_t n = 1; n <= kMostEntries && !reader.AtEnd(); ++n)

@@ -57,5 +57,29 @@ TEST(LanguageFileTest, QuotesKeepACommaInItsText) {
   EXPECT_EQ(file->Text(10), "a, b ");
 }
 
+std::string WithLineEnds(std::string content, const std::string& line_end) {
+  for (std::size_t at = 0; (at = content.find("\r\n", at)) != std::string::npos;
+       at += line_end.size()) {
+    content.replace(at, 2, line_end);
+  }
+  return content;
+}
+
+TEST(LanguageFileTest, LinesMayEndAsThoseOfEveryTextFile) {
+  for (const char* line_end : {"\r\n", "\n", "\r"}) {
+    const auto file = LanguageFile::Parse(WithLineEnds(FileOf("nl", 79), line_end), "nl");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->Text(4), "text 4");
+    EXPECT_EQ(file->Text(79), "text 79");
+    EXPECT_EQ(file->Text(80), "");
+  }
+}
+
+TEST(LanguageFileTest, ALineEndTooManyIsAnEmptyText) {
+  std::string content = FileOf("nl", 79);
+  content.insert(content.find("text 50"), "\n");
+  EXPECT_FALSE(LanguageFile::Parse(content, "nl"));
+}
+
 }  // namespace
 }  // namespace lang

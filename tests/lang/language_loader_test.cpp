@@ -98,8 +98,6 @@ INSTANTIATE_TEST_SUITE_P(
                     BadFile{"TextOfOneBlank", FileOf("nl", 79, {{31, "\" \""}})},
                     BadFile{"TooFewEntries", FileOf("nl", 67)},
                     BadFile{"NoLineEnds", Without(Without(FileOf("nl", 79), '\r'), '\n')},
-                    BadFile{"LoneLineFeeds", Without(FileOf("nl", 79), '\r')},
-                    BadFile{"LoneCarriageReturns", Without(FileOf("nl", 79), '\n')},
                     BadFile{"Binary", std::string(5000, '\x80') + std::string(100, '\0')},
                     BadFile{"AVeryLongLine", std::string(10 << 20, 'x')},
                     BadFile{"AQuoteThatIsNeverClosed", FileOf("nl", 79, {{4, "\"never closed"}})},
