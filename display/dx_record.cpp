@@ -10,6 +10,10 @@ constexpr char kNoDirectSound[] = "DirectSound is not available on this computer
 constexpr char kNoDevice[] = "No recording device was found.";
 constexpr char kDeviceRefused[] =
     "The recording device cannot be opened. Another program may be using it.";
+// As the system calls the places.
+constexpr char kNotAllowed[] =
+    "Windows does not let this program use the microphone. Allow it in the Windows settings: "
+    "Privacy, Microphone, \"Let desktop apps access your microphone\".";
 constexpr char kFormatRefused[] = "The recording device does not record in the wanted format.";
 constexpr char kNoEvents[] = "The recording device does not tell when it has recorded something.";
 
@@ -36,7 +40,7 @@ std::string frmDX_Record::Initialize(std::int32_t samples_per_second, std::int16
   });
   if (!error) return "";
   UninitializeSound();
-  return failure;
+  return error->code() == base::ErrorCode::kPermissionDenied ? kNotAllowed : failure;
 }
 
 std::string frmDX_Record::DefaultDevice() {

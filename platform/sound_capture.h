@@ -2,8 +2,9 @@
 // which is filled over and over and tells by events when it is filled up to given positions.
 // Dropping an object releases it.
 //
-// Calls that set capture up throw base::RuntimeError (57 device error) when they fail. Those of a
-// buffer that was set up return false instead: a device may be unplugged at any moment.
+// Calls that set capture up throw base::RuntimeError when they fail: 70 permission denied where the
+// user's privacy settings keep programs from recording, else 57 device error. Those of a buffer
+// that was set up return false instead: a device may be unplugged at any moment.
 #pragma once
 
 #include <cstdint>

@@ -166,7 +166,8 @@ std::unique_ptr<CaptureRoot> FakeSoundCapture::Create() {
 }
 
 void FakeSoundCapture::Call(CaptureCall call, const std::string& text) {
-  if (fails_.contains(call)) throw base::RuntimeError(base::ErrorCode::kDeviceError);
+  const auto failure = fails_.find(call);
+  if (failure != fails_.end()) throw base::RuntimeError(failure->second);
   Note(text);
 }
 

@@ -6,10 +6,10 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
+#include "base/errors.h"
 #include "platform/simulated/journal.h"
 #include "platform/sound_capture.h"
 #include "platform/timers.h"
@@ -32,7 +32,9 @@ class FakeSoundCapture : public SoundCapture {
   std::function<std::uint8_t(std::uint32_t)> sound = [](std::uint32_t) { return std::uint8_t{0}; };
 
   // Calls of this kind fail.
-  void Fail(CaptureCall call) { fails_.insert(call); }
+  void Fail(CaptureCall call, base::ErrorCode code = base::ErrorCode::kDeviceError) {
+    fails_[call] = code;
+  }
   void Heal() { fails_.clear(); }
 
   // Runs the callback of event `id`, as a notification that was under way does.
@@ -49,7 +51,7 @@ class FakeSoundCapture : public SoundCapture {
  private:
   Journal& journal_;
   Timers& timers_;
-  std::set<CaptureCall> fails_;
+  std::map<CaptureCall, base::ErrorCode> fails_;
 };
 
 }  // namespace platform::simulated

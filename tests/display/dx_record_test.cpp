@@ -184,6 +184,18 @@ TEST_F(RecordTest, WithoutADeviceTheFailureSaysSo) {
   EXPECT_EQ(Initialize(), "No recording device was found.");
 }
 
+// Some systems refuse the list of devices, others the device or its buffer.
+TEST_F(RecordTest, WhereWindowsDoesNotAllowItTheFailureSaysWhereToAllowIt) {
+  for (const CaptureCall call :
+       {CaptureCall::kDevices, CaptureCall::kDevice, CaptureCall::kBuffer}) {
+    sim.sound_capture.Fail(call, base::ErrorCode::kPermissionDenied);
+    EXPECT_EQ(Initialize(),
+              "Windows does not let this program use the microphone. Allow it in the Windows "
+              "settings: Privacy, Microphone, \"Let desktop apps access your microphone\".");
+    sim.sound_capture.Heal();
+  }
+}
+
 TEST_F(RecordTest, ADeviceThatIsUnpluggedWhileItRecordsHandsOverNothing) {
   Initialize();
   record->SoundPlay();

@@ -16,6 +16,7 @@ WAVEFORMATEX NativeFormat(const WaveFormat& format) {
 }
 
 void CheckDevice(HRESULT result) {
+  if (result == E_ACCESSDENIED) throw base::RuntimeError(base::ErrorCode::kPermissionDenied);
   if (FAILED(result)) throw base::RuntimeError(base::ErrorCode::kDeviceError);
 }
 

@@ -10,7 +10,8 @@ namespace platform::windows {
 
 WAVEFORMATEX NativeFormat(const WaveFormat& format);
 
-// Throws base::RuntimeError kDeviceError for a failure.
+// Throws base::RuntimeError for a failure: kPermissionDenied where Windows does not allow the
+// device to be used, else kDeviceError.
 void CheckDevice(HRESULT result);
 
 }  // namespace platform::windows
