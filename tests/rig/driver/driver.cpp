@@ -27,6 +27,9 @@
 //   forget KEY                        deletes that key
 //   cut WINDOW                        captions that do not fit into their controls
 //   close WINDOW                      posts the wish to close
+//   logoff WINDOW                     tells a window, as the system does, that the session ends
+//   put WINDOW TEXT                   the text of a field, without a key and without a word
+//   put-choice WINDOW INDEX           the same for a drop-down list; for a check box, 1 or 0
 #include <windows.h>
 
 #include <algorithm>
@@ -98,6 +101,12 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
       {"cut", [](const Fields& f) { PrintCutCaptions(Window(f.at(1))); }},
       {"slide", Slide},
       {"close", [](const Fields& f) { Post(Window(f.at(1)), WM_CLOSE); }},
+      {"logoff", [](const Fields& f) { EndSession(Window(f.at(1))); }},
+      {"put", [](const Fields& f) { PutText(Window(f.at(1)), Wide(f.at(2))); }},
+      {"put-choice",
+       [](const Fields& f) {
+         PutChoice(Window(f.at(1)), static_cast<WPARAM>(std::stoi(f.at(2))));
+       }},
   };
 }
 

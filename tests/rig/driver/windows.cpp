@@ -119,3 +119,16 @@ void Select(const Fields& fields) {
   Ask(GetAncestor(combo, GA_PARENT), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
       reinterpret_cast<LPARAM>(combo));
 }
+
+void EndSession(HWND window) {
+  if (Ask(window, WM_QUERYENDSESSION) == FALSE) throw std::runtime_error("it objects");
+  SendMessageTimeoutW(window, WM_ENDSESSION, TRUE, 0, SMTO_NORMAL, 10000, nullptr);
+}
+
+void PutText(HWND field, const std::wstring& text) {
+  Ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void PutChoice(HWND field, WPARAM choice) {
+  Ask(field, ClassOf(field) == "ComboBox" ? CB_SETCURSEL : BM_SETCHECK, choice);
+}

@@ -26,3 +26,11 @@ void PrintItems(HWND list);
 void Clicks(const Fields& fields);
 void Slide(const Fields& fields);
 void Select(const Fields& fields);
+
+// The system's question and its answer at the end of a session; throws when the window objects. The
+// program may end before it returns from the second.
+void EndSession(HWND window);
+
+// What a field holds, with no notification to its window where the system sends none.
+void PutText(HWND field, const std::wstring& text);
+void PutChoice(HWND field, WPARAM choice);
