@@ -1,5 +1,5 @@
-// The program that a helper sounds for (base/owner_text.h): when it has ended, however it ended, the
-// helper's time is over, too.
+// The program that a helper sounds for (base/owner_text.h): when it has ended, however it ended,
+// the helper's time is over, too.
 #pragma once
 
 #include "platform/windows/api/handles.h"

@@ -4,8 +4,8 @@
 namespace helpers {
 
 // The file may be missing for a moment while it is rewritten, so it is gone only when two looks in
-// a row, `kLookEvery` apart or more, have missed it. One with another request is not the one that was
-// read, and missed, too.
+// a row, `kLookEvery` apart or more, have missed it. One with another request is not the one that
+// was read, and missed, too.
 class RequestWatch {
  public:
   static constexpr unsigned kLookEvery = 50;  // ms

@@ -1,6 +1,6 @@
-// tone16.dll and tone32.dll: plays what the hand-over file asks for until it is terminated, that file
-// is gone or who started it has ended. Ends at once with kNoRequest if the file is missing or holds
-// anything else.
+// tone16.dll and tone32.dll: plays what the hand-over file asks for until it is terminated, that
+// file is gone or who started it has ended. Ends at once with kNoRequest if the file is missing or
+// holds anything else.
 #include <cstdint>
 #include <optional>
 

@@ -24,8 +24,8 @@ class TonePlayer {
  public:
   TonePlayer(const RequestFile& file, std::uint32_t request, AtTop at_top);
 
-  // Returns when the file or its writer is gone, or at the end of a sweep that is to end. In all other cases the
-  // process plays on until it is terminated.
+  // Returns when the file or its writer is gone, or at the end of a sweep that is to end. In all
+  // other cases the process plays on until it is terminated.
   void Run();
 
  private:

@@ -36,8 +36,8 @@ void ToneStream::Fill(std::span<Frame> frames) {
 
 void ToneStream::SkipTo(std::uint32_t elapsed_ms) {
   if (!sweep_) return;
-  const std::uint32_t steps = elapsed_ms / 1000 * kSweepStepsPerSecond +
-                              elapsed_ms % 1000 * kSweepStepsPerSecond / 1000;
+  const std::uint32_t steps =
+      elapsed_ms / 1000 * kSweepStepsPerSecond + elapsed_ms % 1000 * kSweepStepsPerSecond / 1000;
   for (std::uint32_t step = 0; step < steps && !at_top_; ++step) NextStep();
 }
 

@@ -42,8 +42,8 @@ class ToneStream {
 
   void Fill(std::span<Frame> frames);
 
-  // Puts a sweep at the beginning of the step that it plays this long after its own beginning; a tone
-  // has no such steps.
+  // Puts a sweep at the beginning of the step that it plays this long after its own beginning; a
+  // tone has no such steps.
   void SkipTo(std::uint32_t elapsed_ms);
 
   // The last step of a sweep is over.

@@ -66,7 +66,8 @@ std::optional<std::uint32_t> WaveDevice::Feed(ToneStream& stream) {
   for (Buffer& buffer : buffers_) {
     if (Queued(buffer.header)) continue;
     stream.Fill({buffer.frames.data(), buffer.header.dwBufferLength / sizeof(Frame)});
-    if (waveOutWrite(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR) return std::nullopt;
+    if (waveOutWrite(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR)
+      return std::nullopt;
     ++fed;
   }
   return fed;

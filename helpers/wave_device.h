@@ -28,8 +28,8 @@ class WaveDevice {
   // if that cannot be had; another rate may be tried then.
   bool Open(std::uint32_t rate_hz);
 
-  // Fills every buffer that is free and plays it; how many these were. Nothing if the device refuses
-  // (it was unplugged).
+  // Fills every buffer that is free and plays it; how many these were. Nothing if the device
+  // refuses (it was unplugged).
   std::optional<std::uint32_t> Feed(ToneStream& stream);
 
   // What has not been played yet is lost.

@@ -81,8 +81,8 @@ std::optional<base::RuntimeError> Form9::PlayTones() {
 }
 
 void Form9::NoteFailure(const base::RuntimeError& error) {
-  around_.log(">>> Tone " + base::BareNumber(tone_number_) + " cannot be played: " +
-              error.description());
+  around_.log(">>> Tone " + base::BareNumber(tone_number_) +
+              " cannot be played: " + error.description());
 }
 
 void Form9::PlayTone() {

@@ -1,6 +1,7 @@
 #include "tone/helper_programs.h"
 
 #include "base/command_line.h"
+#include "base/errors.h"
 
 namespace tone {
 namespace {

@@ -53,8 +53,9 @@ TEST_F(PlayerStartTest, AFileThatCannotBeReadHasItsMessageAndTheProgramEnds) {
 }
 
 TEST_F(PlayerStartTest, AToneThatCannotBePlayedIsInTheActivityLog) {
-  sim.At(200ms, [this] { sim.files.Fail(platform::simulated::Operation::kWrite, kWave,
-                                        base::ErrorCode::kDiskFull); });
+  sim.At(200ms, [this] {
+    sim.files.Fail(platform::simulated::Operation::kWrite, kWave, base::ErrorCode::kDiskFull);
+  });
   EXPECT_FALSE(Open(ProgramWith(kTwo)));
   EXPECT_EQ(player().Label1.Caption(), "1");
   EXPECT_EQ(LogEntries()[LogEntries().size() - 2], ">>> Tone 2 cannot be played: Disk full");

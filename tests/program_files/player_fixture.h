@@ -39,8 +39,7 @@ class PlayerTest : public testing::Test {
     main_window = std::make_unique<tone::NotingMainWindow>(sim.services.windows, sim.journal);
     window = std::make_unique<Form9>(
         sim.services, state, *main_window,
-        Form9::Surroundings{[this] { ++news_unloaded; },
-                            [this] { sim.processes.EndProcess(); },
+        Form9::Surroundings{[this] { ++news_unloaded; }, [this] { sim.processes.EndProcess(); },
                             [this](const std::string& entry) { logged.push_back(entry); }});
     loaded_entries = 0;
     return sim.Run([this, sound_mode] {
