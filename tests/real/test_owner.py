@@ -11,6 +11,7 @@ import numpy as np
 import pytest
 
 from rig.measuring import measure
+from rig.morse import open_tool
 from rig.online import opened
 from rig.paths import PROGRAM
 from rig.playing import helpers_running
@@ -205,15 +206,10 @@ def test_a_player_without_its_helper_shows_where_it_ended(
 
 
 def test_what_another_program_puts_into_the_fields_is_what_plays(
-        launch: Launch, driver: Driver, folders: Folders, recorder: Recorder) -> None:
+        launch: Launch, driver: Driver, folders: Folders, user: User,
+        recorder: Recorder) -> None:
     folders.write_settings(settings("256"))
-    program = launch(folders)
-    window = program.window()
-    program.wait_for_log(">> Program starting finished")
-    window.press("Morse tool")
-    wait_for(lambda: window.is_checked("Morse tool"), "the mode")
-    window.press("Play Sound")
-    tool = program.window("Morse tool")
+    tool = open_tool(launch(folders), user)
     fields = {c.id: c.handle for c in tool.controls() if c.kind.lower() == "edit"}
     driver.ask("put", fields[101], "t")
     driver.ask("put", fields[105], "880")
