@@ -44,7 +44,9 @@ def test_a_sensitivity_in_the_file_is_the_main_windows(
     assert "Microphone input, sensitivity: 7" in window.texts()
     window.press("+")
     wait_for(lambda: "Microphone input, sensitivity: 8" in window.texts(), "one more")
-    assert folders.settings_file.read_text().split("\n")[4] == "Microphone= 8"
+    # The caption changes first.
+    wait_for(lambda: folders.settings_file.read_text().split("\n")[4] == "Microphone= 8",
+             "the new setting")
 
 
 def test_languages_are_changed_in_the_menu_and_kept(
