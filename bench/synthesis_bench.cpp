@@ -49,6 +49,12 @@ void WaveImage(benchmark::State& state) {
 }
 BENCHMARK(WaveImage)->Unit(benchmark::kMicrosecond);
 
+void SineImage(benchmark::State& state) {
+  tone::SineImage image;
+  for (auto _ : state) benchmark::DoNotOptimize(image.Of(kPitchHz).data());
+}
+BENCHMARK(SineImage)->Unit(benchmark::kMicrosecond);
+
 // The share of one second in a run of many, so that starting the program hardly counts.
 void SoxSynth(benchmark::State& state) {
   constexpr double kSeconds = 200;

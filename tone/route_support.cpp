@@ -13,7 +13,6 @@ namespace tone {
 namespace {
 
 constexpr char kPitchCaption[] = "Actual pitch (Hertz): ";
-constexpr std::int16_t kBitsPerSample = 16;
 
 }  // namespace
 
@@ -48,7 +47,7 @@ void RouteSupport::WriteHandOver(std::int16_t pitch) {
 }
 
 void RouteSupport::WriteTone(std::int32_t pitch) {
-  const std::string image = waves_.CreateWaveArray(SineSecond(pitch), kSampleRate, kBitsPerSample);
+  const std::string& image = image_.Of(pitch);
   auto failure = waves_.WriteWave(WavePath(), image);
   if (!failure) return;
   if (!platform_.files.Exists(WavePath())) throw *failure;

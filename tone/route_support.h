@@ -10,6 +10,7 @@
 
 #include "platform/platform.h"
 #include "settings/main_state.h"
+#include "tone/wave_image.h"
 #include "tone/wave_output.h"
 
 namespace tone {
@@ -103,6 +104,7 @@ class RouteSupport {
   settings::MainState& state_;
   PlayScene& scene_;
   WaveOutput waves_;
+  SineImage image_;
   std::string language_;
   std::string temp_;
   std::string own_wave_;  // path; empty while the usual one serves

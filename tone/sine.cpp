@@ -1,78 +1,132 @@
 #include "tone/sine.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cmath>
+#include <cstring>
 
 #include "base/numbers.h"
 
 namespace tone {
 namespace {
 
+static_assert(std::endian::native == std::endian::little);
+
 constexpr double kRadiansPerSample = 0.00014247585204429924;
 constexpr double kAmplitude = 30000.0;
-constexpr std::size_t kBlock = 210;  // samples; 210 blocks make a second
-constexpr double kTieMargin = 4e-6;
+constexpr std::size_t kBlock = 210;   // samples; 210 blocks make a second
+constexpr std::size_t kMiddle = 105;  // the middle block
 
-using Block = std::array<double, kBlock>;
+constexpr double kToInteger = 6755399441055744.0;  // 1.5 * 2^52
+
+// Adding this leaves a number with 16 bits behind the point in the low 32 bits of the sum, and
+// adding a half more makes the upper 16 of them the nearest integer.
+constexpr double kToFixedPoint = kToInteger / 65536 + 0.5;
+
+using Frame = std::uint32_t;  // a sample of each channel
+using Block = std::array<Frame, kBlock>;
 
 double Phase(std::int32_t pitch_hz, std::size_t sample) {
   return pitch_hz * static_cast<std::int32_t>(sample) * kRadiansPerSample;
 }
 
-// Adding 1.5 * 2^52 leaves the nearest integer, ties to even, in the low bits of the sum.
-std::int64_t Rounded(double value) {
-  return std::bit_cast<std::int64_t>(value + 6755399441055744.0);
+// The nearest integer, ties to even, in both channels.
+Frame PlainFrame(std::int32_t pitch_hz, std::size_t sample) {
+  const double value = std::sin(Phase(pitch_hz, sample)) * kAmplitude;
+  return (std::bit_cast<std::uint64_t>(value + kToInteger) & 0xFFFF) * 0x10001;
 }
+
+// Sine and cosine, times an amplitude, of the phases of kCount * kGroup samples that are `step`
+// samples apart.
+template <std::size_t kCount, std::size_t kGroup>
+struct Phasors {
+  std::array<double, kCount * kGroup> sine;
+  std::array<double, kCount * kGroup> cosine;
+
+  Phasors(std::int32_t pitch_hz, std::size_t first, std::size_t step, double amplitude) {
+    std::array<double, kGroup> small_sine;
+    std::array<double, kGroup> small_cosine;
+    for (std::size_t j = 0; j < kGroup; ++j) {
+      small_sine[j] = std::sin(Phase(pitch_hz, j * step));
+      small_cosine[j] = std::cos(Phase(pitch_hz, j * step));
+    }
+    for (std::size_t i = 0; i < kCount; ++i) {
+      const double phase = Phase(pitch_hz, first + i * kGroup * step);
+      const double large_sine = std::sin(phase) * amplitude;
+      const double large_cosine = std::cos(phase) * amplitude;
+      for (std::size_t j = 0; j < kGroup; ++j) {
+        sine[i * kGroup + j] = large_sine * small_cosine[j] + large_cosine * small_sine[j];
+        cosine[i * kGroup + j] = large_cosine * small_cosine[j] - large_sine * small_sine[j];
+      }
+    }
+  }
+};
 
 class Rotation {
  public:
-  explicit Rotation(std::int32_t pitch_hz) : pitch_hz_(pitch_hz) {
-    for (std::size_t j = 0; j < kBlock; ++j) {
-      sine_[j] = std::sin(Phase(pitch_hz, j));
-      cosine_[j] = std::cos(Phase(pitch_hz, j));
-    }
-  }
+  Rotation(std::int32_t pitch_hz, char* frames)
+      : pitch_hz_(pitch_hz),
+        frames_(frames),
+        middle_(pitch_hz, kMiddle * kBlock, 1, kAmplitude),
+        distances_(pitch_hz, 0, kBlock, 1) {}
 
-  // Fills frames `first` to `first` + kBlock - 1 of both channels.
-  void Fill(std::int32_t* frames, std::size_t first) const {
-    const double start_sine = std::sin(Phase(pitch_hz_, first)) * kAmplitude;
-    const double start_cosine = std::cos(Phase(pitch_hz_, first)) * kAmplitude;
-    std::array<std::int64_t, kBlock> rounded;
-    std::int64_t near_tie = 0;
-    for (std::size_t j = 0; j < kBlock; ++j) {
-      const double value = start_sine * cosine_[j] + start_cosine * sine_[j];
-      rounded[j] = Rounded(value - kTieMargin);
-      near_tie |= rounded[j] ^ Rounded(value + kTieMargin);
-    }
-    for (std::size_t j = 0; j < kBlock; ++j) {
-      frames[2 * j] = frames[2 * j + 1] = static_cast<std::int32_t>(rounded[j]);
-    }
-    if (near_tie != 0) FillExactly(frames, first);
+  void WriteAll() {
+    for (std::size_t distance = 0; distance <= kMiddle; ++distance) WritePair(distance);
   }
 
  private:
-  void FillExactly(std::int32_t* frames, std::size_t first) const {
+  // The blocks so far after and before the middle; there is none 105 after it.
+  void WritePair(std::size_t distance) {
+    const double sine = distances_.sine[distance];
+    const double cosine = distances_.cosine[distance];
+    Block after;
+    Block before;
     for (std::size_t j = 0; j < kBlock; ++j) {
-      const double exact = std::sin(Phase(pitch_hz_, first + j)) * kAmplitude;
-      frames[2 * j] = frames[2 * j + 1] = static_cast<std::int32_t>(Rounded(exact));
+      const double one = middle_.sine[j] * cosine + kToFixedPoint;
+      const double other = middle_.cosine[j] * sine;
+      after[j] = static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(one + other));
+      before[j] = static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(one - other));
     }
+    Write(before, kMiddle - distance);
+    if (distance < kMiddle) Write(after, kMiddle + distance);
+  }
+
+  static bool NearTie(std::uint32_t fixed_point) {
+    return static_cast<std::uint16_t>(fixed_point + 2) < 4;
+  }
+
+  void Write(const Block& fixed_point, std::size_t block) {
+    Block frames;
+    std::uint32_t ties = 0;
+    for (std::size_t j = 0; j < kBlock; ++j) {
+      ties |= static_cast<std::uint32_t>(NearTie(fixed_point[j]));
+      frames[j] = fixed_point[j] >> 16 | (fixed_point[j] & 0xFFFF0000U);
+    }
+    for (std::size_t j = 0; ties != 0 && j < kBlock; ++j) {
+      if (NearTie(fixed_point[j])) frames[j] = PlainFrame(pitch_hz_, block * kBlock + j);
+    }
+    std::memcpy(frames_ + block * sizeof(frames), frames.data(), sizeof(frames));
   }
 
   std::int32_t pitch_hz_;
-  Block sine_;
-  Block cosine_;
+  char* frames_;
+  Phasors<14, 15> middle_;
+  Phasors<8, 14> distances_;  // from the middle, in blocks
 };
 
 }  // namespace
 
-SampleBuffer SineSecond(std::int32_t pitch_hz) {
+void WriteSineFrames(std::int32_t pitch_hz, char* frames) {
   base::MultiplyInt32(pitch_hz, kSampleRate - 1);  // the largest product of the second
+  Rotation(pitch_hz, frames).WriteAll();
+}
+
+SampleBuffer SineSecond(std::int32_t pitch_hz) {
+  std::vector<std::int16_t> samples(kSineBytes / sizeof(std::int16_t));
+  WriteSineFrames(pitch_hz, reinterpret_cast<char*>(samples.data()));
   SampleBuffer buffer(kChannels, static_cast<std::size_t>(kSampleRate));
-  const Rotation rotation(pitch_hz);
-  for (std::size_t first = 0; first < buffer.samples(); first += kBlock) {
-    rotation.Fill(buffer.Frame(first), first);
-  }
+  std::copy(samples.begin(), samples.end(), buffer.Frame(0));
   return buffer;
 }
 

@@ -42,15 +42,24 @@ class SampleBuffer {
 // nearest integer, ties to even. The constant is 2 pi / 44100 in single precision, so a looped
 // second joins itself with a phase step far below what can be heard.
 //
-// Method: 210 blocks of 210 samples. One sine and cosine per block and per place in a block give
-// every sample by sin(a + b) = sin a cos b + cos a sin b, which differs from the plain formula by
-// less than 2e-6 of a step: each phase is at most 306,000 rad, so its rounding to double moves it
-// by at most 2^-36 rad, and two such roundings times the amplitude are 9e-7. A block with a sample
-// closer than 4e-6 to a rounding tie is computed by the plain formula instead. So the samples are
-// the plain formula's, bit for bit, whatever the machine.
+// Method: 210 blocks of 210 samples around the middle block. With the middle block's sines and
+// cosines at m, those of the blocks n after and n before it are sin(m +- n) = sin m cos n +- cos m
+// sin n, and both tables are made from 51 sines and cosines by the same rule. The sums have 16 bits
+// behind the point. They differ from the plain formula by less than 2^-16 from rounding there and
+// 2e-6 from rounding phases: each is at most 306,000 rad, so that double precision moves the plain
+// formula's by at most 2^-35 rad and the two partial ones, which are at most half of it, by 2^-36
+// rad each, times the amplitude. A sample within 2^-15 of a rounding tie is computed by the plain
+// formula instead. So the samples are the plain formula's, bit for bit, whatever the machine.
 //
 // `pitch_hz` is a whole number of Hz. Throws base::RuntimeError kOverflow when pitch * i leaves
 // 32 bits.
 SampleBuffer SineSecond(std::int32_t pitch_hz);
+
+inline constexpr std::size_t kSineFrameBytes = 4;
+inline constexpr std::size_t kSineBytes = kSampleRate * kSineFrameBytes;
+
+// The same second as 16-bit samples of both channels, frame by frame, low byte first: writes
+// kSineBytes bytes.
+void WriteSineFrames(std::int32_t pitch_hz, char* frames);
 
 }  // namespace tone

@@ -34,22 +34,11 @@ void Append(std::string& image, std::int32_t value, int bytes) {
   }
 }
 
-// Writes the low bytes of each value, low byte first.
-template <std::size_t kBytes>
-void WriteData(const std::int32_t* values, std::size_t count, char* data) {
-  for (std::size_t i = 0; i < count; ++i) {
-    for (std::size_t byte = 0; byte < kBytes; ++byte) {
-      data[i * kBytes + byte] = static_cast<char>(values[i] >> (8 * byte));
-    }
-  }
-}
-
-}  // namespace
-
-std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
-                      std::int16_t bits_per_sample) {
-  const std::int32_t channels = base::ToInt32(static_cast<double>(samples.channels()));
-  const std::int32_t count = base::ToInt32(static_cast<double>(samples.samples()));
+// The header, and behind it room for the data.
+std::string Prepared(std::size_t channel_count, std::size_t sample_count, std::int32_t sample_rate,
+                     std::int16_t bits_per_sample) {
+  const std::int32_t channels = base::ToInt32(static_cast<double>(channel_count));
+  const std::int32_t count = base::ToInt32(static_cast<double>(sample_count));
   const Sizes sizes = Compute(channels, count, sample_rate, bits_per_sample);
   const std::int32_t total =
       base::AddInt32(sizes.data_bytes, static_cast<std::int32_t>(kWaveHeaderBytes));
@@ -69,6 +58,24 @@ std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
   image += "data";
   Append(image, sizes.data_field, 4);
   image.resize(static_cast<std::size_t>(total));
+  return image;
+}
+
+// Writes the low bytes of each value, low byte first.
+template <std::size_t kBytes>
+void WriteData(const std::int32_t* values, std::size_t count, char* data) {
+  for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t byte = 0; byte < kBytes; ++byte) {
+      data[i * kBytes + byte] = static_cast<char>(values[i] >> (8 * byte));
+    }
+  }
+}
+
+}  // namespace
+
+std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
+                      std::int16_t bits_per_sample) {
+  std::string image = Prepared(samples.channels(), samples.samples(), sample_rate, bits_per_sample);
   char* const data = image.data() + kWaveHeaderBytes;
   const std::size_t values = samples.channels() * samples.samples();
   if (bits_per_sample == 16) {
@@ -77,6 +84,12 @@ std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
     WriteData<1>(samples.Frame(0), values, data);
   }
   return image;
+}
+
+const std::string& SineImage::Of(std::int32_t pitch_hz) {
+  if (image_.empty()) image_ = Prepared(kChannels, kSampleRate, kSampleRate, 16);
+  WriteSineFrames(pitch_hz, image_.data() + kWaveHeaderBytes);
+  return image_;
 }
 
 }  // namespace tone

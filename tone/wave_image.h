@@ -17,4 +17,16 @@ inline constexpr std::size_t kWaveHeaderBytes = 44;
 std::string WaveImage(const SampleBuffer& samples, std::int32_t sample_rate,
                       std::int16_t bits_per_sample);
 
+// The image of one second of a sine tone in both channels, 16 bits: made in place, in memory that
+// serves one pitch after the other.
+class SineImage {
+ public:
+  // WaveImage(SineSecond(pitch_hz), kSampleRate, 16), until the next call. Throws
+  // base::RuntimeError kOverflow as SineSecond.
+  const std::string& Of(std::int32_t pitch_hz);
+
+ private:
+  std::string image_;
+};
+
 }  // namespace tone

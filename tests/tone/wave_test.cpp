@@ -54,6 +54,15 @@ TEST(WaveImageTest, SamplesAreLittleEndianFrameByFrame) {
   EXPECT_EQ(image.substr(44), std::string("\x34\x12\xFE\xFF\xFF\xFF\x00\x80", 8));
 }
 
+TEST(WaveImageTest, ASineMadeInPlaceIsTheSameImageForOnePitchAfterTheOther) {
+  SineImage image;
+  for (const std::int32_t pitch_hz : {440, 31999, 4, 22050}) {
+    EXPECT_TRUE(image.Of(pitch_hz) == WaveImage(SineSecond(pitch_hz), 44100, 16)) << pitch_hz;
+  }
+  EXPECT_THROW(image.Of(48697), base::RuntimeError);
+  EXPECT_TRUE(image.Of(440) == WaveImage(SineSecond(440), 44100, 16)) << "after an overflow";
+}
+
 TEST(WaveImageTest, EightBitSamplesAreTheLowByte) {
   SampleBuffer samples(1, 3);
   samples.Set(0, 0, 128);
