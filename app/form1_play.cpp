@@ -119,11 +119,10 @@ void Form1::PlayTone(Program& program, sound& tone, ToneKind kind, std::int16_t 
   RefreshStatus();
 }
 
+// What follows a stop is for the outermost loop: a play from here would run within this one.
 void Form1::WaitTick() {
   const auto ends = [this] { return PlayingEnds(); };
-  // What follows a stop is for the outermost loop: a play from here would run within this one.
-  if (!ends()) platform_.pump.ProcessPending(ends);
-  ExFunctions(context_).Pause(kPlayTickMs, ends);
+  if (!ends()) ExFunctions(context_).Pause(kPlayTickMs, ends);
 }
 
 void Form1::Stop(Program& program) {

@@ -106,8 +106,8 @@ class ExFunctions {
         checks_(context.platform, context.errors) {}
 
   void delay(std::int16_t timems) { waves_.delay(timems); }
-  void Pause(std::int16_t timems, const std::function<bool()>& enough) {
-    waves_.Pause(timems, enough);
+  void Pause(std::int16_t timems, const std::function<bool()>& stopped) {
+    waves_.Pause(timems, stopped);
   }
   void WavPlay(const std::string& path, bool loop_sound, bool kill_all) {
     waves_.WavPlay(path, loop_sound, kill_all);

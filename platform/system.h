@@ -1,6 +1,7 @@
 // The services of the surrounding system, one small abstract class each.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -59,6 +60,13 @@ class Random {
   virtual double Next() = 0;
 };
 
+// A point of a clock that never goes back, counted from some beginning.
+using Moment = std::chrono::microseconds;
+
+// How exactly a wait ends: by the system's timer, up to 16 ms late, or by a finer one, which costs
+// the whole machine power.
+enum class Grain { kCoarse, kFine };
+
 // The message queue of the program's one thread. Nothing else waits.
 class MessagePump {
  public:
@@ -73,9 +81,16 @@ class MessagePump {
   // holds. The thread blocks while there is nothing to do.
   virtual bool ProcessUntil(const std::function<bool()>& done, int at_most_ms) = 0;
 
+  // Handles messages as they come until `stopped`, which only they change, holds or `end` is
+  // reached; returns whether it holds. The input that follows it is left to whoever pumps next.
+  virtual bool Pass(const std::function<bool()>& stopped, Moment end, Grain grain) = 0;
+
+  virtual Moment Now() const = 0;
+
   // Blocks the thread; messages wait, but in a long sleep windows are still drawn. Returns at once
   // for 0 and less.
   virtual void Sleep(int milliseconds) = 0;
+  virtual void SleepUntil(Moment end) = 0;
 
   // Handles messages until no window is left that could be used.
   virtual void Run() = 0;

@@ -13,8 +13,7 @@ void DirectSoundRoutes::ToneDXRND(std::int16_t pitch) {
     CreateDevice();
     PlayBuffer(support_.WavePath());
     support_.ShowPitch(pitch);
-    support_.WaitUntilStopped(kWaveTickMs);
-    buffer_->Stop();
+    support_.WaitUntilStopped(kWaveTickMs, [this] { buffer_->Stop(); });
     support_.DeleteIfThere(support_.WavePath());
   });
 }
@@ -37,8 +36,7 @@ void DirectSoundRoutes::ToneDX(std::int32_t pitch, const std::string& modeval, s
     PlayBuffer("tonedx" + modeval + ".dll");
     if (delay != 0) buffer_->SetFrequency(static_cast<std::uint32_t>(delay));
     support_.ShowPitch(pitch);
-    support_.WaitUntilStopped(kWaveTickMs);
-    buffer_->Stop();
+    support_.WaitUntilStopped(kWaveTickMs, [this] { buffer_->Stop(); });
   });
 }
 

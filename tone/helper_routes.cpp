@@ -40,11 +40,12 @@ void HelperRoutes::LowToHigh(base::SoundMode mode) {
     StartHelper(output);
     do {
       support_.HandleMessages();
+      const platform::Moment begin = support_.Now();
       if (sweep_pitch_ == 1) sweep_pitch_ = 0;
       sweep_pitch_ = base::ToInt16(sweep_pitch_ + base::kSweepStep);
       if (sweep_pitch_ >= base::kHighestPitch) Restart(output);
       ShowSweep(output);
-      support_.Pause(base::kHelperStepMs);
+      support_.FinishStep(begin, base::kHelperStepMs);
     } while (!support_.Stopped());
     support_.KillAll();
   });

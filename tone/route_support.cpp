@@ -88,15 +88,22 @@ void RouteSupport::Wait(std::int32_t time_ms) {
   waves_.delay(static_cast<std::int16_t>(time_ms));
 }
 
-void RouteSupport::Pause(std::int16_t time_ms) {
-  waves_.Pause(time_ms, [this] { return Stopped(); });
+void RouteSupport::FinishStep(platform::Moment begin, std::int16_t time_ms) {
+  PassUntil(begin + std::chrono::milliseconds(time_ms), platform::Grain::kFine, {});
 }
 
-void RouteSupport::WaitUntilStopped(std::int16_t tick_ms) {
+void RouteSupport::WaitUntilStopped(std::int16_t tick_ms, const std::function<void()>& silence) {
   do {
     HandleMessages();
-    Pause(tick_ms);
+    PassUntil(Now() + std::chrono::milliseconds(tick_ms), platform::Grain::kCoarse, silence);
   } while (!Stopped());
+}
+
+void RouteSupport::PassUntil(platform::Moment end, platform::Grain grain,
+                             const std::function<void()>& silence) {
+  if (!platform_.pump.Pass([this] { return Stopped(); }, end, grain)) return;
+  if (silence) silence();
+  platform_.pump.SleepUntil(end);
 }
 
 std::string RouteSupport::PitchCaption() const {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "platform/platform.h"
@@ -91,14 +92,19 @@ class RouteSupport {
   // Blocks the thread without handling messages.
   void Wait(std::int32_t time_ms);
 
-  // Waits, handling messages now and then, for at most `time_ms`; ends early once stopped.
-  void Pause(std::int16_t time_ms);
+  platform::Moment Now() const { return platform_.pump.Now(); }
 
-  // Handles messages and waits, in turn, until the tone is stopped.
-  void WaitUntilStopped(std::int16_t tick_ms);
+  // Waits until a step of a sweep that began at `begin` has lasted `time_ms`. Messages are handled
+  // until it is stopped, which does not make the step shorter.
+  void FinishStep(platform::Moment begin, std::int16_t time_ms);
+
+  // Handles messages and waits, in turn, until the tone is stopped. That is looked for at the end
+  // of each tick; `silence` is called at once, for what KillAll does not silence.
+  void WaitUntilStopped(std::int16_t tick_ms, const std::function<void()>& silence = {});
 
  private:
   std::string PitchCaption() const;
+  void PassUntil(platform::Moment end, platform::Grain grain, const std::function<void()>& silence);
 
   platform::Platform& platform_;
   settings::MainState& state_;

@@ -4,11 +4,6 @@
 #include "tone/wave_image.h"
 
 namespace tone {
-namespace {
-
-constexpr int kLongestPieceMs = 55;
-
-}  // namespace
 
 std::string WaveOutput::CreateWaveArray(const SampleBuffer& samples, std::int32_t sample_rate,
                                         std::int16_t bits_per_sample) {
@@ -49,14 +44,10 @@ void WaveOutput::delay(std::int16_t timems) {
   base::Quietly([&] { platform_.pump.Sleep(timems); });
 }
 
-void WaveOutput::Pause(std::int16_t timems, const std::function<bool()>& enough) {
-  const int pieces = (timems + kLongestPieceMs - 1) / kLongestPieceMs;
-  for (int piece = 1; piece <= pieces; ++piece) {
-    delay(static_cast<std::int16_t>(timems * piece / pieces - timems * (piece - 1) / pieces));
-    if (piece == pieces || enough()) return;
-    platform_.pump.ProcessPending(enough);
-    if (enough()) return;
-  }
+void WaveOutput::Pause(std::int16_t timems, const std::function<bool()>& stopped) {
+  platform::MessagePump& pump = platform_.pump;
+  const platform::Moment end = pump.Now() + std::chrono::milliseconds(timems);
+  if (pump.Pass(stopped, end, platform::Grain::kCoarse)) pump.SleepUntil(end);
 }
 
 }  // namespace tone

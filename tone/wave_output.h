@@ -33,10 +33,9 @@ class WaveOutput {
   // Blocks the thread without handling messages.
   void delay(std::int16_t timems);
 
-  // As delay, but in pieces so short that the user notices none; messages are handled in between.
-  // After the first piece it ends as soon as `enough` holds, so that the input that follows is
-  // left to an outer loop.
-  void Pause(std::int16_t timems, const std::function<bool()>& enough);
+  // As delay, but messages are handled as they come until `stopped` holds; what is left then passes
+  // without, so that the input that follows is left to an outer loop.
+  void Pause(std::int16_t timems, const std::function<bool()>& stopped);
 
  private:
   platform::Platform& platform_;

@@ -51,9 +51,10 @@ void WinmmRoutes::SoundWinmmLTH() {
       if (pitch >= base::kHighestPitch) pitch = 0;
       pitch = base::ToInt16(pitch + base::kSweepStep);
       StartOrStaySilent(pitch);
+      const platform::Moment begin = support_.Now();
       support_.ShowPitch(pitch);
       support_.DrawStep(pitch);
-      support_.Pause(kSweepTickMs);
+      support_.FinishStep(begin, kSweepTickMs);
       support_.Silence();
     } while (!support_.Stopped());
     support_.Silence();

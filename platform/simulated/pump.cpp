@@ -1,11 +1,20 @@
 #include "platform/simulated/pump.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace platform::simulated {
+
+namespace {
+
+std::int64_t MillisecondsOf(Moment moment) {
+  return std::chrono::ceil<std::chrono::milliseconds>(moment).count();
+}
+
+}  // namespace
 
 class VirtualTimer : public Timer {
  public:
@@ -42,11 +51,31 @@ bool VirtualPump::ProcessUntil(const std::function<bool()>& done, int at_most_ms
   }
 }
 
+bool VirtualPump::Pass(const std::function<bool()>& stopped, Moment end, Grain /*grain*/) {
+  const std::int64_t end_ms = MillisecondsOf(end);
+  NoteWait("wait", end_ms - now_ms_);
+  while (!stopped()) {
+    ProcessPending(stopped);
+    if (stopped() || now_ms_ >= end_ms) break;
+    AdvanceTo(std::max(now_ms_, std::min(end_ms, NextMoment())));
+  }
+  return stopped();
+}
+
 void VirtualPump::Sleep(int milliseconds) {
   if (milliseconds < 0) milliseconds = 0;
-  if (journal_waits) journal_.Add(Kind::kWait, "sleep " + std::to_string(milliseconds));
+  NoteWait("sleep", milliseconds);
   AdvanceTo(now_ms_ + milliseconds);
-  if (actions_.empty() && now_ms_ - last_action_ms_ > kLongestWaitMs) {
+}
+
+void VirtualPump::SleepUntil(Moment end) {
+  const std::int64_t left_ms = MillisecondsOf(end) - now_ms_;
+  if (left_ms > 0) Sleep(static_cast<int>(left_ms));
+}
+
+void VirtualPump::NoteWait(const std::string& name, std::int64_t milliseconds) {
+  if (journal_waits) journal_.Add(Kind::kWait, name + " " + std::to_string(milliseconds));
+  if (actions_.empty() && now_ms_ + milliseconds - last_action_ms_ > kLongestWaitMs) {
     throw Stalled("the program waits for something that never comes");
   }
 }
@@ -65,7 +94,8 @@ std::unique_ptr<Timer> VirtualPump::Start(int period_ms, std::function<void()> t
 }
 
 std::int64_t VirtualPump::NextMoment() const {
-  std::int64_t next_ms = actions_.begin()->first;
+  std::int64_t next_ms = std::numeric_limits<std::int64_t>::max();
+  if (!actions_.empty()) next_ms = actions_.begin()->first;
   for (const auto& [number, timer] : timers_) next_ms = std::min(next_ms, timer.due_ms);
   return next_ms;
 }

@@ -29,14 +29,17 @@ class VirtualPump : public MessagePump, public Timers {
       : journal_(journal), any_visible_(std::move(any_visible)) {}
 
   std::int64_t now_ms() const { return now_ms_; }
-  bool journal_waits = false;  // whether each Sleep is recorded
+  bool journal_waits = false;  // whether each Sleep and Pass is recorded
 
   // Schedules what a user or another program does. Equal times keep their order.
   void At(std::int64_t at_ms, std::function<void()> action);
 
   void ProcessPending(const std::function<bool()>& enough = {}) override;
   bool ProcessUntil(const std::function<bool()>& done, int at_most_ms) override;
+  bool Pass(const std::function<bool()>& stopped, Moment end, Grain grain) override;
+  Moment Now() const override { return std::chrono::milliseconds(now_ms_); }
   void Sleep(int milliseconds) override;
+  void SleepUntil(Moment end) override;
 
   // Throws ScriptOver when nothing is scheduled any more while a window is visible.
   void Run() override;
@@ -54,6 +57,7 @@ class VirtualPump : public MessagePump, public Timers {
   };
 
   void AdvanceTo(std::int64_t now_ms);
+  void NoteWait(const std::string& name, std::int64_t milliseconds);
   std::int64_t NextMoment() const;
   void RunTimers(const std::function<bool()>& enough);
 

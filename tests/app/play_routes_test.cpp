@@ -7,7 +7,7 @@ namespace {
 using base::ErrorCode;
 using platform::simulated::Operation;
 
-TEST_F(PlayTest, ClassicWaitsInTicksOf208MsAndAnswersEvery52Ms) {
+TEST_F(PlayTest, ClassicWaitsInTicksOf208MsAndAStopLastsToTheEndOfItsTick) {
   sim.files.Put(kSettings, GoodSettings("16"));
   At(1s, [this](Form1& form1) {
     form1.Option1.Click();
@@ -16,7 +16,8 @@ TEST_F(PlayTest, ClassicWaitsInTicksOf208MsAndAnswersEvery52Ms) {
   });
   At(1300ms, [](Form1& form1) { form1.Command3.Click(); });
   Run();
-  EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines(6, "sleep 52")));
+  EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines{"wait 208", "wait 208", "sleep 116"}));
+  EXPECT_EQ(sim.pump.now_ms(), 1000 + 2 * 208);
   EXPECT_EQ(EntriesAfterStart().back(), "#Sound stopped");
 }
 

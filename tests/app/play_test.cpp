@@ -60,19 +60,20 @@ TEST_F(PlayTest, ThePitchIsLoggedWithABlankForTheSign) {
   Run();
 }
 
-TEST_F(PlayTest, TheWaitLoopTicksInPiecesOf50MsAndStopIsAnsweredAtTheNext) {
+TEST_F(PlayTest, InputIsAnsweredAtOnceAndAStopLastsToTheEndOfItsTick) {
   At(1s, [this](Form1& form1) {
     form1.Option1.Click();
     sim.pump.journal_waits = true;
     form1.Command2.Click();
-    EXPECT_EQ(sim.pump.now_ms(), 1250);
+    EXPECT_EQ(sim.pump.now_ms(), 1300);
   });
   At(1210ms, [this](Form1& form1) {
-    EXPECT_EQ(sim.pump.now_ms(), 1250);
+    EXPECT_EQ(sim.pump.now_ms(), 1210);
     form1.Command3.Click();
   });
   Run();
-  EXPECT_EQ(sim.journal.Texts({Kind::kWait}), (Lines(5, "sleep 50")));
+  EXPECT_EQ(sim.journal.Texts({Kind::kWait}),
+            (Lines{"wait 100", "wait 100", "wait 100", "sleep 90"}));
 }
 
 struct ModeCase {

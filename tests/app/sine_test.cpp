@@ -64,7 +64,7 @@ TEST_F(SineTest, ItGoesOnWhileItsToneIsPlayingAndAfterwards) {
   }
 }
 
-TEST_F(SineTest, InputIsAnsweredWithin60MsWhileATonePlays) {
+TEST_F(SineTest, InputIsAnsweredAtOnceWhileATonePlays) {
   for (const char* code : {"16", "32", "64", "128", "256"}) {
     sim.files.Put(kSettings, GoodSettings(code));
     const auto begin = std::chrono::milliseconds(sim.pump.now_ms());
@@ -74,11 +74,12 @@ TEST_F(SineTest, InputIsAnsweredWithin60MsWhileATonePlays) {
     });
     for (int i = 0; i < 30; ++i) {
       const auto moment = begin + std::chrono::milliseconds(2000 + 61 * i);
-      At(moment, [this, moment](Form1&) { EXPECT_LE(sim.pump.now_ms(), moment.count() + 60); });
+      At(moment, [this, moment](Form1&) { EXPECT_EQ(sim.pump.now_ms(), moment.count()); });
     }
     At(begin + 5s, [](Form1& form1) { form1.Command3.Click(); });
+    // What follows a stop waits for the end of its tick.
     At(begin + 5001ms,
-       [this, begin](Form1&) { EXPECT_LE(sim.pump.now_ms(), begin.count() + 5060); });
+       [this, begin](Form1&) { EXPECT_LE(sim.pump.now_ms(), begin.count() + 5000 + 208); });
     Run();
   }
 }

@@ -25,6 +25,18 @@ TEST_F(DirectSoundTest, AToneIsPlayedTwiceAndItsBufferStoppedAtTheEnd) {
   EXPECT_TRUE(sim.waves.playing.empty());
 }
 
+TEST_F(DirectSoundTest, AStopDuringATickSilencesTheBufferAtOnceAndEndsWithTheTick) {
+  StopAt(150ms);
+  direct_sound.ToneDXRND(440);
+  const auto& entries = sim.journal.entries();
+  const auto stop = std::find_if(entries.begin(), entries.end(), [](const auto& entry) {
+    return entry.text == "directsound buffer stop";
+  });
+  ASSERT_NE(stop, entries.end());
+  EXPECT_EQ(stop->at_ms, 150);
+  EXPECT_EQ(sim.pump.now_ms(), 200);
+}
+
 TEST_F(DirectSoundTest, TheRootIsMadeOnceAndDeviceAndBufferAreReplaced) {
   for (int tone = 1; tone <= 3; ++tone) {
     StopAt(std::chrono::milliseconds(sim.pump.now_ms() + 100));

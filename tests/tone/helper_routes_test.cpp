@@ -30,20 +30,20 @@ TEST_F(HelpersTest, Sound32DiffersOnlyInItsCommand) {
              "terminate tone32.dll", "stop 0x2", "Actual pitch (Hertz): ", "delete " + kHandOver}));
 }
 
-TEST_F(HelpersTest, StopDuringATickOf208MsEndsItThenEverythingIsSilenced) {
+TEST_F(HelpersTest, StopDuringATickOf208MsIsNoticedAtItsEndThenEverythingIsSilenced) {
   sim.pump.journal_waits = true;
   StopAt(210ms);
   helpers.Sound32(440);
   EXPECT_EQ(Journal({Kind::kWait, Kind::kProcess}),
-            (Lines{"start hidden tone32.dll", "sleep 52", "sleep 52", "sleep 52", "sleep 52",
-                   "sleep 52", "terminate tone32.dll"}));
+            (Lines{"start hidden tone32.dll", "wait 208", "wait 208", "sleep 206",
+                   "terminate tone32.dll"}));
 }
 
 TEST_F(HelpersTest, AMissingOrBlockedHelperLeavesSilenceUntilStop) {
   sim.processes.missing_commands = {"tone32.dll"};
   StopAt(1000ms);
   helpers.Sound32(440);
-  EXPECT_EQ(sim.pump.now_ms(), 5 * 208 + 52);
+  EXPECT_EQ(sim.pump.now_ms(), 5 * 208);
   EXPECT_TRUE(Journal({Kind::kProcess, Kind::kMessage}).empty());
   EXPECT_FALSE(sim.files.Exists(kHandOver));
 }
@@ -52,7 +52,7 @@ TEST_F(HelpersTest, AHelperThatEndsByItselfLeavesTheLoopWaitingForStop) {
   sim.At(100ms, [this] { sim.processes.running.clear(); });
   StopAt(1000ms);
   helpers.Sound16(440);
-  EXPECT_EQ(sim.pump.now_ms(), 5 * 208 + 52);
+  EXPECT_EQ(sim.pump.now_ms(), 5 * 208);
 }
 
 TEST_F(HelpersTest, AHandOverFileThatCannotBeWrittenEndsTheProcedureQuietly) {
@@ -70,7 +70,7 @@ TEST_F(HelpersTest, HidingTheMainWindowEndsTheTone) {
 
 TEST_F(HelpersTest, TheSweepOf32ShowsItsPitchAndRestartsTheHelperAtTheTop) {
   sim.At(1ms, [this] { EXPECT_EQ(sim.files.Get(kHandOver), "1\r\n"); });
-  StopAt(std::chrono::milliseconds(200 * 161));
+  StopAt(std::chrono::milliseconds(200 * 161 + 1));
   helpers.LowToHigh(base::SoundMode::kSound32);
   const Lines all = Journal({Kind::kControl, Kind::kProcess});
   EXPECT_EQ(Lines(all.begin(), all.begin() + 4),
@@ -104,7 +104,7 @@ TEST_F(HelpersTest, AMissingHelperLeavesTheSweepsDisplayRunningUntilStop) {
   sim.processes.missing_commands = {"tone32.dll"};
   StopAt(900ms);
   helpers.LowToHigh(base::SoundMode::kSound32);
-  EXPECT_EQ(sim.pump.now_ms(), 900);
+  EXPECT_EQ(sim.pump.now_ms(), 1000);
   EXPECT_EQ(
       Journal({Kind::kControl}),
       (Lines{"Actual pitch (Hertz): ", "Actual pitch (Hertz): 200", "Actual pitch (Hertz): 400",
@@ -114,7 +114,7 @@ TEST_F(HelpersTest, AMissingHelperLeavesTheSweepsDisplayRunningUntilStop) {
 
 TEST_F(HelpersTest, AHelperThatIsNotFoundAtTheResetIsRestartedAllTheSame) {
   sim.At(1000ms, [this] { sim.processes.running.clear(); });
-  StopAt(std::chrono::milliseconds(200 * 161));
+  StopAt(std::chrono::milliseconds(200 * 161 + 1));
   helpers.LowToHigh(base::SoundMode::kSound32);
   const Lines processes = Journal({Kind::kProcess});
   EXPECT_EQ(processes,

@@ -12,13 +12,13 @@ TEST_F(WinmmTest, AToneIsWrittenLoopedStoppedAndCleanedUp) {
             (Lines{"create " + kWavePath, "write " + kWavePath + ", 176444 bytes",
                    "play " + kWavePath + " 0x20009", "Actual pitch (Hertz): 440", "stop 0x2",
                    "delete " + kWavePath}));
-  EXPECT_EQ(sim.pump.now_ms(), 250);
+  EXPECT_EQ(sim.pump.now_ms(), 300);
 }
 
 TEST_F(WinmmTest, HidingTheMainWindowEndsTheTone) {
   sim.At(150ms, [this] { scene.visible = false; });
   winmm.SoundWinmmRND(440);
-  EXPECT_EQ(sim.pump.now_ms(), 150);
+  EXPECT_EQ(sim.pump.now_ms(), 200);
   EXPECT_TRUE(sim.waves.playing.empty());
 }
 
@@ -42,7 +42,7 @@ TEST_F(WinmmTest, APreparedFileIsPlayedFromTheCurrentFolder) {
 
 TEST_F(WinmmTest, TheSweepStepsBy200HzEvery75MsAndBeginsAnewAfter32000) {
   // 160 steps to the top, and two more.
-  StopAt(std::chrono::milliseconds(75 * 161));
+  StopAt(std::chrono::milliseconds(75 * 161 + 1));
   winmm.SoundWinmmLTH();
   const Lines statuses = Journal({Kind::kControl});
   ASSERT_EQ(statuses.size(), 162u);
@@ -52,7 +52,7 @@ TEST_F(WinmmTest, TheSweepStepsBy200HzEvery75MsAndBeginsAnewAfter32000) {
   EXPECT_EQ(statuses[159], "Actual pitch (Hertz): 32000");
   EXPECT_EQ(statuses[160], "Actual pitch (Hertz): 200");
   EXPECT_EQ(statuses[161], "Actual pitch (Hertz): 400");
-  EXPECT_EQ(sim.pump.now_ms(), 75 * 161 + 37);
+  EXPECT_EQ(sim.pump.now_ms(), 75 * 162);
 }
 
 TEST_F(WinmmTest, StopDuringAStepEndsTheSweepWithThatStepAndLeavesNoFile) {
@@ -82,7 +82,7 @@ TEST_F(WinmmTest, AFullDiskIsSilentAndTheToneStillStops) {
   }
   StopAt(300ms);
   winmm.SoundWinmmRND(440);
-  EXPECT_EQ(sim.pump.now_ms(), 350);
+  EXPECT_EQ(sim.pump.now_ms(), 300);
   // Asked to play a file that is not there, the system would sound a signal of its own.
   EXPECT_EQ(Journal({Kind::kSound}), Lines{"stop 0x2"});
   EXPECT_TRUE(Journal({Kind::kMessage}).empty());
@@ -130,7 +130,7 @@ TEST_F(WinmmTest, ADiskThatFillsUpWithinTheFileIsSilentAndTheToneStillStops) {
   sim.At(100ms, [this] { EXPECT_TRUE(sim.waves.playing.empty()); });
   StopAt(300ms);
   winmm.SoundWinmmRND(440);
-  EXPECT_EQ(sim.pump.now_ms(), 350);
+  EXPECT_EQ(sim.pump.now_ms(), 300);
   EXPECT_TRUE(sim.files.PathsIn("C:\\Temp").empty());
 }
 
@@ -144,7 +144,7 @@ TEST_F(WinmmTest, AReadOnlyWaveFileIsLeftAloneAndTheToneComesFromAnother) {
   });
   StopAt(100ms);
   EXPECT_NO_THROW(winmm.SoundWinmmRND(440));
-  EXPECT_EQ(sim.pump.now_ms(), 150);
+  EXPECT_EQ(sim.pump.now_ms(), 100);
   EXPECT_TRUE(sim.waves.playing.empty());
   EXPECT_EQ(sim.files.PathsIn("C:\\Temp"), Lines{kWavePath});
   EXPECT_EQ(sim.files.Get(kWavePath), "old");
