@@ -126,7 +126,7 @@ void Application::EndSession() {
 // Nobody could be told of a browser that does not start: this is the error dialog already.
 void Application::VisitSite() {
   base::Caught([this] {
-    online::OpenInBrowser(platform_.processes, online::SiteAddresses(platform_.environment).Home());
+    online::OpenInBrowser(platform_, online::SiteAddresses(platform_.environment).Home());
   });
 }
 

@@ -46,7 +46,7 @@ void Form1::VisitPage(base::ErrorValue error_value, const std::string& entry,
   Program program(context_);
   base::TrapErrors(program, error_value, [&] {
     program.PrintFile(entry);
-    online::OpenInBrowser(platform_.processes, address);
+    online::OpenInBrowser(platform_, address);
   });
 }
 

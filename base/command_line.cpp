@@ -1,5 +1,7 @@
 #include "base/command_line.h"
 
+#include <algorithm>
+
 #include "base/characters.h"
 #include "base/text.h"
 
@@ -20,6 +22,12 @@ std::size_t NameLength(std::string_view line) {
   return at;
 }
 
+// What cmd takes for nothing but a part of a name, with quotes around it or, but for the blank,
+// without.
+bool IsPlain(char c) {
+  return IsLetter(c) || IsDigit(c) || std::string_view(" \\:._-").find(c) != std::string_view::npos;
+}
+
 }  // namespace
 
 std::string_view Arguments(std::string_view command_line, std::string_view program_path) {
@@ -30,9 +38,10 @@ std::string_view Arguments(std::string_view command_line, std::string_view progr
 }
 
 std::string InterpreterCommand(const std::string& folder, const std::string& name) {
+  if (folder.find_first_of("%!") != std::string::npos) return "cmd /c .\\" + name;
   const std::string program = "\"" + folder + "\\" + name + "\"";
-  const bool loses_quotes = folder.find_first_of("&<>()@^|") != std::string::npos;
-  return "cmd /c " + (loses_quotes ? "\"" + program + "\"" : program);
+  const bool plain = std::all_of(folder.begin(), folder.end(), IsPlain);
+  return "cmd /c " + (plain ? program : "\"" + program + "\"");
 }
 
 }  // namespace base

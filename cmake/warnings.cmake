@@ -20,9 +20,19 @@ if(WIN32 AND NOT MSVC)
   # Small, self-contained executables that need nothing beyond what Windows 2000 has.
   target_compile_options(build_settings INTERFACE -Os -ffunction-sections -fdata-sections)
   target_link_options(build_settings INTERFACE -static -Wl,--gc-sections)
+  # Every program is loaded at an address of the system's choice, runs nothing that is data and ends
+  # when its stack is overwritten (tests/check_hardening.py).
+  add_library(stack_guard STATIC ${PROJECT_SOURCE_DIR}/platform/windows/api/stack_guard.cpp)
+  target_compile_options(stack_guard PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror -Os)
+  target_include_directories(stack_guard PRIVATE ${PROJECT_SOURCE_DIR})
+  target_compile_options(build_settings INTERFACE -fstack-protector-strong)
+  target_link_libraries(build_settings INTERFACE stack_guard)
+  target_link_options(build_settings INTERFACE -Wl,--dynamicbase,--nxcompat)
   if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # The x87 unit rounds differently; with SSE2 both builds compute the same samples.
     target_compile_options(build_settings INTERFACE -msse2 -mfpmath=sse)
+  else()
+    target_link_options(build_settings INTERFACE -Wl,--high-entropy-va)
   endif()
 endif()
 

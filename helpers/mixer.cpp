@@ -2,10 +2,6 @@
 
 #include <memory>
 
-#include "platform/windows/api/windows_api.h"
-
-#include <objbase.h>
-
 #include <mmreg.h>
 #include <mmdeviceapi.h>
 #include <audioclient.h>
@@ -19,14 +15,10 @@ struct Releaser {
 template <typename Interface>
 using Owned = std::unique_ptr<Interface, Releaser>;
 
-struct Freer {
-  void operator()(void* memory) const { CoTaskMemFree(memory); }
-};
-
-Owned<IAudioClient> DefaultDevice() {
+Owned<IAudioClient> DefaultDevice(const OleFunctions& ole) {
   void* object = nullptr;
-  CoCreateInstance(__uuidof(MMDeviceEnumerator), nullptr, CLSCTX_INPROC_SERVER,
-                   __uuidof(IMMDeviceEnumerator), &object);
+  ole.create(__uuidof(MMDeviceEnumerator), nullptr, CLSCTX_INPROC_SERVER,
+             __uuidof(IMMDeviceEnumerator), &object);
   const Owned<IMMDeviceEnumerator> devices(static_cast<IMMDeviceEnumerator*>(object));
   if (!devices) return nullptr;
   IMMDevice* found = nullptr;
@@ -40,19 +32,20 @@ Owned<IAudioClient> DefaultDevice() {
 
 }  // namespace
 
-Mixer::Mixer() : com_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {}
+Mixer::Mixer()
+    : com_(ole_.complete() && SUCCEEDED(ole_.initialize(nullptr, COINIT_MULTITHREADED))) {}
 
 Mixer::~Mixer() {
-  if (com_) CoUninitialize();
+  if (com_) ole_.uninitialize();
 }
 
 std::optional<std::uint32_t> Mixer::Rate() const {
   if (!com_) return std::nullopt;
-  const Owned<IAudioClient> client = DefaultDevice();
+  const Owned<IAudioClient> client = DefaultDevice(ole_);
   if (!client) return std::nullopt;
   WAVEFORMATEX* filled = nullptr;
   client->GetMixFormat(&filled);
-  const std::unique_ptr<WAVEFORMATEX, Freer> format(filled);
+  const std::unique_ptr<WAVEFORMATEX, decltype(&CoTaskMemFree)> format(filled, ole_.free);
   if (!format) return std::nullopt;
   return format->nSamplesPerSec;
 }

@@ -4,7 +4,29 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/windows/api/system_library.h"
+#include "platform/windows/api/windows_api.h"
+
+#include <objbase.h>
+
 namespace helpers {
+
+// The functions of ole32.dll that are needed here; null where it has none.
+struct OleFunctions {
+  const HMODULE library = platform::windows::LoadSystemLibrary(L"ole32.dll");
+  decltype(&CoInitializeEx) initialize = Of<decltype(&CoInitializeEx)>("CoInitializeEx");
+  decltype(&CoUninitialize) uninitialize = Of<decltype(&CoUninitialize)>("CoUninitialize");
+  decltype(&CoCreateInstance) create = Of<decltype(&CoCreateInstance)>("CoCreateInstance");
+  decltype(&CoTaskMemFree) free = Of<decltype(&CoTaskMemFree)>("CoTaskMemFree");
+
+  template <typename Function>
+  Function Of(const char* name) const {
+    return platform::windows::FunctionOf<Function>(library, name);
+  }
+  bool complete() const {
+    return initialize != nullptr && uninitialize != nullptr && create != nullptr && free != nullptr;
+  }
+};
 
 // Owns the thread's use of COM, by which the mixer is asked. To live as long as sound is played:
 // with the last use of COM the system would unload its sound components, only to load them again.
@@ -21,6 +43,7 @@ class Mixer {
   std::optional<std::uint32_t> Rate() const;
 
  private:
+  OleFunctions ole_;
   bool com_;
 };
 

@@ -2,6 +2,7 @@
 // not 0 if the hand-over file asks for nothing or tone16.dll could not be started.
 #include "helpers/program_paths.h"
 #include "helpers/request_file.h"
+#include "platform/windows/api/system_library.h"
 #include "platform/windows/api/windows_api.h"
 
 namespace {
@@ -33,6 +34,7 @@ bool Start(const WideText& program) {
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+  platform::windows::LoadFromSystemFolderOnly();
   SetErrorMode(SEM_FAILCRITICALERRORS);
   if (!helpers::RequestFile().Read()) return 1;
   return Start(helpers::Beside(OwnPath().view(), L"tone16.dll")) ? 0 : 1;

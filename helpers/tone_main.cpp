@@ -7,6 +7,7 @@
 #include "helpers/environment.h"
 #include "helpers/request_file.h"
 #include "helpers/tone_player.h"
+#include "platform/windows/api/system_library.h"
 #include "platform/windows/api/windows_api.h"
 
 namespace {
@@ -18,6 +19,7 @@ constexpr helpers::AtTop kAtTop =
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+  platform::windows::LoadFromSystemFolderOnly();
   SetErrorMode(SEM_FAILCRITICALERRORS);
   helpers::RequestFile file;
   const std::optional<std::uint32_t> request = file.Read();

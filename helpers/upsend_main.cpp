@@ -10,6 +10,7 @@
 #include "helpers/upload.h"
 #include "helpers/web_put.h"
 #include "online/addresses.h"
+#include "platform/windows/api/system_library.h"
 #include "platform/windows/api/windows_api.h"
 
 namespace {
@@ -100,6 +101,7 @@ bool Send() {
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+  platform::windows::LoadFromSystemFolderOnly();
   SetErrorMode(SEM_FAILCRITICALERRORS);
   helpers::EndBusyPointer();
   return LimitTime() && Send() ? kSent : kNotSent;

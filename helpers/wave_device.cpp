@@ -30,8 +30,9 @@ WaveDevice::~WaveDevice() {
 }
 
 bool WaveDevice::Open(std::uint32_t rate_hz) {
+  if (!wave_out_.complete()) return false;
   const WAVEFORMATEX format = Format(rate_hz);
-  if (waveOutOpen(&device_, WAVE_MAPPER, &format, reinterpret_cast<DWORD_PTR>(freed_.get()), 0,
+  if (wave_out_.open(&device_, WAVE_MAPPER, &format, reinterpret_cast<DWORD_PTR>(freed_.get()), 0,
                   CALLBACK_EVENT | WAVE_FORMAT_DIRECT) != MMSYSERR_NOERROR) {
     device_ = nullptr;
     return false;
@@ -46,7 +47,7 @@ bool WaveDevice::Prepare(std::uint32_t rate_hz) {
     buffer.header = {};
     buffer.header.lpData = reinterpret_cast<LPSTR>(buffer.frames.data());
     buffer.header.dwBufferLength = rate_hz / kBuffersPerSecond * sizeof(Frame);
-    if (waveOutPrepareHeader(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR)
+    if (wave_out_.prepare(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR)
       return false;
   }
   return true;
@@ -54,9 +55,9 @@ bool WaveDevice::Prepare(std::uint32_t rate_hz) {
 
 void WaveDevice::Close() {
   if (!device_) return;
-  waveOutReset(device_);
-  for (Buffer& buffer : buffers_) waveOutUnprepareHeader(device_, &buffer.header, sizeof(WAVEHDR));
-  waveOutClose(device_);
+  wave_out_.reset(device_);
+  for (Buffer& buffer : buffers_) wave_out_.unprepare(device_, &buffer.header, sizeof(WAVEHDR));
+  wave_out_.close(device_);
   for (Buffer& buffer : buffers_) buffer.header = {};
   device_ = nullptr;
 }
@@ -66,8 +67,9 @@ std::optional<std::uint32_t> WaveDevice::Feed(ToneStream& stream) {
   for (Buffer& buffer : buffers_) {
     if (Queued(buffer.header)) continue;
     stream.Fill({buffer.frames.data(), buffer.header.dwBufferLength / sizeof(Frame)});
-    if (waveOutWrite(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR)
+    if (wave_out_.write(device_, &buffer.header, sizeof(WAVEHDR)) != MMSYSERR_NOERROR) {
       return std::nullopt;
+    }
     ++fed;
   }
   return fed;

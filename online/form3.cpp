@@ -13,6 +13,7 @@ Form3::Form3(platform::Platform& platform, const settings::MainState& state,
       errors_(errors),
       languages_(languages),
       status_window_(status_window) {
+  WebBrowser1.OnNavigate = [](const std::string& address) { return IsPageAddress(address); };
   WebBrowser1.OnNewWindow = [this](const std::string& address) { OpenOutside(address); };
 }
 
@@ -38,10 +39,11 @@ void Form3::Form_Unload() {
   status_window_.Unload();
 }
 
-// What a page opens is for the user's own browser. One that does not start is its own affair.
+// What a page opens is for the user's own browser or mail program. One that does not start is its own
+// affair.
 void Form3::OpenOutside(const std::string& address) {
-  if (!IsWebAddress(address)) return;
-  base::Caught([&] { OpenInBrowser(platform_.processes, address); });
+  if (!IsWebAddress(address) && !IsMailAddress(address)) return;
+  base::Caught([&] { OpenInBrowser(platform_, address); });
 }
 
 }  // namespace online

@@ -20,7 +20,7 @@ Form7::Form7(platform::Platform& platform, base::ErrorReporter& errors)
 void Form7::Command1_Click() {
   base::TrapErrors(errors_, base::ErrorValue::kUpdateAccept, [this] {
     if (IsWebAddress(download_link)) {
-      OpenInBrowser(platform_.processes, download_link);
+      OpenInBrowser(platform_, download_link);
       platform_.processes.EndProcess();
     }
     settings::ActivityLog(platform_, errors_).PrintFile("> Update error");

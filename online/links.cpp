@@ -1,6 +1,7 @@
 #include "online/links.h"
 
 #include "online/web_link.h"
+#include "platform/interpreter.h"
 
 namespace online {
 
@@ -8,8 +9,8 @@ Addresses SiteAddresses(platform::Environment& environment) {
   return Addresses(environment.Get(kSiteVariable));
 }
 
-void OpenInBrowser(platform::Processes& processes, const std::string& address) {
-  processes.StartHidden(StartCommand(address));
+void OpenInBrowser(platform::Platform& platform, const std::string& address) {
+  platform::StartInterpreter(platform, StartCommand(address));
 }
 
 }  // namespace online

@@ -13,6 +13,6 @@ Addresses SiteAddresses(platform::Environment& environment);
 
 // Opens a web address in the default browser without waiting for it. Throws base::RuntimeError
 // when the command cannot be started.
-void OpenInBrowser(platform::Processes& processes, const std::string& address);
+void OpenInBrowser(platform::Platform& platform, const std::string& address);
 
 }  // namespace online

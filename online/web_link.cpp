@@ -9,7 +9,7 @@ namespace online {
 namespace {
 
 bool MayStandInLink(char c) {
-  return c > ' ' && c < '\x7F' && c != '"' && c != '\'' && c != '`';
+  return c > ' ' && c < '\x7F' && c != '"' && c != '\'' && c != '`' && c != '!';
 }
 
 // What stands between the scheme's "//" and the path; empty when the scheme is another.
@@ -47,12 +47,32 @@ bool IsWebAddress(std::string_view link) {
          authority.find('@') == std::string_view::npos;
 }
 
+bool IsPageAddress(std::string_view address) {
+  if (address == "about:blank") return true;
+  const std::string_view authority = Authority(address);
+  return !authority.empty() && authority.find('@') == std::string_view::npos;
+}
+
+bool IsMailAddress(std::string_view link) {
+  constexpr std::string_view kScheme = "mailto:";
+  constexpr std::string_view kMarks = "._+-@";
+  if (link.size() > kLongestMailAddress || base::ToLower(link.substr(0, kScheme.size())) != kScheme) {
+    return false;
+  }
+  link.remove_prefix(kScheme.size());
+  const std::size_t at = link.find('@');
+  return at != std::string_view::npos && at > 0 && at + 1 < link.size() && at == link.rfind('@') &&
+         std::all_of(link.begin(), link.end(), [&](char c) {
+           return base::IsLetter(c) || base::IsDigit(c) || kMarks.find(c) != std::string_view::npos;
+         });
+}
+
 // The mark is a caret before the character. Some interpreters put in the values of variables before
 // they look at carets: the name after a percent sign gets one as well, for no variable is called
 // that. Others do it afterwards: no name between two percent signs stands in the address then, as
 // each of them begins an escape sequence.
 std::string StartCommand(std::string_view link) {
-  constexpr std::string_view kActedOn = "&|<>^()%!";
+  constexpr std::string_view kActedOn = "&|<>^()%";
   std::string command = "cmd /c start ";
   bool in_name = false;
   for (const char c : WithWholeEscapes(link)) {

@@ -19,6 +19,9 @@ class Environment {
   // The command line after the program's own name, as it was given.
   virtual std::string Arguments() = 0;
 
+  // The folder of the system's own programs and libraries, without a backslash at its end.
+  virtual std::string SystemFolder() = 0;
+
   // The folder of the program's executable file, without a backslash at its end.
   virtual std::string ProgramFolder() = 0;
 
@@ -110,9 +113,14 @@ class Processes {
   // Ends a process with exit code 0. False when it is gone or may not be ended.
   virtual bool Terminate(std::uint32_t id) = 0;
 
-  // Starts a command without waiting for it; throws base::RuntimeError 53 when it cannot start.
+  // Starts a command without waiting for it. Its program is looked for as the system does it, first
+  // in this program's own folder, which is the new one's current folder. Throws base::RuntimeError
+  // with what prevents that (platform/start_errors.h).
   virtual void Start(const std::string& command) = 0;
-  virtual void StartHidden(const std::string& command) = 0;
+
+  // Starts `program`, a full path, and no other, with the command line `command` and with its window
+  // hidden. In all else as Start.
+  virtual void StartHidden(const std::string& program, const std::string& command) = 0;
 
   // Starts `program`, a full path, with the command line `program`, a blank, `arguments`. Throws as
   // Start does.

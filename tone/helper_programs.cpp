@@ -2,6 +2,7 @@
 
 #include "base/command_line.h"
 #include "base/errors.h"
+#include "platform/interpreter.h"
 
 namespace tone {
 namespace {
@@ -13,26 +14,28 @@ constexpr char kSounding32[] = "tone32.dll";
 }  // namespace
 
 void HelperPrograms::Start(base::Output output, Named named) {
-  platform::Processes& processes = platform_.processes;
-  if (output == base::Output::kHelper16) ExpectClassic();
-  if (output == base::Output::kHelper16 && named == Named::kAlone) {
-    processes.StartHidden(std::string("cmd /c ") + kStarter16);
-  } else if (output == base::Output::kHelper16) {
-    processes.StartHidden(
-        base::InterpreterCommand(platform_.environment.ProgramFolder(), kStarter16));
+  if (output == base::Output::kHelper16) {
+    RequireOwn(kStarter16);
+    RequireOwn(kSounding16);
+    platform::StartInterpreter(platform_, StarterCommand(named));
   } else if (output == base::Output::kHelper32) {
-    processes.StartHidden(kSounding32);
+    platform_.processes.StartHidden(RequireOwn(kSounding32), kSounding32);
   }
 }
 
-// The command interpreter starts in any case, whatever it finds then.
-void HelperPrograms::ExpectClassic() {
-  const std::string folder = platform_.environment.ProgramFolder() + "\\";
-  for (const char* name : {kStarter16, kSounding16}) {
-    if (!platform_.files.Exists(folder + name)) {
-      throw base::RuntimeError(base::ErrorCode::kFileNotFound);
-    }
-  }
+// The interpreter would look for one that is not there along PATH.
+std::string HelperPrograms::RequireOwn(const std::string& name) {
+  const std::string path = platform_.environment.ProgramFolder() + "\\" + name;
+  if (!platform_.files.Exists(path)) throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+  return path;
+}
+
+// Where this variable is set, the interpreter looks for a bare name along PATH only.
+std::string HelperPrograms::StarterCommand(Named named) {
+  const bool looks_elsewhere =
+      !platform_.environment.Get("NoDefaultCurrentDirectoryInExePath").empty();
+  if (named == Named::kAlone && !looks_elsewhere) return std::string("cmd /c ") + kStarter16;
+  return base::InterpreterCommand(platform_.environment.ProgramFolder(), kStarter16);
 }
 
 void HelperPrograms::End(base::Output output) {

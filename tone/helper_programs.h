@@ -5,6 +5,8 @@
 // executables in spite of their names. They read their pitch from the hand-over file.
 #pragma once
 
+#include <string>
+
 #include "base/sound_mode.h"
 #include "platform/platform.h"
 #include "tone/process_killer.h"
@@ -14,7 +16,8 @@ namespace tone {
 class HelperPrograms {
  public:
   // How the command names play16.exe: alone, so that it is found in the current folder, or by its
-  // quoted path. tone32.dll is always named alone.
+  // quoted path. tone32.dll is always named alone. Whatever the name, it is the program's own folder
+  // that the helper is started from, and no other.
   enum class Named { kAlone, kByPath };
 
   explicit HelperPrograms(platform::Platform& platform) : platform_(platform), killer_(platform) {}
@@ -30,7 +33,8 @@ class HelperPrograms {
   void EndAll();
 
  private:
-  void ExpectClassic();
+  std::string RequireOwn(const std::string& name);
+  std::string StarterCommand(Named named);
 
   platform::Platform& platform_;
   ProcessKiller killer_;

@@ -234,6 +234,11 @@ class WebBrowser : public Control {
   void Navigate(const std::string& address);
   void Reset() override;
 
+  // Asked before a page is shown, in the midst of the browser's own work; where nothing answers, none
+  // is shown. An address that is refused is told as one for a window of its own.
+  std::function<bool(const std::string& address)> OnNavigate;
+  bool MayNavigate(const std::string& address) const { return OnNavigate && OnNavigate(address); }
+
   // A page asks for a window of its own, which it does not get from the control.
   std::function<void(const std::string& address)> OnNewWindow;
   void AskForWindow(const std::string& address);

@@ -70,8 +70,9 @@ void FakeProcesses::Start(const std::string& command) {
   Begin(command, "start ");
 }
 
-void FakeProcesses::StartHidden(const std::string& command) {
+void FakeProcesses::StartHidden(const std::string& program, const std::string& command) {
   Begin(command, "start hidden ");
+  hidden_programs.push_back(program);
 }
 
 void FakeProcesses::StartProgram(const std::string& program, const std::string& arguments) {

@@ -19,6 +19,7 @@ class FixedEnvironment : public Environment {
  public:
   std::map<std::string, std::string> variables;
   std::string arguments;
+  std::string system_folder = "C:\\Windows\\System32";
   std::string program_folder = "C:\\Tonmira";
   std::string program_name = "tonmira";
   std::string current_folder = "C:\\Users\\Tom";
@@ -26,6 +27,7 @@ class FixedEnvironment : public Environment {
 
   std::string Get(const std::string& name) override;
   std::string Arguments() override { return arguments; }
+  std::string SystemFolder() override { return system_folder; }
   std::string ProgramFolder() override { return program_folder; }
   std::string ProgramName() override { return program_name; }
   std::string FullPath(const std::string& path) override;
@@ -64,12 +66,13 @@ class FakeProcesses : public Processes {
   std::set<std::uint32_t> protected_ids;      // may not be ended
   std::set<std::uint32_t> fleeting_ids;       // are gone when they are to be ended
   std::set<std::string> missing_commands;     // cannot be started
+  std::vector<std::string> hidden_programs;   // the files that were started hidden, by their paths
   std::map<std::string, std::string> become;  // command: name of the process that it starts
 
   std::vector<ProcessEntry> Snapshot() override { return running; }
   bool Terminate(std::uint32_t id) override;
   void Start(const std::string& command) override;
-  void StartHidden(const std::string& command) override;
+  void StartHidden(const std::string& program, const std::string& command) override;
   void StartProgram(const std::string& program, const std::string& arguments) override;
   [[noreturn]] void EndProcess() override;
 

@@ -6,6 +6,9 @@ namespace platform::simulated {
 
 Simulation::Simulation() {
   files.AddFolder("C:\\Tonmira");
+  for (const char* program : {"play16.exe", "tone32.dll", "upsend.exe"}) {
+    files.Put(std::string("C:\\Tonmira\\") + program, "");
+  }
   files.AddFolder(kTemp);
   files.AddFolder(kAppData);
   for (const char* helper : {"play16.exe", "tone16.dll", "tone32.dll"}) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/windows/api/system_library.h"
 #include "platform/windows/message_pump.h"
 #include "platform/windows/sound/direct_sound.h"
 #include "platform/windows/sound/multimedia.h"
@@ -31,6 +32,12 @@ class WindowsPlatform {
   Platform& Services() { return services_; }
 
  private:
+  // Before any of the services loads a library.
+  struct SystemFolderOnly {
+    SystemFolderOnly() { LoadFromSystemFolderOnly(); }
+  };
+
+  SystemFolderOnly libraries_;
   OpenWindows open_;
   MultimediaLibrary multimedia_;
   WindowsFileSystem files_;

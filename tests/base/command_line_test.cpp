@@ -44,5 +44,21 @@ TEST(InterpreterCommand, HasQuotesToSpareWhereCmdTakesAPairAway) {
   }
 }
 
+TEST(InterpreterCommand, KeepsOfTheFolderWhateverElseCmdActsOn) {
+  for (const char c : std::string(",;='`~+[]{}#$")) {
+    const std::string folder = std::string("C:\\Tom") + c + "Jerry";
+    EXPECT_EQ(InterpreterCommand(folder, "upsend.exe"),
+              "cmd /c \"\"" + folder + "\\upsend.exe\"\"");
+  }
+  EXPECT_EQ(InterpreterCommand("C:\\Zo\xC3\xAB", "play16.exe"),
+            "cmd /c \"\"C:\\Zo\xC3\xAB\\play16.exe\"\"");
+}
+
+TEST(InterpreterCommand, DoesNotNameAFolderInWhichCmdWouldPutAVariable) {
+  for (const std::string folder : {"C:\\%TEMP%\\Tonmira", "C:\\100%", "C:\\Tonmira!", "C:\\!PATH!"}) {
+    EXPECT_EQ(InterpreterCommand(folder, "play16.exe"), "cmd /c .\\play16.exe");
+  }
+}
+
 }  // namespace
 }  // namespace base

@@ -71,5 +71,28 @@ TEST_F(NewsTest, AWindowForAnythingButAWebAddressIsNotOpened) {
   EXPECT_TRUE(Started().empty());
 }
 
+TEST_F(NewsTest, OnlyPagesAreShown) {
+  Run();
+  EXPECT_TRUE(News().WebBrowser1.MayNavigate("https://www.tonmira.example/information.html"));
+  EXPECT_TRUE(News().WebBrowser1.MayNavigate("about:blank"));
+  for (const std::string address :
+       {"file://host/share/x.htm", "C:\\x.htm", "mailto:a@b.example", "http://a@b.example/"}) {
+    EXPECT_FALSE(News().WebBrowser1.MayNavigate(address)) << address;
+  }
+  EXPECT_TRUE(Started().empty());
+}
+
+TEST_F(NewsTest, ABrowserThatIsAskedByNobodyShowsNothing) {
+  ui::Window window{sim.services.windows, {"FormX", "x", 100, 100}};
+  ui::WebBrowser browser(window, 1, "WebBrowser9", ui::Rect{0, 0, 10, 10});
+  EXPECT_FALSE(browser.MayNavigate("https://www.tonmira.example/information.html"));
+}
+
+TEST_F(NewsTest, AMailLinkOpensTheUsersMailProgram) {
+  Run();
+  News().WebBrowser1.AskForWindow("mailto:support@tonmira.example");
+  EXPECT_EQ(Started(), (Lines{"start hidden cmd /c start mailto:support@tonmira.example"}));
+}
+
 }  // namespace
 }  // namespace online

@@ -31,6 +31,20 @@ TEST_F(UsageTest, WithConsentTheLogIsHandedOver) {
   EXPECT_EQ(Started(), (Lines{kUploadStarted, "end"}));
 }
 
+TEST_F(UsageTest, TheSystemsOwnInterpreterStartsTheUpload) {
+  Consent();
+  Close();
+  EXPECT_EQ(sim.processes.hidden_programs, (Lines{"C:\\Windows\\System32\\cmd.exe"}));
+}
+
+TEST_F(UsageTest, AnUploadProgramThatIsNotInTheProgramsFolderIsLookedForNowhereElse) {
+  Consent();
+  sim.files.Delete("C:\\Tonmira\\upsend.exe");
+  Close();
+  EXPECT_EQ(Started(), (Lines{"end"}));
+  EXPECT_FALSE(WasShown("Form6"));
+}
+
 TEST_F(UsageTest, WithoutConsentNothingIsHandedOver) {
   Close();
   EXPECT_FALSE(sim.files.Exists(kHandOver));

@@ -30,6 +30,35 @@ TEST_F(HelpersTest, Sound32DiffersOnlyInItsCommand) {
              "terminate tone32.dll", "stop 0x2", "Actual pitch (Hertz): ", "delete " + kHandOver}));
 }
 
+TEST_F(HelpersTest, TheInterpreterIsTheSystemsAndTheHelperTheProgramsOwn) {
+  StopAt(300ms);
+  helpers.Sound16(440);
+  StopAt(300ms);
+  helpers.Sound32(440);
+  EXPECT_EQ(sim.processes.hidden_programs,
+            (Lines{"C:\\Windows\\System32\\cmd.exe", "C:\\Tonmira\\tone32.dll"}));
+}
+
+TEST_F(HelpersTest, AHelperThatIsNotInTheProgramsFolderIsLookedForNowhereElse) {
+  for (const char* name : {"play16.exe", "tone32.dll"}) {
+    sim.files.Delete(std::string("C:\\Tonmira\\") + name);
+  }
+  StopAt(300ms);
+  helpers.Sound16(440);
+  StopAt(300ms);
+  helpers.Sound32(440);
+  EXPECT_TRUE(sim.processes.hidden_programs.empty());
+  EXPECT_TRUE(Journal({Kind::kProcess, Kind::kMessage}).empty());
+}
+
+TEST_F(HelpersTest, WhereTheInterpreterLeavesOutTheCurrentFolderTheHelperIsNamedByItsPath) {
+  sim.environment.variables["NoDefaultCurrentDirectoryInExePath"] = "1";
+  StopAt(300ms);
+  helpers.Sound16(440);
+  EXPECT_EQ(Journal({Kind::kProcess}),
+            (Lines{"start hidden cmd /c \"C:\\Tonmira\\play16.exe\""}));
+}
+
 TEST_F(HelpersTest, StopDuringATickOf208MsIsNoticedAtItsEndThenEverythingIsSilenced) {
   sim.pump.journal_waits = true;
   StopAt(210ms);

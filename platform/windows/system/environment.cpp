@@ -32,6 +32,14 @@ std::wstring ModulePath() {
       [](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); });
 }
 
+std::wstring ModuleFolder() {
+  std::wstring path = ModulePath();
+  path.resize(path.find_last_of(L'\\'));
+  // A drive's name alone would mean the folder that is current on it, not its root.
+  if (path.ends_with(L':')) path += L'\\';
+  return path;
+}
+
 std::string WindowsEnvironment::Get(const std::string& name) {
   const std::wstring wide_name = Widen(name);
   return Narrow(Filled([&](wchar_t* buffer, DWORD size) {
@@ -41,6 +49,10 @@ std::string WindowsEnvironment::Get(const std::string& name) {
 
 std::string WindowsEnvironment::Arguments() {
   return std::string(base::Arguments(Narrow(GetCommandLineW()), Narrow(ModulePath())));
+}
+
+std::string WindowsEnvironment::SystemFolder() {
+  return Narrow(Filled([](wchar_t* buffer, DWORD size) { return GetSystemDirectoryW(buffer, size); }));
 }
 
 std::string WindowsEnvironment::ProgramFolder() {

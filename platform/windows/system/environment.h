@@ -9,6 +9,7 @@ class WindowsEnvironment final : public Environment {
  public:
   std::string Get(const std::string& name) override;
   std::string Arguments() override;
+  std::string SystemFolder() override;
   std::string ProgramFolder() override;
   std::string ProgramName() override;
   std::string FullPath(const std::string& path) override;

@@ -1,11 +1,11 @@
 #include "platform/windows/system/file_system.h"
 
-#include <charconv>
 #include <utility>
 
 #include "platform/windows/api/handles.h"
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/system/file_errors.h"
+#include "platform/windows/system/random_name.h"
 
 namespace platform::windows {
 namespace {
@@ -40,6 +40,30 @@ DWORD Insist(const std::wstring& path, Attempt attempt) {
 bool IsFolder(const std::wstring& name) {
   const DWORD attributes = GetFileAttributesW(name.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+// A link to another file, or one of several names of a file: what is written here would change more
+// than the name says.
+bool LeadsElsewhere(HANDLE file) {
+  BY_HANDLE_FILE_INFORMATION info{};
+  return GetFileInformationByHandle(file, &info) &&
+         (info.nNumberOfLinks > 1 || (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0);
+}
+
+// A link itself is opened, not what it leads to.
+KernelHandle CreateToWrite(const std::wstring& name, DWORD disposition) {
+  return Own(CreateFileW(name.c_str(), GENERIC_WRITE, kShareWithReaders, nullptr, disposition,
+                         FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+}
+
+// The file of this name, or a new one, also where the name leads elsewhere. Null when the system
+// refuses, which has left its error.
+KernelHandle OpenOwn(const std::wstring& name) {
+  KernelHandle file = CreateToWrite(name, OPEN_ALWAYS);
+  if (!file || !LeadsElsewhere(file.get())) return file;
+  file.reset();
+  if (!DeleteFileW(name.c_str())) return nullptr;
+  return CreateToWrite(name, CREATE_NEW);
 }
 
 class WindowsInputFile final : public InputFile {
@@ -124,8 +148,7 @@ std::unique_ptr<OutputFile> WindowsFileSystem::OpenForWriting(const std::string&
   std::wstring name = NameOf(path);
   KernelHandle file;
   const DWORD error = Insist(name, [&] {
-    file = Own(CreateFileW(name.c_str(), GENERIC_WRITE, kShareWithReaders, nullptr, OPEN_ALWAYS,
-                           FILE_ATTRIBUTE_NORMAL, nullptr));
+    file = OpenOwn(name);
     return file != nullptr;
   });
   if (error != ERROR_SUCCESS) ThrowFileError(error, name);
@@ -165,9 +188,7 @@ bool WindowsFileSystem::Delete(const std::string& path) {
 }
 
 std::string WindowsFileSystem::TemporaryName(const std::string& path) {
-  char digits[16];
-  const auto end = std::to_chars(digits, digits + sizeof(digits), GetCurrentProcessId(), 16);
-  return path + "." + std::string(digits, end.ptr) + ".tmp";
+  return Narrow(RandomNameBeside(Widen(path)));
 }
 
 std::string WindowsCodePage::Encode(std::string_view utf8) {

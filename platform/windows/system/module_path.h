@@ -10,4 +10,7 @@ namespace platform::windows {
 // Its full path.
 std::wstring ModulePath();
 
+// Its folder; a drive's root with the backslash that belongs to it.
+std::wstring ModuleFolder();
+
 }  // namespace platform::windows

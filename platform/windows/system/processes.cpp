@@ -2,9 +2,11 @@
 
 #include "base/errors.h"
 #include "base/owner_text.h"
+#include "platform/start_errors.h"
 #include "platform/windows/api/handles.h"
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/api/windows_api.h"
+#include "platform/windows/system/module_path.h"
 
 #include <tlhelp32.h>
 
@@ -23,9 +25,9 @@ void StartCommand(const wchar_t* program, const std::string& command, WORD show)
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = show;
   PROCESS_INFORMATION process{};
-  if (!CreateProcessW(program, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                      &process)) {
-    throw base::RuntimeError(base::ErrorCode::kFileNotFound);
+  if (!CreateProcessW(program, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                      ModuleFolder().c_str(), &startup, &process)) {
+    throw base::RuntimeError(StartErrorCode(GetLastError()));
   }
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
@@ -67,8 +69,8 @@ void WindowsProcesses::Start(const std::string& command) {
   StartCommand(nullptr, command, SW_SHOWNORMAL);
 }
 
-void WindowsProcesses::StartHidden(const std::string& command) {
-  StartCommand(nullptr, command, SW_HIDE);
+void WindowsProcesses::StartHidden(const std::string& program, const std::string& command) {
+  StartCommand(Widen(program).c_str(), command, SW_HIDE);
 }
 
 void WindowsProcesses::StartProgram(const std::string& program, const std::string& arguments) {

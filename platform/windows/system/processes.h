@@ -13,7 +13,7 @@ class WindowsProcesses final : public Processes {
   std::vector<ProcessEntry> Snapshot() override;
   bool Terminate(std::uint32_t id) override;
   void Start(const std::string& command) override;
-  void StartHidden(const std::string& command) override;
+  void StartHidden(const std::string& program, const std::string& command) override;
   void StartProgram(const std::string& program, const std::string& arguments) override;
   [[noreturn]] void EndProcess() override;
 };

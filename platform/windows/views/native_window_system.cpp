@@ -1,5 +1,6 @@
 #include "platform/windows/views/native_window_system.h"
 
+#include "platform/windows/api/system_library.h"
 #include "platform/windows/views/native_window.h"
 #include "platform/windows/views/picture_view.h"
 #include "platform/windows/web/web_browser_view.h"
@@ -12,7 +13,9 @@ NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
     : appearance_(instance), open_(open) {
   // Visual styles need the library of common controls to be loaded; the bars are of it.
   INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
-  InitCommonControlsEx(&wanted);
+  const auto initialize = FunctionOf<decltype(&InitCommonControlsEx)>(
+      LoadVersionedLibrary(L"comctl32.dll"), "InitCommonControlsEx");
+  if (initialize != nullptr) initialize(&wanted);
   RegisterWindowClass(instance);
   RegisterPictureClass(instance);
   RegisterBrowserClass(instance);

@@ -4,10 +4,6 @@
 #include <exdispid.h>
 #include <mshtmdid.h>
 
-#include <algorithm>
-#include <cwchar>
-#include <iterator>
-
 namespace platform::windows {
 namespace {
 
@@ -17,23 +13,27 @@ constexpr LONG kNoScripts = 0x80;        // DLCTL_NO_SCRIPTS
 constexpr LONG kNoJava = 0x100;          // DLCTL_NO_JAVA
 constexpr LONG kRunNoControls = 0x200;   // DLCTL_NO_RUNACTIVEXCTLS
 constexpr LONG kLoadNoControls = 0x400;  // DLCTL_NO_DLACTIVEXCTLS
-constexpr LONG kAllowed = kShowImages | kNoScripts | kNoJava | kRunNoControls | kLoadNoControls;
+constexpr LONG kNoFrames = 0x1000;            // DLCTL_NO_FRAMEDOWNLOAD
+constexpr LONG kNoBehaviors = 0x8000;         // DLCTL_NO_BEHAVIORS
+constexpr LONG kNoClientPull = 0x20000000;    // DLCTL_NO_CLIENTPULL: no moving on by itself
+constexpr LONG kSilent = 0x40000000;          // DLCTL_SILENT
+constexpr LONG kAllowed = kShowImages | kNoScripts | kNoJava | kRunNoControls | kLoadNoControls |
+                          kNoFrames | kNoBehaviors | kNoClientPull | kSilent;
 
 // What NewWindow3 says of a window that the user's own click asked for (NWMF_USERINITED).
-constexpr LONG kAskedByUser = 0x4;
-
-bool IsWebAddress(const wchar_t* address) {
-  const wchar_t* const beginnings[] = {L"http://", L"https://", L"about:blank"};
-  return std::any_of(std::begin(beginnings), std::end(beginnings), [address](const wchar_t* text) {
-    return _wcsnicmp(address, text, std::wcslen(text)) == 0;
-  });
-}
+constexpr LONG kAskedByUser = 0x2;
 
 // The text of a parameter that may be given by reference, or null.
 const wchar_t* TextOf(const VARIANT& parameter) {
   const VARIANT* const value =
       parameter.vt == (VT_BYREF | VT_VARIANT) ? parameter.pvarVal : &parameter;
   return value != nullptr && value->vt == VT_BSTR ? value->bstrVal : nullptr;
+}
+
+// A parameter that is a truth value, given by reference or not.
+bool IsTrue(const VARIANT& parameter) {
+  if (parameter.vt == (VT_BYREF | VT_BOOL)) return *parameter.pboolVal != VARIANT_FALSE;
+  return parameter.vt == VT_BOOL && parameter.boolVal != VARIANT_FALSE;
 }
 
 // Parameters stand in reverse order.
@@ -47,6 +47,7 @@ void Cancel(const DISPPARAMS& parameters, UINT from_last) {
 
 void BrowserSite::Leave() {
   window_ = nullptr;
+  may_show_ = nullptr;
   new_window_ = nullptr;
   active_.reset();
 }
@@ -66,6 +67,8 @@ STDMETHODIMP BrowserSite::QueryInterface(REFIID id, void** object) {
     *object = static_cast<IOleInPlaceFrame*>(this);
   } else if (id == __uuidof(IDispatch) || id == __uuidof(DWebBrowserEvents2)) {
     *object = static_cast<IDispatch*>(this);
+  } else if (id == __uuidof(IServiceProvider)) {
+    *object = static_cast<IServiceProvider*>(this);
   } else {
     *object = nullptr;
     return E_NOINTERFACE;
@@ -103,6 +106,10 @@ STDMETHODIMP BrowserSite::SetActiveObject(IOleInPlaceActiveObject* object, LPCOL
   return S_OK;
 }
 
+STDMETHODIMP BrowserSite::QueryService(REFGUID, REFIID id, void** object) {
+  return security_->QueryInterface(id, object);
+}
+
 STDMETHODIMP BrowserSite::GetTypeInfoCount(UINT* count) {
   *count = 0;
   return S_OK;
@@ -119,7 +126,9 @@ STDMETHODIMP BrowserSite::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* 
     case DISPID_BEFORENAVIGATE2: {
       if (parameters->cArgs < 7) return S_OK;
       const wchar_t* const address = TextOf(parameters->rgvarg[5]);
-      if (address == nullptr || !IsWebAddress(address)) Cancel(*parameters, 0);
+      if (address != nullptr && may_show_ && may_show_(address)) return S_OK;
+      Cancel(*parameters, 0);
+      if (address != nullptr && new_window_) new_window_(address);
       return S_OK;
     }
     case DISPID_NEWWINDOW3: {
@@ -130,8 +139,11 @@ STDMETHODIMP BrowserSite::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* 
       if (address != nullptr && asked && new_window_) new_window_(address);
       return S_OK;
     }
-    case DISPID_NEWWINDOW2:
     case DISPID_FILEDOWNLOAD:
+      // The page itself comes with the mark of a document that is shown in its place.
+      if (parameters->cArgs < 2 || !IsTrue(parameters->rgvarg[1])) Cancel(*parameters, 0);
+      return S_OK;
+    case DISPID_NEWWINDOW2:
       Cancel(*parameters, 0);
       return S_OK;
     default:

@@ -4,26 +4,31 @@
 #include "platform/windows/api/windows_api.h"
 
 #include <ole2.h>
+#include <servprov.h>
 
 #include <functional>
 #include <string>
 
 #include "platform/windows/api/com_owner.h"
+#include "platform/windows/web/page_security.h"
 
 namespace platform::windows {
 
-// Fills the client area of `window`. Pages come from the web only, get no windows of their own
-// (`new_window` is told what the user asked for), run no scripts, ActiveX controls or Java, and
-// download no files.
+// Fills the client area of `window`. Only what `may_show` allows is shown; `new_window` is told what it
+// refused and what the user asked for in a window of its own, which no page gets. Pages have no
+// frames, do not move on by themselves, run no scripts, ActiveX controls or Java, and download no
+// files; what more they may do says PageSecurity.
 class BrowserSite final : public IOleClientSite,
                           public IOleInPlaceSite,
                           public IOleInPlaceFrame,
+                          public IServiceProvider,
                           public IDispatch {
  public:
+  using MayShow = std::function<bool(const std::wstring& address)>;
   using NewWindow = std::function<void(const std::wstring& address)>;
 
-  BrowserSite(HWND window, NewWindow new_window)
-      : window_(window), new_window_(std::move(new_window)) {}
+  BrowserSite(HWND window, MayShow may_show, NewWindow new_window)
+      : window_(window), may_show_(std::move(may_show)), new_window_(std::move(new_window)) {}
 
   // The window is going; calls that still come get no answer.
   void Leave();
@@ -74,6 +79,9 @@ class BrowserSite final : public IOleClientSite,
   STDMETHODIMP EnableModeless(BOOL) override { return S_OK; }
   STDMETHODIMP TranslateAccelerator(MSG*, WORD) override { return S_FALSE; }
 
+  // IServiceProvider
+  STDMETHODIMP QueryService(REFGUID service, REFIID id, void** object) override;
+
   // IDispatch: ambient properties and the browser's events
   STDMETHODIMP GetTypeInfoCount(UINT* count) override;
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
@@ -89,7 +97,9 @@ class BrowserSite final : public IOleClientSite,
 
   ReferenceCount references_;
   HWND window_;
+  MayShow may_show_;
   NewWindow new_window_;
+  ComOwner<PageSecurity> security_{new PageSecurity};
   ComOwner<IOleInPlaceActiveObject> active_;
 };
 

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/redirections.h"
+
 namespace platform::windows {
 namespace {
 
@@ -24,13 +26,6 @@ const wchar_t* HeaderValue(const wchar_t* headers, std::wstring_view name) {
 bool HasHeaders(const wchar_t* answer) {
   const wchar_t* const end = answer == nullptr ? nullptr : std::wcschr(answer, L'\n');
   return end != nullptr && end[1] != L'\0' && end[1] != L'\r' && end[1] != L'\n';
-}
-
-bool IsWebAddress(const wchar_t* address) {
-  const wchar_t* const schemes[] = {L"http://", L"https://"};
-  return std::any_of(std::begin(schemes), std::end(schemes), [address](const wchar_t* scheme) {
-    return _wcsnicmp(address, scheme, std::wcslen(scheme)) == 0;
-  });
 }
 
 }  // namespace
@@ -71,10 +66,10 @@ STDMETHODIMP DownloadCallback::OnStopBinding(HRESULT result, LPCWSTR) {
 }
 
 STDMETHODIMP DownloadCallback::OnProgress(ULONG progress, ULONG end, ULONG status, LPCWSTR text) {
-  const bool astray = status == BINDSTATUS_REDIRECTING && text != nullptr && !IsWebAddress(text);
+  const bool sent_on = status == BINDSTATUS_REDIRECTING && text != nullptr;
   // Not every service heeds the answer alone.
-  if (astray || std::max(progress, end) > most_bytes_) End();
-  if (status == BINDSTATUS_REDIRECTING && text != nullptr) link_ = text;
+  if ((sent_on && !MayFollow(link_, text)) || std::max(progress, end) > most_bytes_) End();
+  if (sent_on) link_ = text;
   return ended_ ? E_ABORT : S_OK;
 }
 

@@ -19,7 +19,8 @@ namespace platform::windows {
 // Wants the newest version and no dialog: a certificate that is not trusted and a request for a
 // password end the download, and so does any answer but success. It ends as well when the host does
 // not say how much it sends (the service would follow an endless answer until the disk is full),
-// says more than `most_bytes` or sends more, and when it sends on to anything but a web address.
+// says more than `most_bytes` or sends more, and when it sends on to anything but a web address, or
+// from an encrypted one to one that is not (platform/redirections.h).
 // What the service saves of a download that ended, the file `arrival`, is deleted.
 class DownloadCallback final : public IBindStatusCallback,
                                public IHttpNegotiate,

@@ -10,6 +10,7 @@
 #include "platform/windows/api/system_library.h"
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/system/file_system.h"
+#include "platform/windows/system/random_name.h"
 #include "platform/windows/web/download_callback.h"
 #include "platform/windows/web/unsized_answer.h"
 
@@ -178,8 +179,7 @@ std::unique_ptr<RunningDownload> WindowsDownloader::Begin(const std::string& lin
   const auto job = std::make_shared<Job>();
   job->link = Widen(link);
   job->path = Widen(path);
-  job->arrival = job->path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                 std::to_wstring(++begun_) + L".tmp";
+  job->arrival = RandomNameBeside(job->path);
   job->most_bytes = most_bytes;
   job->waiter = GetCurrentThreadId();
   auto owner = std::make_unique<JobPointer>(job);

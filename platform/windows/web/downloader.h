@@ -14,9 +14,6 @@ class WindowsDownloader final : public Downloader {
  public:
   std::unique_ptr<RunningDownload> Begin(const std::string& link, const std::string& path,
                                          std::size_t most_bytes) override;
-
- private:
-  int begun_ = 0;  // for names that no other download of this process has
 };
 
 }  // namespace platform::windows

@@ -44,6 +44,7 @@ ComOwner<IOleObject> CreateBrowser() {
   const auto initialize = FunctionOf<InitializeFunction>(library, "OleInitialize");
   const auto create = FunctionOf<CreateFunction>(library, "CoCreateInstance");
   if (initialize == nullptr || create == nullptr) return nullptr;
+  TurnOnBrowserGuards();
   // Never undone: what a page left behind may live until the process ends.
   if (FAILED(initialize(nullptr))) return nullptr;
   void* made = nullptr;
@@ -156,9 +157,11 @@ void WebBrowserView::Changed(ui::Property property) {
   if (!tried_) {
     tried_ = true;
     if (auto object = CreateBrowser()) {
-      ComOwner<BrowserSite> site(new BrowserSite(handle_, [this](const std::wstring& address) {
-        browser_.AskForWindow(Narrow(address));
-      }));
+      ComOwner<BrowserSite> site(new BrowserSite(
+          handle_, [this](const std::wstring& address) {
+            return browser_.MayNavigate(Narrow(address));
+          },
+          [this](const std::wstring& address) { browser_.AskForWindow(Narrow(address)); }));
       object_ = std::make_unique<Object>(std::move(object), std::move(site), handle_);
     }
   }
