@@ -3,6 +3,7 @@
 import pytest
 
 from check_borders import ALLOWED, violations
+from check_hardening import header_complaints, library_complaints, stack_checks
 from check_imports import allowed_imports, imports, subsystem_version
 
 DUMP = """
@@ -104,3 +105,70 @@ def test_a_function_of_another_library_does_not_count() -> None:
 
 def test_the_system_version_is_read() -> None:
     assert subsystem_version(DUMP) == (5, 1)
+
+
+HARD = """
+Characteristics 0x22e
+\texecutable
+DllCharacteristics\t00000160
+\t\t\t\t\tHIGH_ENTROPY_VA
+\t\t\t\t\tDYNAMIC_BASE
+\t\t\t\t\tNX_COMPAT
+SizeOfStackReserve\t0000000000200000
+Entry 5 0000000000090000 00000bdc Base Relocation Directory [.reloc]
+
+PE File Base Relocations (interpreted .reloc section contents)
+
+Virtual Address: 00003000 Chunk size 12 (0xc) Number of fixups 2
+"""
+
+
+def test_a_hard_program_is_not_complained_of() -> None:
+    assert header_complaints(HARD, wide=True) == []
+
+
+@pytest.mark.parametrize(("line", "wide", "complaint"), [
+    ("\t\t\t\t\tDYNAMIC_BASE\n", True, "lacks the flag DYNAMIC_BASE"),
+    ("\t\t\t\t\tNX_COMPAT\n", False, "lacks the flag NX_COMPAT"),
+    ("\t\t\t\t\tHIGH_ENTROPY_VA\n", True, "lacks the flag HIGH_ENTROPY_VA"),
+    ("Entry 5 0000000000090000 00000bdc Base Relocation Directory [.reloc]\n", True,
+     "has no relocations"),
+    ("Virtual Address: 00003000 Chunk size 12 (0xc) Number of fixups 2\n", True,
+     "has no relocations"),
+])
+def test_a_missing_protection_is_found(line: str, wide: bool, complaint: str) -> None:
+    assert header_complaints(HARD.replace(line, ""), wide) == [complaint]
+
+
+def test_stripped_and_empty_relocations_are_found() -> None:
+    stripped = HARD.replace("\texecutable", "\trelocations stripped")
+    assert header_complaints(stripped, wide=True) == ["its relocations were stripped"]
+    empty = HARD.replace("00000bdc Base", "00000000 Base")
+    assert header_complaints(empty, wide=True) == ["has no relocations"]
+
+
+def test_high_entropy_is_for_wide_programs_only() -> None:
+    assert header_complaints(HARD.replace("\t\t\t\t\tHIGH_ENTROPY_VA\n", ""), wide=False) == []
+
+
+def test_a_library_that_a_file_could_stand_in_for_is_found() -> None:
+    planted = DUMP.replace("USER32.dll", "WINMM.dll")
+    assert library_complaints(DUMP) == []
+    assert library_complaints(planted) == [
+        "loads winmm.dll at its start, which a file beside it could stand in for"]
+
+
+CODE = """
+   140001530:\t48 83 ec 28          \tsub    $0x28,%rsp
+   140001534:\tff 15 00 00 00 00    \tcall   *0x7000(%rip)        # 0x1400085e0
+   14000153a:\tba 09 04 00 c0       \tmov    $0xc0000409,%edx
+   140001600:\te8 2b ff ff ff       \tcall   0x140001530
+   140001605:\te8 00 00 00 00       \tcall   0x140001600
+   140001610:\te8 1b ff ff ff       \tcall   140001530 <.text+0x530>
+"""
+
+
+def test_the_places_that_check_their_stack_are_counted() -> None:
+    assert stack_checks(CODE) == 2
+    assert stack_checks(CODE.replace("$0xc0000409", "$0x1")) == 0
+    assert stack_checks("") == 0

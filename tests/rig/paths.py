@@ -13,6 +13,9 @@ DRIVER = PARTS / "driver.exe"
 BARE_WINDOW = PARTS / "bare_window.exe"
 BARE_PLAYER = PARTS / "bare_player.exe"
 LINK_TAKER = PARTS / "link_taker.exe"
+OVERRUN = PARTS / "overrun.exe"
+MARKER_LIBRARY = PARTS / "marker.dll"
+MARKER_PROGRAM = PARTS / "marker.exe"
 
 # Prepared once, kept between runs.
 CACHE = PROJECT / "build" / "rig"

@@ -1,0 +1,24 @@
+// A stranger's library or program: whoever loads or starts it leaves a file beside it, of its name and
+// ".ran".
+#include <windows.h>
+
+#include <string>
+
+static void Leave(HMODULE module) {
+  wchar_t path[MAX_PATH] = L"";
+  GetModuleFileNameW(module, path, MAX_PATH);
+  CloseHandle(CreateFileW((std::wstring(path) + L".ran").c_str(), GENERIC_WRITE, 0, nullptr,
+                          CREATE_ALWAYS, 0, nullptr));
+}
+
+#ifdef MARKER_IS_LIBRARY
+BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID) {
+  if (reason == DLL_PROCESS_ATTACH) Leave(module);
+  return TRUE;
+}
+#else
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+  Leave(nullptr);
+  return 0;
+}
+#endif
