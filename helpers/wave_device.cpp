@@ -33,7 +33,7 @@ bool WaveDevice::Open(std::uint32_t rate_hz) {
   if (!wave_out_.complete()) return false;
   const WAVEFORMATEX format = Format(rate_hz);
   if (wave_out_.open(&device_, WAVE_MAPPER, &format, reinterpret_cast<DWORD_PTR>(freed_.get()), 0,
-                  CALLBACK_EVENT | WAVE_FORMAT_DIRECT) != MMSYSERR_NOERROR) {
+                     CALLBACK_EVENT | WAVE_FORMAT_DIRECT) != MMSYSERR_NOERROR) {
     device_ = nullptr;
     return false;
   }

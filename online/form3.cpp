@@ -39,8 +39,8 @@ void Form3::Form_Unload() {
   status_window_.Unload();
 }
 
-// What a page opens is for the user's own browser or mail program. One that does not start is its own
-// affair.
+// What a page opens is for the user's own browser or mail program. One that does not start is its
+// own affair.
 void Form3::OpenOutside(const std::string& address) {
   if (!IsWebAddress(address) && !IsMailAddress(address)) return;
   base::Caught([&] { OpenInBrowser(platform_, address); });

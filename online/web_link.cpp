@@ -56,7 +56,8 @@ bool IsPageAddress(std::string_view address) {
 bool IsMailAddress(std::string_view link) {
   constexpr std::string_view kScheme = "mailto:";
   constexpr std::string_view kMarks = "._+-@";
-  if (link.size() > kLongestMailAddress || base::ToLower(link.substr(0, kScheme.size())) != kScheme) {
+  if (link.size() > kLongestMailAddress ||
+      base::ToLower(link.substr(0, kScheme.size())) != kScheme) {
     return false;
   }
   link.remove_prefix(kScheme.size());

@@ -38,8 +38,8 @@ class FileSystem {
   // Null when there is no such file or folder, or a folder of that name in its place.
   virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;
 
-  // Creates the file, or empties the one that is there; a link of that name is replaced by a new file,
-  // and what it leads to stays as it is.
+  // Creates the file, or empties the one that is there; a link of that name is replaced by a new
+  // file, and what it leads to stays as it is.
   virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;
 
   // Gives `from` the name `to`, in one step, replacing a file of that name.

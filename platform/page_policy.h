@@ -7,9 +7,9 @@
 namespace platform {
 
 // The system's numbers for its answers (urlmon.h).
-inline constexpr std::uint32_t kDisallow = 0x03;            // URLPOLICY_DISALLOW
-inline constexpr std::uint32_t kNobodysName = 0x30000;      // URLPOLICY_CREDENTIALS_ANONYMOUS_ONLY
-inline constexpr std::uint32_t kRestrictedZone = 4;         // URLZONE_UNTRUSTED
+inline constexpr std::uint32_t kDisallow = 0x03;        // URLPOLICY_DISALLOW
+inline constexpr std::uint32_t kNobodysName = 0x30000;  // URLPOLICY_CREDENTIALS_ANONYMOUS_ONLY
+inline constexpr std::uint32_t kRestrictedZone = 4;     // URLZONE_UNTRUSTED
 
 // The answer to `action`, one of the system's URLACTION numbers: who the user is is not told, and
 // all else is forbidden.

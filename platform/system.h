@@ -118,8 +118,8 @@ class Processes {
   // with what prevents that (platform/start_errors.h).
   virtual void Start(const std::string& command) = 0;
 
-  // Starts `program`, a full path, and no other, with the command line `command` and with its window
-  // hidden. In all else as Start.
+  // Starts `program`, a full path, and no other, with the command line `command` and with its
+  // window hidden. In all else as Start.
   virtual void StartHidden(const std::string& program, const std::string& command) = 0;
 
   // Starts `program`, a full path, with the command line `program`, a blank, `arguments`. Throws as

@@ -1,8 +1,9 @@
 """Fails when a built program lacks a protection that compiler and linker can give it.
 
-Reads the headers of the x64 and x86 programs in build/*/tonmira: address of the system's choice (ASLR,
-with the relocations that it needs), 64-bit addresses for it, no execution of data, and no library that
-a file beside the program could stand in for; in the machine code, that functions check their stack.
+Reads the headers of the x64 and x86 programs in build/*/tonmira: address of the system's choice
+(ASLR, with the relocations that it needs), 64-bit addresses for it, no execution of data, and no
+library that a file beside the program could stand in for; in the machine code, that functions
+check their stack.
 """
 
 import re
@@ -15,8 +16,8 @@ from check_imports import PROGRAMS, PROJECT, imports
 
 BUILDS = {"windows": "x86_64-w64-mingw32-objdump", "windows-x86": "i686-w64-mingw32-objdump"}
 
-# The system maps these before a program's folder is looked at: they are on the list of known libraries
-# of every Windows since 2000, or needed by one that is.
+# The system maps these before a program's folder is looked at: they are on the list of known
+# libraries of every Windows since 2000, or needed by one that is.
 KNOWN_LIBRARIES = {"gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll"}
 
 OVERRUN = 0xC0000409  # what platform/windows/api/stack_guard.cpp ends a program with
@@ -45,8 +46,8 @@ def library_complaints(dump: str) -> list[str]:
 
 
 def stack_checks(code: str) -> int:
-    """How many calls there are of the function that ends the program with OVERRUN, in what objdump -d
-    prints."""
+    """How many calls there are of the function that ends the program with OVERRUN, in what
+    objdump -d prints."""
     lines = re.findall(r"^\s*([0-9a-f]+):\t(.*)$", code, re.MULTILINE)
     calls = [int(match[1], 16) for _, text in lines
              if (match := re.search(r"call\S*\s+(?:0x)?([0-9a-f]+)\b", text))]

@@ -16,8 +16,8 @@ namespace tone {
 class HelperPrograms {
  public:
   // How the command names play16.exe: alone, so that it is found in the current folder, or by its
-  // quoted path. tone32.dll is always named alone. Whatever the name, it is the program's own folder
-  // that the helper is started from, and no other.
+  // quoted path. tone32.dll is always named alone. Whatever the name, it is the program's own
+  // folder that the helper is started from, and no other.
   enum class Named { kAlone, kByPath };
 
   explicit HelperPrograms(platform::Platform& platform) : platform_(platform), killer_(platform) {}

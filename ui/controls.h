@@ -234,8 +234,8 @@ class WebBrowser : public Control {
   void Navigate(const std::string& address);
   void Reset() override;
 
-  // Asked before a page is shown, in the midst of the browser's own work; where nothing answers, none
-  // is shown. An address that is refused is told as one for a window of its own.
+  // Asked before a page is shown, in the midst of the browser's own work; where nothing answers,
+  // none is shown. An address that is refused is told as one for a window of its own.
   std::function<bool(const std::string& address)> OnNavigate;
   bool MayNavigate(const std::string& address) const { return OnNavigate && OnNavigate(address); }
 

@@ -55,7 +55,8 @@ TEST(InterpreterCommand, KeepsOfTheFolderWhateverElseCmdActsOn) {
 }
 
 TEST(InterpreterCommand, DoesNotNameAFolderInWhichCmdWouldPutAVariable) {
-  for (const std::string folder : {"C:\\%TEMP%\\Tonmira", "C:\\100%", "C:\\Tonmira!", "C:\\!PATH!"}) {
+  for (const std::string folder :
+       {"C:\\%TEMP%\\Tonmira", "C:\\100%", "C:\\Tonmira!", "C:\\!PATH!"}) {
     EXPECT_EQ(InterpreterCommand(folder, "play16.exe"), "cmd /c .\\play16.exe");
   }
 }

@@ -30,12 +30,13 @@ INSTANTIATE_TEST_SUITE_P(
     Links, NoWebAddress,
     testing::Values("", "calc", "calc.exe", "C:\\Windows\\notepad.exe", "\\\\host\\share\\x.exe",
                     "//a/b", "www.tonmira.example", "file:///C:/Windows/notepad.exe", "ftp://a/b",
-                    "javascript:alert(1)", "mailto:a@b.example", "ms-settings://x", "http:",
-                    "http:/", "http://", "http:///x", "http://?x", "http://#x", "http://:80/x",
-                    "http:\\\\a", "xhttp://a", " http://a", "http://a ", "http://a b", "http://a/!", "http://a/!TEMP!",
-                    "http://a\tb", "http://a\"b", "http://a'b", "http://a`b", "http://a\r\ncalc",
-                    "http://a\ncalc", "http://a\x7F", std::string("http://a\0calc", 13),
-                    "http://a/\xC3\xA4", "http://a/\xEF\xBC\x82", "http://user@a/",
+                    "javascript:alert(1)", "mailto:a@b.example", "ms-settings://x",
+                    "http:", "http:/", "http://", "http:///x", "http://?x", "http://#x",
+                    "http://:80/x", "http:\\\\a", "xhttp://a", " http://a", "http://a ",
+                    "http://a b", "http://a/!", "http://a/!TEMP!", "http://a\tb", "http://a\"b",
+                    "http://a'b", "http://a`b", "http://a\r\ncalc", "http://a\ncalc",
+                    "http://a\x7F", std::string("http://a\0calc", 13), "http://a/\xC3\xA4",
+                    "http://a/\xEF\xBC\x82", "http://user@a/",
                     "http://www.tonmira.example@b.example/", "http://user:word@a/"));
 
 TEST(WebAddress, OfMoreThanFifteenHundredCharactersIsNotStarted) {
@@ -46,14 +47,14 @@ TEST(WebAddress, OfMoreThanFifteenHundredCharactersIsNotStarted) {
 }
 
 TEST(PageAddress, IsOfTheWebAndWithoutAName) {
-  for (const char* address : {"about:blank", "http://a", "HTTPS://a.example/b?c='!'#d", "http://a/@b",
-                              "http://[::1]:8080/"}) {
+  for (const char* address : {"about:blank", "http://a", "HTTPS://a.example/b?c='!'#d",
+                              "http://a/@b", "http://[::1]:8080/"}) {
     EXPECT_TRUE(IsPageAddress(address)) << address;
   }
   for (const char* address :
-       {"", "about:", "about:blank#x", "file:///C:/x.htm", "file://host/share/x", "\\\\host\\share\\x",
-        "mailto:a@b.example", "res://x", "ftp://a", "javascript:x", "http://user@a/", "http://:x@a/",
-        "http://", "http:///x", "C:\\x.htm"}) {
+       {"", "about:", "about:blank#x", "file:///C:/x.htm", "file://host/share/x",
+        "\\\\host\\share\\x", "mailto:a@b.example", "res://x", "ftp://a", "javascript:x",
+        "http://user@a/", "http://:x@a/", "http://", "http:///x", "C:\\x.htm"}) {
     EXPECT_FALSE(IsPageAddress(address)) << address;
   }
 }
@@ -67,8 +68,8 @@ TEST(MailAddress, IsOnePersonAndNothingMore) {
   EXPECT_FALSE(IsMailAddress(longest + "c"));
   for (const char* link :
        {"", "mailto:", "mailto:a", "mailto:@b", "mailto:a@", "mailto:a@b@c", "mailto: a@b", "a@b",
-        "mailto:a@b?subject=x", "mailto:a@b&calc", "mailto:a@b,c@d", "mailto:a@b;c", "mailto:a@b%20",
-        "mailto:\"a\"@b", "mailto:a@b!", "http://a@b", "mailto:a@b\r\ncalc"}) {
+        "mailto:a@b?subject=x", "mailto:a@b&calc", "mailto:a@b,c@d", "mailto:a@b;c",
+        "mailto:a@b%20", "mailto:\"a\"@b", "mailto:a@b!", "http://a@b", "mailto:a@b\r\ncalc"}) {
     EXPECT_FALSE(IsMailAddress(link)) << link;
   }
 }

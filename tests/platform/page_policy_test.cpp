@@ -27,8 +27,8 @@ TEST(PagePolicy, AllElseIsForbidden) {
 TEST(PagePolicy, OnlyTheWebIsOfTheWeb) {
   EXPECT_TRUE(IsOfWeb(L"http://a.example/x"));
   EXPECT_TRUE(IsOfWeb(L"HTTPS://a.example/x"));
-  for (const wchar_t* address : {L"file://host/share/x.png", L"\\\\host\\share\\x.png", L"about:blank",
-                                 L"res://shell32.dll/x", L"mk:@MSITStore:x", L""}) {
+  for (const wchar_t* address : {L"file://host/share/x.png", L"\\\\host\\share\\x.png",
+                                 L"about:blank", L"res://shell32.dll/x", L"mk:@MSITStore:x", L""}) {
     EXPECT_FALSE(IsOfWeb(address)) << testing::PrintToString(address);
   }
 }

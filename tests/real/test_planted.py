@@ -17,7 +17,7 @@ from rig.served_site import ServedSite
 from rig.sound import Recorder
 from rig.tone_programs import file_of
 from rig.waiting import wait_for
-from rig.window import Driver, User, wait_for_window
+from rig.window import Driver, wait_for_window
 
 # Windows maps these before it looks into any folder: its known libraries, and what they need. Wine
 # knows no such thing, so a planted one would be taken before the program has begun.

@@ -55,8 +55,7 @@ TEST_F(HelpersTest, WhereTheInterpreterLeavesOutTheCurrentFolderTheHelperIsNamed
   sim.environment.variables["NoDefaultCurrentDirectoryInExePath"] = "1";
   StopAt(300ms);
   helpers.Sound16(440);
-  EXPECT_EQ(Journal({Kind::kProcess}),
-            (Lines{"start hidden cmd /c \"C:\\Tonmira\\play16.exe\""}));
+  EXPECT_EQ(Journal({Kind::kProcess}), (Lines{"start hidden cmd /c \"C:\\Tonmira\\play16.exe\""}));
 }
 
 TEST_F(HelpersTest, StopDuringATickOf208MsIsNoticedAtItsEndThenEverythingIsSilenced) {

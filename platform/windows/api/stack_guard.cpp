@@ -1,6 +1,6 @@
-// What the compiler's stack protector needs of the program: a value that nobody outside can know, and
-// an end at once where a function finds it overwritten. The compiler's own library for this would
-// bring messages on a console that these programs do not have.
+// What the compiler's stack protector needs of the program: a value that nobody outside can know,
+// and an end at once where a function finds it overwritten. The compiler's own library for this
+// would bring messages on a console that these programs do not have.
 #include <cstdint>
 
 #include "platform/windows/api/windows_api.h"
@@ -34,8 +34,8 @@ std::uintptr_t __stack_chk_guard = 0;
 
 }  // extern "C"
 
-// Before any other code of the program. A function that is running then would miss the value that it
-// has kept, so this one keeps none.
+// Before any other code of the program. A function that is running then would miss the value that
+// it has kept, so this one keeps none.
 __attribute__((constructor(101), no_stack_protector)) static void ChooseStackGuard() {
   FILETIME now;
   LARGE_INTEGER counter;

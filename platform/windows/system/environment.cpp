@@ -52,7 +52,8 @@ std::string WindowsEnvironment::Arguments() {
 }
 
 std::string WindowsEnvironment::SystemFolder() {
-  return Narrow(Filled([](wchar_t* buffer, DWORD size) { return GetSystemDirectoryW(buffer, size); }));
+  return Narrow(
+      Filled([](wchar_t* buffer, DWORD size) { return GetSystemDirectoryW(buffer, size); }));
 }
 
 std::string WindowsEnvironment::ProgramFolder() {

@@ -11,8 +11,8 @@ namespace platform::windows {
 // A new identifier is 122 random bits from Windows 2000 on, and the one source of such that all
 // systems since have.
 std::wstring RandomNameBeside(const std::wstring& path) {
-  const auto create = FunctionOf<decltype(&CoCreateGuid)>(LoadSystemLibrary(L"ole32.dll"),
-                                                          "CoCreateGuid");
+  const auto create =
+      FunctionOf<decltype(&CoCreateGuid)>(LoadSystemLibrary(L"ole32.dll"), "CoCreateGuid");
   GUID id{};
   if (create == nullptr || FAILED(create(&id))) {
     throw base::RuntimeError(base::ErrorCode::kDeviceError);

@@ -8,15 +8,15 @@ namespace platform::windows {
 namespace {
 
 // As documented for the ambient property DISPID_AMBIENT_DLCONTROL.
-constexpr LONG kShowImages = 0x10;       // DLCTL_DLIMAGES
-constexpr LONG kNoScripts = 0x80;        // DLCTL_NO_SCRIPTS
-constexpr LONG kNoJava = 0x100;          // DLCTL_NO_JAVA
-constexpr LONG kRunNoControls = 0x200;   // DLCTL_NO_RUNACTIVEXCTLS
-constexpr LONG kLoadNoControls = 0x400;  // DLCTL_NO_DLACTIVEXCTLS
-constexpr LONG kNoFrames = 0x1000;            // DLCTL_NO_FRAMEDOWNLOAD
-constexpr LONG kNoBehaviors = 0x8000;         // DLCTL_NO_BEHAVIORS
-constexpr LONG kNoClientPull = 0x20000000;    // DLCTL_NO_CLIENTPULL: no moving on by itself
-constexpr LONG kSilent = 0x40000000;          // DLCTL_SILENT
+constexpr LONG kShowImages = 0x10;          // DLCTL_DLIMAGES
+constexpr LONG kNoScripts = 0x80;           // DLCTL_NO_SCRIPTS
+constexpr LONG kNoJava = 0x100;             // DLCTL_NO_JAVA
+constexpr LONG kRunNoControls = 0x200;      // DLCTL_NO_RUNACTIVEXCTLS
+constexpr LONG kLoadNoControls = 0x400;     // DLCTL_NO_DLACTIVEXCTLS
+constexpr LONG kNoFrames = 0x1000;          // DLCTL_NO_FRAMEDOWNLOAD
+constexpr LONG kNoBehaviors = 0x8000;       // DLCTL_NO_BEHAVIORS
+constexpr LONG kNoClientPull = 0x20000000;  // DLCTL_NO_CLIENTPULL: no moving on by itself
+constexpr LONG kSilent = 0x40000000;        // DLCTL_SILENT
 constexpr LONG kAllowed = kShowImages | kNoScripts | kNoJava | kRunNoControls | kLoadNoControls |
                           kNoFrames | kNoBehaviors | kNoClientPull | kSilent;
 
@@ -106,8 +106,11 @@ STDMETHODIMP BrowserSite::SetActiveObject(IOleInPlaceActiveObject* object, LPCOL
   return S_OK;
 }
 
-STDMETHODIMP BrowserSite::QueryService(REFGUID, REFIID id, void** object) {
-  return security_->QueryInterface(id, object);
+// The services that matter here are called by the interface that they are asked for.
+STDMETHODIMP BrowserSite::QueryService(REFGUID service, REFIID id, void** object) {
+  if (service == id) return security_->QueryInterface(id, object);
+  *object = nullptr;
+  return E_NOINTERFACE;
 }
 
 STDMETHODIMP BrowserSite::GetTypeInfoCount(UINT* count) {

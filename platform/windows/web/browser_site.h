@@ -14,10 +14,10 @@
 
 namespace platform::windows {
 
-// Fills the client area of `window`. Only what `may_show` allows is shown; `new_window` is told what it
-// refused and what the user asked for in a window of its own, which no page gets. Pages have no
-// frames, do not move on by themselves, run no scripts, ActiveX controls or Java, and download no
-// files; what more they may do says PageSecurity.
+// Fills the client area of `window`. Only what `may_show` allows is shown; `new_window` is told
+// what it refused and what the user asked for in a window of its own, which no page gets. Pages
+// have no frames, do not move on by themselves, run no scripts, ActiveX controls or Java, and
+// download no files; what more they may do says PageSecurity.
 class BrowserSite final : public IOleClientSite,
                           public IOleInPlaceSite,
                           public IOleInPlaceFrame,

@@ -21,7 +21,9 @@ class PageSecurity final : public IInternetSecurityManager,
 
   // IInternetSecurityManager
   STDMETHODIMP SetSecuritySite(IInternetSecurityMgrSite*) override { return INET_E_DEFAULT_ACTION; }
-  STDMETHODIMP GetSecuritySite(IInternetSecurityMgrSite**) override { return INET_E_DEFAULT_ACTION; }
+  STDMETHODIMP GetSecuritySite(IInternetSecurityMgrSite**) override {
+    return INET_E_DEFAULT_ACTION;
+  }
   STDMETHODIMP MapUrlToZone(LPCWSTR address, DWORD* zone, DWORD) override;
   STDMETHODIMP GetSecurityId(LPCWSTR, BYTE*, DWORD*, DWORD_PTR) override {
     return INET_E_DEFAULT_ACTION;
@@ -51,8 +53,8 @@ class PageSecurity final : public IInternetSecurityManager,
 };
 
 // Has the browser object do in this process what it does in the system's own browser since Windows
-// XP SP2: refuse what is of a zone with more rights, foreign protocols and guessed kinds of files. Older
-// systems know none of this.
+// XP SP2: refuse what is of a zone with more rights, foreign protocols and guessed kinds of files.
+// Older systems know none of this.
 void TurnOnBrowserGuards();
 
 }  // namespace platform::windows

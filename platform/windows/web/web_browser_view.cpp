@@ -158,9 +158,8 @@ void WebBrowserView::Changed(ui::Property property) {
     tried_ = true;
     if (auto object = CreateBrowser()) {
       ComOwner<BrowserSite> site(new BrowserSite(
-          handle_, [this](const std::wstring& address) {
-            return browser_.MayNavigate(Narrow(address));
-          },
+          handle_,
+          [this](const std::wstring& address) { return browser_.MayNavigate(Narrow(address)); },
           [this](const std::wstring& address) { browser_.AskForWindow(Narrow(address)); }));
       object_ = std::make_unique<Object>(std::move(object), std::move(site), handle_);
     }

@@ -1,4 +1,5 @@
-// A stranger's library or program: whoever loads or starts it leaves a file beside it, of its name and
+// A stranger's library or program: whoever loads or starts it leaves a file beside it, of its name
+// and
 // ".ran".
 #include <windows.h>
 

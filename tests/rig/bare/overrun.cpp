@@ -1,4 +1,5 @@
-// Writes as many characters over an array as it is told to, with the stack protector of the program.
+// Writes as many characters over an array as it is told to, with the stack protector of the
+// program.
 #include <windows.h>
 
 #include <cstdlib>
