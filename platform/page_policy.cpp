@@ -6,6 +6,7 @@ namespace platform {
 namespace {
 
 constexpr std::uint32_t kCredentials = 0x1A00;  // URLACTION_CREDENTIALS_USE
+constexpr std::uint32_t kByUser = 0x2;          // NWMF_USERINITED
 
 }  // namespace
 
@@ -15,6 +16,10 @@ std::uint32_t PolicyOf(std::uint32_t action) {
 
 bool IsOfWeb(std::wstring_view address) {
   return MayFollow(L"http://", address);
+}
+
+bool AskedByUser(std::uint32_t flags) {
+  return (flags & kByUser) != 0;
 }
 
 }  // namespace platform

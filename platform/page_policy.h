@@ -19,4 +19,8 @@ std::uint32_t PolicyOf(std::uint32_t action);
 // else, be it of this computer, of its network or of a file share, is of another one.
 bool IsOfWeb(std::wstring_view address);
 
+// Whether the user's own click asked for a new window, by the flags that the browser object gives
+// for it (NWMF of shobjidl.h).
+bool AskedByUser(std::uint32_t flags);
+
 }  // namespace platform

@@ -33,5 +33,14 @@ TEST(PagePolicy, OnlyTheWebIsOfTheWeb) {
   }
 }
 
+// 1 the page is going, 2 the user asked for it, 4 the first of its page, 8 a key was held.
+TEST(PagePolicy, AWindowIsTheUsersWhenTheUserAskedForIt) {
+  for (const std::uint32_t flags : {2u, 2u | 4u, 2u | 8u, 1u | 2u}) {
+    EXPECT_TRUE(AskedByUser(flags)) << flags;
+  }
+  for (const std::uint32_t flags : {0u, 1u, 4u, 8u, 4u | 8u})
+    EXPECT_FALSE(AskedByUser(flags)) << flags;
+}
+
 }  // namespace
 }  // namespace platform

@@ -14,6 +14,7 @@ BARE_WINDOW = PARTS / "bare_window.exe"
 BARE_PLAYER = PARTS / "bare_player.exe"
 LINK_TAKER = PARTS / "link_taker.exe"
 OVERRUN = PARTS / "overrun.exe"
+SITE_EVENTS = PARTS / "site_events.exe"
 MARKER_LIBRARY = PARTS / "marker.dll"
 MARKER_PROGRAM = PARTS / "marker.exe"
 

@@ -4,6 +4,8 @@
 #include <exdispid.h>
 #include <mshtmdid.h>
 
+#include "platform/page_policy.h"
+
 namespace platform::windows {
 namespace {
 
@@ -19,9 +21,6 @@ constexpr LONG kNoClientPull = 0x20000000;  // DLCTL_NO_CLIENTPULL: no moving on
 constexpr LONG kSilent = 0x40000000;        // DLCTL_SILENT
 constexpr LONG kAllowed = kShowImages | kNoScripts | kNoJava | kRunNoControls | kLoadNoControls |
                           kNoFrames | kNoBehaviors | kNoClientPull | kSilent;
-
-// What NewWindow3 says of a window that the user's own click asked for (NWMF_USERINITED).
-constexpr LONG kAskedByUser = 0x2;
 
 // The text of a parameter that may be given by reference, or null.
 const wchar_t* TextOf(const VARIANT& parameter) {
@@ -138,7 +137,7 @@ STDMETHODIMP BrowserSite::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* 
       Cancel(*parameters, 3);
       if (parameters->cArgs < 5) return S_OK;
       const wchar_t* const address = TextOf(parameters->rgvarg[0]);
-      const bool asked = (parameters->rgvarg[2].lVal & kAskedByUser) != 0;
+      const bool asked = AskedByUser(parameters->rgvarg[2].ulVal);
       if (address != nullptr && asked && new_window_) new_window_(address);
       return S_OK;
     }
