@@ -3,13 +3,14 @@
 // ".ran".
 #include <windows.h>
 
-#include <string>
+#include <cwchar>
 
 static void Leave(HMODULE module) {
-  wchar_t path[MAX_PATH] = L"";
+  constexpr wchar_t kEnding[] = L".ran";
+  wchar_t path[MAX_PATH + 5] = L"";
   GetModuleFileNameW(module, path, MAX_PATH);
-  CloseHandle(CreateFileW((std::wstring(path) + L".ran").c_str(), GENERIC_WRITE, 0, nullptr,
-                          CREATE_ALWAYS, 0, nullptr));
+  std::wcscat(path, kEnding);
+  CloseHandle(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
 }
 
 #ifdef MARKER_IS_LIBRARY
