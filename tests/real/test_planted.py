@@ -69,7 +69,7 @@ def trusting_driver(rig: Rig) -> Iterator[Driver]:
 
 
 def ran(folder: Path) -> list[str]:
-    return sorted(path.name for path in folder.glob("*.ran"))
+    return sorted(path.name.lower() for path in folder.glob("*.ran"))
 
 
 @pytest.fixture
