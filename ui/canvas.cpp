@@ -35,6 +35,17 @@ int Pixel(double coordinate, int size) {
 
 }  // namespace
 
+Canvas Canvas::ScaledTo(int width, int height) const {
+  Canvas scaled(width, height);
+  if (width_ == 0 || height_ == 0) return scaled;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      scaled.pixels_[scaled.Index(x, y)] = At(x * width_ / width, y * height_ / height);
+    }
+  }
+  return scaled;
+}
+
 void Canvas::Clear() {
   std::fill(pixels_.begin(), pixels_.end(), kBackground);
 }

@@ -33,6 +33,9 @@ class Canvas {
 
   void Clear();
 
+  // The same picture in another size, each pixel taken from the nearest one.
+  Canvas ScaledTo(int width, int height) const;
+
   // The pixel that holds the point, in kForeground.
   void DrawPoint(Point point);
 

@@ -1,7 +1,5 @@
 #include "ui/controls.h"
 
-#include <algorithm>
-
 #include "ui/window.h"
 
 namespace ui {
@@ -24,28 +22,6 @@ void OptionButton::Click() {
   });
 }
 
-void ScrollBar::SetValue(std::int32_t value) {
-  value = Clamp(value);
-  if (value_ == value) return;
-  value_ = value;
-  Tell(Property::kValue);
-}
-
-void ScrollBar::Reset() {
-  Control::Reset();
-  value_ = range_.initial;
-}
-
-void ScrollBar::ScrollTo(std::int32_t value) {
-  if (!Enabled() || !Visible() || Clamp(value) == value_) return;
-  SetValue(value);
-  Raise(OnChange);
-}
-
-std::int32_t ScrollBar::Clamp(std::int32_t value) const {
-  return std::clamp(value, range_.minimum, range_.maximum);
-}
-
 void PictureBox::Draw(const std::function<void(Canvas&)>& draw) {
   canvas_.Clear();
   draw(canvas_);
@@ -58,6 +34,11 @@ void PictureBox::Clear() {
 
 void PictureBox::SetResolution(int width, int height) {
   canvas_ = Canvas(width, height);
+}
+
+void PictureBox::ChangeResolution(int width, int height) {
+  if (width == canvas_.width() && height == canvas_.height()) return;
+  canvas_ = canvas_.ScaledTo(width, height);
 }
 
 void PictureBox::Reset() {
@@ -83,6 +64,17 @@ bool TextBox::KeyPress(char32_t key) {
 
 void TextBox::Edit(const std::string& text) {
   if (Enabled() && Visible()) StoreCaption(text);
+}
+
+bool TextBox::Enter() {
+  const bool selects = SelectsAtEntry();
+  entered_ = true;
+  return selects;
+}
+
+void TextBox::Reset() {
+  Control::Reset();
+  entered_ = false;
 }
 
 void CheckBox::SetValue(bool value) {

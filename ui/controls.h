@@ -7,6 +7,7 @@
 
 #include "ui/canvas.h"
 #include "ui/control.h"
+#include "ui/scroll_bar.h"
 
 namespace ui {
 
@@ -65,39 +66,6 @@ class OptionButton : public Control {
   bool value_ = false;
 };
 
-class ScrollBar : public Control {
- public:
-  struct Range {
-    std::int32_t minimum = 0;
-    std::int32_t maximum = 0;
-    std::int32_t small_step = 1;
-    std::int32_t large_step = 1;
-    std::int32_t initial = 0;
-  };
-
-  ScrollBar(Window& window, int id, std::string name, Rect bounds, Range range)
-      : Control(window, id, ControlKind::kScrollBar, std::move(name), bounds, ""),
-        range_(range),
-        value_(range.initial) {}
-
-  const Range& range() const { return range_; }
-  std::int32_t Value() const { return value_; }
-  void SetValue(std::int32_t value);
-  void Reset() override;
-
-  std::function<void()> OnChange;
-
-  // What a user's move of the thumb does. Values outside the range are drawn to its ends; a move
-  // that changes nothing is no event.
-  void ScrollTo(std::int32_t value);
-
- private:
-  std::int32_t Clamp(std::int32_t value) const;
-
-  Range range_;
-  std::int32_t value_;
-};
-
 class PictureBox : public Control {
  public:
   enum class Content { kCanvas, kProgramIcon };
@@ -118,6 +86,9 @@ class PictureBox : public Control {
   // The view says how many pixels of the screen the box has; its picture has as many. The picture
   // is empty afterwards.
   void SetResolution(int width, int height);
+
+  // The same while it is shown: the picture stays, coarsely scaled, until a new one is drawn.
+  void ChangeResolution(int width, int height);
 
   void Reset() override;
 
@@ -169,8 +140,21 @@ class TextBox : public Control {
   // The view knows of `text`, however it came there.
   void Take(const std::string& text) { StoreCaption(text); }
 
+  // For a field whose first text is only there to be replaced by what the user types: when the
+  // field is entered first, all of it is selected.
+  void SelectAtFirstEntry() { selects_at_first_entry_ = true; }
+
+  // Whether it would be now.
+  bool SelectsAtEntry() const { return selects_at_first_entry_ && !entered_; }
+
+  // The field gets the keyboard focus. Whether all of its text is to be selected.
+  bool Enter();
+  void Reset() override;
+
  private:
   Lines lines_;
+  bool selects_at_first_entry_ = false;
+  bool entered_ = false;
 };
 
 class CheckBox : public Control {

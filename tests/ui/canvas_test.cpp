@@ -34,6 +34,14 @@ TEST(Canvas, ANewOneIsTheSystemsBackgroundAllOver) {
   EXPECT_EQ(canvas.pixels(), (std::vector<std::uint32_t>(6, Canvas::kBackground)));
 }
 
+TEST(Canvas, InAnotherSizeItShowsTheSamePicture) {
+  Canvas canvas(4, 2);
+  canvas.DrawPoint({0.5, 0.5});
+  canvas.DrawPoint({3.5, 1.5});
+  EXPECT_EQ(Shown(canvas.ScaledTo(8, 4)), (Lines{"##......", "##......", "......##", "......##"}));
+  EXPECT_EQ(Shown(canvas.ScaledTo(2, 2)), (Lines{"#.", ".."}));
+}
+
 TEST(Canvas, APointFillsThePixelThatHoldsIt) {
   Canvas canvas(6, 4);
   canvas.DrawPoint({0, 0});
