@@ -29,6 +29,7 @@ frmAbout::frmAbout(platform::Platform& platform, base::ErrorReporter& errors,
       platform_(platform),
       errors_(errors),
       load_captions_(std::move(load_captions)) {
+  picIcon.DesignSpokenName("Tonmira");
   cmdOK.OnClick = [this] { Unload(); };
   cmdSysInfo.OnClick = [this] {
     base::TrapErrors(errors_, kErrorValue, [this] { StartSysInfo(); });

@@ -24,6 +24,14 @@ class Form1Controls : public ui::Window {
       : ui::Window(system, {"Form1", "Tonmira", 640, 486}), languages_(languages) {
     Option1.StartGroup();
     HScroll1.StartGroup();
+    HScroll1.DesignSpokenName("Custom pitch (Hz)");
+    HScroll1.DesignTip(
+        "Arrow keys: steps of 100 Hz; with Shift 10, with Ctrl 1. The wheel does the same. Or type "
+        "the number.");
+    Picture1.DesignSpokenName("Wave of the chosen tone");
+    picWave.DesignSpokenName("Wave of the microphone input");
+    Command4.DesignSpokenName("Raise the microphone sensitivity");
+    Command5.DesignSpokenName("Lower the microphone sensitivity");
   }
 
   ui::Frame Frame1{*this, 100, "Frame1", {12, 8, 176, 270}, "Choices"};

@@ -11,7 +11,9 @@ namespace app {
 class Form8 : public ui::Window {
  public:
   explicit Form8(ui::WindowSystem& system)
-      : ui::Window(system, {"Form8", "Starting Tonmira", 340, 112, false}) {}
+      : ui::Window(system, {"Form8", "Starting Tonmira", 340, 112, false}) {
+    Picture1.DesignSpokenName("Tonmira");
+  }
 
   ui::PictureBox Picture1{
       *this, 100, "Picture1", {16, 16, 64, 64}, ui::PictureBox::Content::kProgramIcon};

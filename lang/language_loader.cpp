@@ -1,6 +1,17 @@
 #include "lang/language_loader.h"
 
 namespace lang {
+namespace {
+
+struct Setter {
+  const std::string& text;
+
+  void operator()(auto* captioned) const { captioned->SetCaption(text); }
+  void operator()(SpokenName name) const { name.control->SetSpokenName(text); }
+  void operator()(Tip tip) const { tip.control->SetTip(text); }
+};
+
+}  // namespace
 
 void LanguageLoader::LanguageAPI(const std::string& language, std::int16_t formval) {
   base::TrapErrors(errors_, base::ErrorValue::kLanguageAPI, [&] {
@@ -11,7 +22,7 @@ void LanguageLoader::LanguageAPI(const std::string& language, std::int16_t formv
     for (const CaptionSlot& caption : captions_.of_window(formval)) {
       const std::string& text = file->Text(caption.slot);
       if (text.empty() && MayBeMissing(caption.slot)) continue;
-      std::visit([&text](auto* target) { target->SetCaption(text); }, caption.target);
+      std::visit(Setter{text}, caption.target);
     }
     captions_.take_texts(*file, formval);
   });

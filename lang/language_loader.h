@@ -16,10 +16,18 @@
 
 namespace lang {
 
-// Which caption takes the text of a slot.
+// The texts of a control beside its caption.
+struct SpokenName {
+  ui::Control* control;
+};
+struct Tip {
+  ui::Control* control;
+};
+
+// Which caption, spoken name or tool tip takes the text of a slot.
 struct CaptionSlot {
   Slot slot;
-  std::variant<ui::Control*, ui::MenuItem*, ui::Window*> target;
+  std::variant<ui::Control*, ui::MenuItem*, ui::Window*, SpokenName, Tip> target;
 };
 
 // Window numbers.

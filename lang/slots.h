@@ -93,6 +93,14 @@ enum class Slot : std::size_t {
   kOpenFile = 80,
   kWebPage = 81,
   kHelpMenu = 82,
+
+  // What screen readers call controls that have no caption to be read, and a tool tip.
+  kSpokenSlider = 83,
+  kSliderTip = 84,
+  kSpokenWave = 85,
+  kSpokenMicrophone = 86,
+  kSpokenLouder = 87,
+  kSpokenSofter = 88,
 };
 
 inline constexpr bool MayBeMissing(Slot slot) {

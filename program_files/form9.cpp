@@ -16,6 +16,7 @@ Form9::Form9(platform::Platform& platform, settings::MainState& state, tone::Pla
       around_(std::move(around)),
       support_(platform, state, play_scene),
       helpers_(platform) {
+  ProgressBar1.DesignSpokenName("Tones played");
   Command1.OnClick = [this] { Command1_Click(); };
   Command2.OnClick = [this] { Command2_Click(); };
   Command3.OnClick = [this] { Command3_Click(); };

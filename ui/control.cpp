@@ -24,6 +24,18 @@ void Control::SetCaption(const std::string& caption) {
   Tell(Property::kCaption);
 }
 
+void Control::SetSpokenName(const std::string& name) {
+  if (spoken_name_.text == name) return;
+  spoken_name_.text = name;
+  Tell(Property::kSpokenName);
+}
+
+void Control::SetTip(const std::string& tip) {
+  if (tip_.text == tip) return;
+  tip_.text = tip;
+  Tell(Property::kTip);
+}
+
 void Control::SetEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
@@ -38,6 +50,8 @@ void Control::SetVisible(bool visible) {
 
 void Control::Reset() {
   caption_ = design_caption_;
+  spoken_name_.text = spoken_name_.design;
+  tip_.text = tip_.design;
   enabled_ = true;
   visible_ = true;
 }

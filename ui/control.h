@@ -62,6 +62,17 @@ class Control {
   const std::string& Caption() const { return caption_; }
   void SetCaption(const std::string& caption);
 
+  // What a screen reader calls it in place of its caption (spoken_name.h), and what the tool tip
+  // over it says. Empty: nothing of its own, no tool tip.
+  const std::string& SpokenName() const { return spoken_name_.text; }
+  void SetSpokenName(const std::string& name);
+  const std::string& Tip() const { return tip_.text; }
+  void SetTip(const std::string& tip);
+
+  // The ones that it has in the language of the design.
+  void DesignSpokenName(const std::string& name) { spoken_name_ = {name, name}; }
+  void DesignTip(const std::string& tip) { tip_ = {tip, tip}; }
+
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
 
@@ -81,6 +92,11 @@ class Control {
   void Raise(const std::function<void()>& handler);
 
  private:
+  struct Text {
+    std::string design;
+    std::string text;
+  };
+
   Window& window_;
   int id_;
   ControlKind kind_;
@@ -88,6 +104,8 @@ class Control {
   Rect bounds_;
   std::string design_caption_;
   std::string caption_;
+  Text spoken_name_;
+  Text tip_;
   bool starts_group_ = false;
   bool enabled_ = true;
   bool visible_ = true;

@@ -19,7 +19,9 @@ enum class Property {
   kPicture,
   kChecked,
   kSilent,
-  kAddress
+  kAddress,
+  kSpokenName,
+  kTip
 };
 
 // The native counterpart of a loaded window. It reads the portable objects; they tell it what

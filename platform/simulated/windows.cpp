@@ -43,6 +43,10 @@ std::string Describe(const ui::Control& control, ui::Property property) {
       return " picture";
     case ui::Property::kChecked:
       return " checked";
+    case ui::Property::kSpokenName:
+      return " spoken name: " + control.SpokenName();
+    case ui::Property::kTip:
+      return " tip: " + control.Tip();
     case ui::Property::kSilent:
       return " silent: " + YesNo(dynamic_cast<const ui::WebBrowser&>(control).Silent());
     case ui::Property::kAddress:

@@ -21,17 +21,23 @@ std::string Shipped(const std::string& name) {
 
 class ShippedTexts : public ProgramTest {};
 
+struct TextOf {
+  std::string operator()(auto* captioned) const { return captioned->Caption(); }
+  std::string operator()(lang::SpokenName name) const { return name.control->SpokenName(); }
+  std::string operator()(lang::Tip tip) const { return tip.control->Tip(); }
+};
+
 TEST_F(ShippedTexts, TheShippedEnglishSaysWhatTheProgramIsDesignedWith) {
   Run();
   std::vector<std::string> designed;
   for (const auto& caption : main().Captions()) {
-    designed.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
+    designed.push_back(std::visit(TextOf{}, caption.target));
   }
   sim.files.Put(kEnglishFile, Shipped(kEnglishFile));
   main().LoadCaptions("en", 1);
   std::vector<std::string> loaded;
   for (const auto& caption : main().Captions()) {
-    loaded.push_back(std::visit([](auto* target) { return target->Caption(); }, caption.target));
+    loaded.push_back(std::visit(TextOf{}, caption.target));
   }
   EXPECT_EQ(loaded, designed);
   EXPECT_EQ(main().Frame4.Caption(), "Microphone input, sensitivity: 1");
