@@ -35,6 +35,7 @@ Form4::Form4(platform::Platform& platform, settings::MainState& state, tone::Pla
       return key < 128 && base::IsNumber(WithPoint(text));
     };
   }
+  Text1.SelectAtFirstEntry();
   SetDefaultButton(&Command1);
   SetCancelButton(&Command2);
 }

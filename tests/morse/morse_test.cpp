@@ -16,6 +16,17 @@ TEST_F(MorseTest, AMessageIsATimelineOfTonesAndPauses) {
                    "sleep 20", "beep 700 100", "beep 700 200", "sleep 75"}));  // a
 }
 
+TEST_F(MorseTest, TypingReplacesTheTextThatAFreshToolHolds) {
+  sim.At(1s, [this] {
+    tool().Show();
+    EXPECT_TRUE(tool().Text1.Enter());
+    EXPECT_FALSE(tool().Text1.Enter());
+    EXPECT_FALSE(tool().Text2.Enter());
+    EXPECT_FALSE(tool().Text3.Enter());
+  });
+  Run();
+}
+
 TEST_F(MorseTest, SpeedLengthensEverySymbolAndPause) {
   Play("et ", "5", "1000");
   StopAt(2500ms);

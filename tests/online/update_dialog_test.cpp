@@ -52,6 +52,13 @@ TEST_F(UpdateTest, ClosingTheDialogByItsFrameDeclines) {
   EXPECT_TRUE(Started().empty());
 }
 
+TEST_F(UpdateTest, EnterOpensNoLinkAndEscapeDeclines) {
+  Run();
+  Dialog().Load();
+  EXPECT_EQ(Dialog().DefaultButton(), nullptr);
+  EXPECT_EQ(Dialog().CancelButton(), &Dialog().Command2);
+}
+
 TEST_F(UpdateTest, TheDialogIsDesignedInEnglish) {
   Run();
   Dialog().Load();
