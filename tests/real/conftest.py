@@ -18,7 +18,7 @@ from rig.microphone import Microphone  # noqa: E402
 from rig.paths import FAILURES, LINK_TAKER, PROGRAM  # noqa: E402
 from rig.processes import command_of  # noqa: E402
 from rig.program import GOOD_SETTINGS, Folders, Tonmira  # noqa: E402
-from rig.resolution import set_dpi  # noqa: E402
+from rig.resolution import set_dpi, use_wide_fonts  # noqa: E402
 from rig.rig import Rig, what_is_left_of  # noqa: E402
 from rig.retakes import (  # noqa: E402, F401
     pytest_runtest_call, pytest_runtest_protocol, pytest_runtest_setup, pytest_terminal_summary)
@@ -142,7 +142,9 @@ def browser(rig: Rig) -> Iterator[str]:
 @pytest.fixture(params=[96, 144])
 def driver_at_dpi(request: pytest.FixtureRequest, rig: Rig) -> Iterator[tuple[Driver, int]]:
     set_dpi(rig, request.param)
+    use_wide_fonts(rig, True)
     yield Driver(rig), request.param
+    use_wide_fonts(rig, False)
     set_dpi(rig, 96)
 
 

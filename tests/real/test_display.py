@@ -18,11 +18,12 @@ from rig.window import Driver, Place, User, Window
 
 MICROPHONE_MENU = 1015
 FIXED_MODES = MODES[:5]
+PICTURES = {"Picture1": 124, "picWave": 126}  # their ids
 
 
 def inside(window: Window, picture: str) -> Place:
     """Where a picture stands on the screen, without its border."""
-    place = window.control("TonmiraPicture", picture).place
+    place = window.numbered(PICTURES[picture]).place
     return Place(place.x + 1, place.y + 1, place.width - 2, place.height - 2)
 
 

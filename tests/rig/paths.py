@@ -17,6 +17,7 @@ OVERRUN = PARTS / "overrun.exe"
 SITE_EVENTS = PARTS / "site_events.exe"
 MARKER_LIBRARY = PARTS / "marker.dll"
 MARKER_PROGRAM = PARTS / "marker.exe"
+NAME_SERVICE = PARTS / "name_service.dll"
 
 # Prepared once, kept between runs.
 CACHE = PROJECT / "build" / "rig"

@@ -116,6 +116,10 @@ class Window:
             raise LookupError(f"{len(found)} controls {kind} {text!r} in {self.title!r}")
         return found[0]
 
+    def numbered(self, number: int) -> Control:
+        """The control with this id."""
+        return next(c for c in self.controls() if c.id == number)
+
     def button(self, text: str) -> Control:
         return self.control("Button", text)
 
@@ -154,6 +158,18 @@ class Window:
 
     def close(self) -> None:
         self.driver.ask("close", self.handle)
+
+    def client(self) -> Place:
+        """What it has for its controls, on the screen."""
+        return Place(*map(int, self.driver.ask("client", self.handle)[0]))
+
+    def names(self) -> dict[int, str]:
+        """What a screen reader calls the controls, by their ids."""
+        return {int(line[1]): line[2] for line in self.driver.ask("names", self.handle)}
+
+    def styles(self) -> dict[int, int]:
+        """The controls' window styles, by their ids."""
+        return {int(line[0]): int(line[1]) for line in self.driver.ask("styles", self.handle)}
 
     def place(self) -> Place:
         return next(w.place for w in self.driver.windows() if w.handle == self.handle)

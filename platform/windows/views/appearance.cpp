@@ -1,42 +1,58 @@
 #include "platform/windows/views/appearance.h"
 
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+
+#include "platform/windows/api/system_library.h"
+
 namespace platform::windows {
 namespace {
 
-constexpr int kDesignDpi = 96;
-
-int SystemDpi() {
-  const DeviceContext screen(nullptr);
-  return GetDeviceCaps(screen.get(), LOGPIXELSX);
+// The message font for a resolution. Windows 10 and later know it; before, one resolution counted
+// for the fonts of all monitors.
+LOGFONTW MessageFontAt(int dpi) {
+  using Ask = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
+  static const auto ask =
+      FunctionOf<Ask>(GetModuleHandleW(L"user32.dll"), "SystemParametersInfoForDpi");
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  if (ask != nullptr &&
+      ask(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0, static_cast<UINT>(dpi))) {
+    return metrics.lfMessageFont;
+  }
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, SystemDpi());
+  return metrics.lfMessageFont;
 }
 
 }  // namespace
 
-Appearance::Appearance(HINSTANCE instance) : instance_(instance), dpi_(SystemDpi()) {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof(metrics);
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
-  message_font_design_ = metrics.lfMessageFont;
-  message_font_.reset(CreateFontIndirectW(&message_font_design_));
+bool Appearance::Use(const Monitor& monitor, ui::Extent design, ui::Extent frame) {
+  LOGFONTW font = MessageFontAt(monitor.dpi);
+  const int wanted = ui::LayoutDpi(monitor.dpi, std::abs(font.lfHeight));
+  const int dpi = ui::FittingDpi(wanted, design, frame, {monitor.work.width, monitor.work.height});
+  // Text shrinks with the controls that hold it.
+  font.lfHeight = MulDiv(font.lfHeight, dpi, wanted);
+  if (dpi == dpi_ && std::memcmp(&font, &message_font_design_, sizeof(font)) == 0) return false;
+  dpi_ = dpi;
+  message_font_design_ = font;
+  MakeFonts();
+  return true;
 }
 
-int Appearance::Scale(int pixels) const {
-  return MulDiv(pixels, dpi_, kDesignDpi);
+void Appearance::MakeFonts() {
+  LOGFONTW heading = message_font_design_;
+  heading.lfWeight = FW_BOLD;
+  heading.lfHeight = MulDiv(heading.lfHeight, 5, 4);
+  message_font_before_ =
+      std::exchange(message_font_, Font(CreateFontIndirectW(&message_font_design_)));
+  heading_font_before_ = std::exchange(heading_font_, Font(CreateFontIndirectW(&heading)));
 }
 
 RECT Appearance::Scale(const ui::Rect& bounds) const {
   return {Scale(bounds.x), Scale(bounds.y), Scale(bounds.x + bounds.width),
           Scale(bounds.y + bounds.height)};
-}
-
-HFONT Appearance::heading_font() const {
-  if (!heading_font_) {
-    LOGFONTW design = message_font_design_;
-    design.lfWeight = FW_BOLD;
-    design.lfHeight = MulDiv(design.lfHeight, 5, 4);
-    heading_font_.reset(CreateFontIndirectW(&design));
-  }
-  return heading_font_.get();
 }
 
 }  // namespace platform::windows

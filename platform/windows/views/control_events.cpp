@@ -35,7 +35,20 @@ void ControlEvents::OnCommand(HWND window, UINT id, UINT code) {
 void ControlEvents::OnScroll(HWND window, HWND scroll_bar, WORD code, WORD position) {
   const auto index = controls_.IndexOf(scroll_bar);
   if (!index || !IsKind(*index, ControlKind::kScrollBar)) return;
-  PostMessageW(window, kScrollEvent, MAKEWPARAM(*index, code), ThumbPosition(scroll_bar, position));
+  const LPARAM place = IsStep(code) ? HeldNow() : ThumbPosition(scroll_bar, position);
+  PostMessageW(window, kScrollEvent, MAKEWPARAM(*index, code), place);
+}
+
+bool ControlEvents::OnWheel(HWND window, short amount, POINT place) const {
+  for (std::size_t i = 0; i < controls_.Count(); ++i) {
+    if (!IsKind(i, ControlKind::kScrollBar) || !controls_.CanHaveFocus(i)) continue;
+    RECT area{};
+    GetWindowRect(controls_.handle(i), &area);
+    if (!PtInRect(&area, place) && GetFocus() != controls_.handle(i)) continue;
+    PostMessageW(window, kWheelEvent, i, MAKELPARAM(amount, HeldNow()));
+    return true;
+  }
+  return false;
 }
 
 bool ControlEvents::AcceptsKey(const MSG& message) const {
@@ -43,6 +56,13 @@ bool ControlEvents::AcceptsKey(const MSG& message) const {
   if (!index || !IsKind(*index, ControlKind::kTextBox)) return true;
   auto& text_box = static_cast<ui::TextBox&>(controls_.control(*index));
   return text_box.KeyPress(static_cast<char32_t>(message.wParam));
+}
+
+bool ControlEvents::TakesKey(const MSG& message) const {
+  const auto index = controls_.IndexOf(message.hwnd);
+  if (!index || !IsKind(*index, ControlKind::kScrollBar)) return false;
+  auto& scroll_bar = static_cast<ui::ScrollBar&>(controls_.control(*index));
+  return scroll_bar.KeyPress(static_cast<char32_t>(message.wParam), message.time);
 }
 
 void ControlEvents::PostClick(HWND window, std::size_t index) {
@@ -80,6 +100,12 @@ void ControlEvents::RunChoice(std::size_t index) const {
 void ControlEvents::RunScroll(std::size_t index, WORD code, std::int32_t position) const {
   if (!IsKind(index, ControlKind::kScrollBar)) return;
   Scroll(static_cast<ui::ScrollBar&>(controls_.control(index)), code, position);
+}
+
+void ControlEvents::RunWheel(std::size_t index, short amount, WORD held) const {
+  if (!IsKind(index, ControlKind::kScrollBar)) return;
+  static_cast<ui::ScrollBar&>(controls_.control(index))
+      .TurnWheel(amount, static_cast<ui::ScrollBar::HeldKey>(held));
 }
 
 bool ControlEvents::IsKind(std::size_t index, ControlKind kind) const {

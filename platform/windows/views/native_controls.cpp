@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include "platform/windows/api/wide_text.h"
-#include "platform/windows/views/combo_box_view.h"
+#include "platform/windows/views/control_layout.h"
 #include "platform/windows/views/control_shape.h"
+#include "platform/windows/views/control_theme.h"
 #include "platform/windows/views/control_values.h"
 #include "platform/windows/views/picture_view.h"
 #include "platform/windows/views/tab_groups.h"
+#include "ui/spoken_name.h"
 
 namespace platform::windows {
 namespace {
@@ -25,31 +27,32 @@ std::string WithoutPrefixes(const std::string& caption) {
 
 }  // namespace
 
-NativeControls::NativeControls(const ui::Window& window, const Appearance& appearance)
-    : window_(window), appearance_(appearance), marked_captions_(window.Controls().size()) {}
+NativeControls::NativeControls(const ui::Window& window, const Appearance& appearance,
+                               AccessibleTexts& texts)
+    : window_(window),
+      appearance_(appearance),
+      texts_(texts),
+      marked_captions_(window.Controls().size()) {}
 
 NativeControls::~NativeControls() {
   // The native windows may stay for a moment, but no longer know the controls.
-  for (const HWND handle : handles_) DetachPicture(handle);
+  for (const HWND handle : handles_) {
+    DetachPicture(handle);
+    texts_.Forget(handle);
+  }
 }
 
 void NativeControls::Create(HWND parent) {
-  const auto& controls = window_.Controls();
-  for (std::size_t i = 0; i < controls.size(); ++i) {
+  for (std::size_t i = 0; i < window_.Controls().size(); ++i) {
     handles_.push_back(CreateOne(parent, i));
-    if (IsOption(*controls[i])) {
-      option_views_.push_back(std::make_unique<OptionButtonView>(handles_[i]));
-    } else if (controls[i]->kind() == ControlKind::kWebBrowser) {
-      browser_views_.push_back(std::make_unique<WebBrowserView>(
-          handles_[i], static_cast<ui::WebBrowser&>(*controls[i])));
-    }
-    if (IsPath(*controls[i])) {
-      path_tips_.push_back(std::make_unique<PathTip>(parent, handles_[i], appearance_));
-    }
-    ShowValue(handles_[i], *controls[i]);
-    ShowItems(handles_[i], *controls[i], appearance_);
+    AddView(parent, i);
+    ShowName(i);
+    ShowTip(i);
+    ShowValueOf(i);
+    ShowItems(handles_[i], control(i), appearance_);
   }
   UpdateTabStops(window_.Controls(), handles_);
+  ShowColors(parent);
 }
 
 HWND NativeControls::CreateOne(HWND parent, std::size_t index) {
@@ -59,29 +62,37 @@ HWND NativeControls::CreateOne(HWND parent, std::size_t index) {
   if (StartsGroup(window_.Controls(), index)) style |= WS_GROUP;
   if (!made.Enabled()) style |= WS_DISABLED;
   if (made.Visible()) style |= WS_VISIBLE;
-  RECT area = appearance_.Scale(made.Bounds());
   if (made.kind() == ControlKind::kPictureBox) {
-    // The picture fills the bounds; its border lies around them.
-    const int border = PictureBorder(static_cast<const ui::PictureBox&>(made));
-    static_cast<ui::PictureBox&>(made).SetResolution(area.right - area.left,
-                                                     area.bottom - area.top);
-    InflateRect(&area, border, border);
+    const RECT bounds = appearance_.Scale(made.Bounds());
+    static_cast<ui::PictureBox&>(made).SetResolution(bounds.right - bounds.left,
+                                                     bounds.bottom - bounds.top);
   }
-  if (made.kind() == ControlKind::kComboBox) area.bottom += appearance_.Scale(kDropDownRoom);
+  const RECT area = AreaOf(made, appearance_);
   const HWND handle = CreateWindowExW(
       shape.extended_style, shape.window_class, Text(index).c_str(), style, area.left, area.top,
-      std::max<LONG>(area.right - area.left, 1), std::max<LONG>(area.bottom - area.top, 1), parent,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(made.Id())), appearance_.instance(),
-      &control(index));
+      area.right - area.left, area.bottom - area.top, parent,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(made.Id())), appearance_.instance(), &made);
   if (handle == nullptr) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
-  if (shape.has_text) {
-    const bool heading = made.kind() == ControlKind::kLabel &&
-                         static_cast<const ui::Label&>(made).style() == ui::Label::Style::kHeading;
-    const HFONT font = heading ? appearance_.heading_font() : appearance_.message_font();
-    SendMessageW(handle, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-  }
-  if (made.kind() == ControlKind::kStatusBar) SendMessageW(handle, WM_SIZE, 0, 0);
+  Dress(handle, made, appearance_);
   return handle;
+}
+
+void NativeControls::AddView(HWND parent, std::size_t index) {
+  ui::Control& made = control(index);
+  const HWND handle = handles_[index];
+  if (IsOption(made)) {
+    option_views_.push_back(std::make_unique<OptionButtonView>(handle));
+  } else if (made.kind() == ControlKind::kWebBrowser) {
+    browser_views_.push_back(
+        std::make_unique<WebBrowserView>(handle, static_cast<ui::WebBrowser&>(made)));
+  } else if (made.kind() == ControlKind::kTextBox &&
+             static_cast<ui::TextBox&>(made).SelectsAtEntry()) {
+    entry_views_.push_back(
+        std::make_unique<TextEntryView>(handle, static_cast<ui::TextBox&>(made)));
+  }
+  if (IsPath(made) || !made.Tip().empty()) {
+    tips_[index] = std::make_unique<ToolTip>(parent, handle, appearance_);
+  }
 }
 
 std::optional<std::size_t> NativeControls::IndexOf(HWND handle) const {
@@ -154,7 +165,7 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
       UpdateTabStops(window_.Controls(), handles_);
       break;
     case ui::Property::kValue:
-      ShowValue(handles_[*index], control);
+      ShowValueOf(*index);
       UpdateTabStops(window_.Controls(), handles_);
       break;
     case ui::Property::kItems:
@@ -166,6 +177,12 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
     case ui::Property::kSilent:
     case ui::Property::kAddress:
       if (WebBrowserView* const view = BrowserAt(*index)) view->Changed(property);
+      break;
+    case ui::Property::kSpokenName:
+      ShowName(*index);
+      break;
+    case ui::Property::kTip:
+      ShowTip(*index);
       break;
     case ui::Property::kChecked:
       break;
@@ -203,29 +220,62 @@ std::wstring NativeControls::Text(std::size_t index) const {
     case ControlKind::kFrame:
       return Widen(WithoutPrefixes(shown.Caption()));
     case ControlKind::kScrollBar:
-      return Widen(LabelBefore(index));
     case ControlKind::kPictureBox:
-      return Widen(shown.Name());
+    case ControlKind::kProgressBar:
+    case ControlKind::kWebBrowser:
+      // It shows no text; what it has is for screen readers.
+      return Widen(ui::SpokenNameOf(shown));
     default:
       return Widen(shown.Caption());
   }
 }
 
-// A scroll bar has no caption of its own; screen readers say this text instead.
-std::string NativeControls::LabelBefore(std::size_t index) const {
-  while (index-- > 0) {
-    if (control(index).kind() == ControlKind::kLabel) return control(index).Caption();
-  }
-  return "";
-}
-
 void NativeControls::ShowCaption(std::size_t index) {
   SetWindowTextW(handles_[index], Text(index).c_str());
-  if (control(index).kind() != ControlKind::kLabel) return;
-  for (const auto& tip : path_tips_) tip->Refresh();
-  for (std::size_t i = index + 1; i < handles_.size(); ++i) {
-    if (control(i).kind() == ControlKind::kLabel) break;
-    if (control(i).kind() == ControlKind::kScrollBar) ShowCaption(i);
+  ShowTip(index);
+}
+
+void NativeControls::ShowName(std::size_t index) {
+  const ui::Control& named = control(index);
+  if (named.SpokenName().empty()) return;
+  if (!ui::ShowsCaption(named)) SetWindowTextW(handles_[index], Text(index).c_str());
+  texts_.SetName(handles_[index], Widen(named.SpokenName()));
+}
+
+void NativeControls::ShowTip(std::size_t index) {
+  const auto found = tips_.find(index);
+  if (found == tips_.end()) return;
+  const ui::Control& tipped = control(index);
+  found->second->SetText(Widen(IsPath(tipped) ? tipped.Caption() : tipped.Tip()));
+}
+
+void NativeControls::ShowValueOf(std::size_t index) {
+  const ui::Control& shown = control(index);
+  ShowValue(handles_[index], shown);
+  if (shown.kind() != ControlKind::kScrollBar) return;
+  // The system would tell how far along the range it is, in per cent.
+  texts_.SetValue(handles_[index],
+                  std::to_wstring(static_cast<const ui::ScrollBar&>(shown).Value()));
+}
+
+void NativeControls::Rearrange() {
+  for (std::size_t i = 0; i < handles_.size(); ++i) {
+    platform::windows::Rearrange(handles_[i], control(i), appearance_);
+  }
+  for (const auto& [index, tip] : tips_) tip->Rescale();
+}
+
+void NativeControls::ShowColors(HWND parent) {
+  const bool plain = NeedsPlainControls(parent);
+  if (plain != plain_) {
+    for (const HWND handle : handles_) DrawPlain(handle, plain);
+  }
+  plain_ = plain;
+}
+
+void NativeControls::WindowCaptionChanged() {
+  for (std::size_t i = 0; i < handles_.size(); ++i) {
+    if (control(i).kind() == ControlKind::kWebBrowser) ShowCaption(i);
   }
 }
 

@@ -1,14 +1,17 @@
 // The child windows of one native window: real controls of the system, one for each ui::Control.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/windows/views/accessible_texts.h"
 #include "platform/windows/views/appearance.h"
 #include "platform/windows/views/option_button_view.h"
-#include "platform/windows/views/path_tip.h"
+#include "platform/windows/views/text_entry_view.h"
+#include "platform/windows/views/tool_tip.h"
 #include "platform/windows/web/web_browser_view.h"
 #include "ui/window.h"
 
@@ -16,7 +19,7 @@ namespace platform::windows {
 
 class NativeControls {
  public:
-  NativeControls(const ui::Window& window, const Appearance& appearance);
+  NativeControls(const ui::Window& window, const Appearance& appearance, AccessibleTexts& texts);
   ~NativeControls();
   NativeControls(const NativeControls&) = delete;
   NativeControls& operator=(const NativeControls&) = delete;
@@ -52,6 +55,13 @@ class NativeControls {
   // ui::WindowView::ReadFields for all of them.
   void ReadFields() const;
 
+  // The appearance, the system's colours or the visual style changed.
+  void Rearrange();
+  void ShowColors(HWND parent);
+
+  // The window's own caption changed, which names its web browser.
+  void WindowCaptionChanged();
+
   // The parent has a new size.
   void Fit(int width, int height);
 
@@ -62,15 +72,21 @@ class NativeControls {
   WebBrowserView* BrowserAt(std::size_t index) const;
   HWND CreateOne(HWND parent, std::size_t index);
   std::wstring Text(std::size_t index) const;
-  std::string LabelBefore(std::size_t index) const;
+  void AddView(HWND parent, std::size_t index);
   void ShowCaption(std::size_t index);
+  void ShowName(std::size_t index);
+  void ShowTip(std::size_t index);
+  void ShowValueOf(std::size_t index);
   void ShowVisible(std::size_t index);
 
   const ui::Window& window_;
   const Appearance& appearance_;
+  AccessibleTexts& texts_;
+  bool plain_ = false;
   std::vector<HWND> handles_;
   std::vector<std::unique_ptr<OptionButtonView>> option_views_;
-  std::vector<std::unique_ptr<PathTip>> path_tips_;
+  std::vector<std::unique_ptr<TextEntryView>> entry_views_;
+  std::map<std::size_t, std::unique_ptr<ToolTip>> tips_;  // by index
   std::vector<std::unique_ptr<WebBrowserView>> browser_views_;
   std::vector<std::string> marked_captions_;  // by index; empty for controls without access keys
 };

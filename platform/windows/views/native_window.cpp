@@ -3,24 +3,14 @@
 #include <algorithm>
 
 #include "platform/windows/api/wide_text.h"
+#include "platform/windows/views/frame_place.h"
 #include "ui/access_keys.h"
 
 namespace platform::windows {
 namespace {
 
-constexpr wchar_t kWindowClass[] = L"TonmiraWindow";
-
-struct FrameStyle {
-  DWORD style;
-  DWORD extended_style;
-};
-
-// A window that is only to be looked at has nothing to move it, close it or switch to it.
-FrameStyle FrameStyleOf(const ui::Window::Design& design) {
-  if (!design.takes_focus) return {WS_POPUP | WS_DLGFRAME, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE};
-  const DWORD sizing = design.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0;
-  return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | sizing, 0};
-}
+// Of Windows 8.1 and later.
+constexpr UINT kDpiChanged = 0x02E0;
 
 // What the user did beside ControlEvents, posted to the window itself.
 enum WindowEvent : UINT {
@@ -62,10 +52,15 @@ void RegisterWindowClass(HINSTANCE instance) {
   RegisterClassExW(&window_class);
 }
 
-NativeWindow::NativeWindow(ui::Window& window, const Appearance& appearance, OpenWindows& open)
-    : window_(window), open_(open), menu_(window), controls_(window, appearance) {
+NativeWindow::NativeWindow(ui::Window& window, HINSTANCE instance, AccessibleTexts& texts,
+                           OpenWindows& open)
+    : window_(window),
+      open_(open),
+      appearance_(instance),
+      menu_(window),
+      controls_(window, appearance_, texts) {
   ShowAccessKeys();
-  CreateFrame(appearance);
+  handle_ = CreateFrame(window_, menu_.handle(), appearance_);
   controls_.Create(handle_);
   // Access keys and the focus are shown from the start only to users of the keyboard.
   SendMessageW(handle_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
@@ -79,26 +74,6 @@ NativeWindow::~NativeWindow() {
   open_.Leave(handle_);
 }
 
-void NativeWindow::CreateFrame(const Appearance& appearance) {
-  const ui::Window::Design& design = window_.design();
-  const RECT client = appearance.Scale({0, 0, design.width, design.height});
-  RECT outer = client;
-  const FrameStyle frame = FrameStyleOf(design);
-  AdjustWindowRectEx(&outer, frame.style, menu_.handle() != nullptr, frame.extended_style);
-  RECT work{};
-  SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-  const int width = outer.right - outer.left;
-  const int height = outer.bottom - outer.top;
-  const int left = std::max<int>(work.left, (work.left + work.right - width) / 2);
-  // What is only to be looked at stands above the middle, where dialogs that come meanwhile open.
-  const int middle = (work.top + work.bottom - height) / 2;
-  const int top = std::max<int>(work.top, TakesFocus() ? middle : middle / 3);
-  handle_ = CreateWindowExW(frame.extended_style, kWindowClass, Widen(window_.Caption()).c_str(),
-                            frame.style, left, top, width, height, nullptr, menu_.handle(),
-                            appearance.instance(), nullptr);
-  if (handle_ == nullptr) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
-}
-
 void NativeWindow::ShowWindow(bool visible) {
   const int show = TakesFocus() ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE;
   const bool again = visible && IsWindowVisible(handle_);
@@ -109,6 +84,7 @@ void NativeWindow::ShowWindow(bool visible) {
 
 void NativeWindow::CaptionChanged() {
   SetWindowTextW(handle_, Widen(window_.Caption()).c_str());
+  controls_.WindowCaptionChanged();
 }
 
 void NativeWindow::Changed(const ui::Control& control, ui::Property property) {
@@ -142,6 +118,7 @@ bool NativeWindow::TranslateKey(const OpenWindows& open, MSG& message) {
   const HWND root = GetAncestor(message.hwnd, GA_ROOT);
   if (open.Find(root) == nullptr) return false;
   if (message.message == WM_CHAR && !open.Find(root)->events_.AcceptsKey(message)) return true;
+  if (message.message == WM_CHAR && open.Find(root)->events_.TakesKey(message)) return true;
   if (open.Find(root)->controls_.TranslateKey(message)) return true;
   const HWND focus = GetFocus();
   const bool moves_choice = MovesChoice(message);
@@ -173,6 +150,9 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
     case kScrollEvent:
       events_.RunScroll(LOWORD(wparam), HIWORD(wparam), static_cast<std::int32_t>(lparam));
       return 0;
+    case kWheelEvent:
+      events_.RunWheel(wparam, static_cast<short>(LOWORD(lparam)), HIWORD(lparam));
+      return 0;
     case kMenuEvent:
       RunMenu(static_cast<UINT>(wparam));
       return 0;
@@ -197,14 +177,49 @@ LRESULT NativeWindow::Dispatch(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case DM_GETDEFID:
       return DefaultButtonId();
-    case WM_SYSCOLORCHANGE:
-      for (std::size_t i = 0; i < controls_.Count(); ++i) {
-        SendMessageW(controls_.handle(i), message, wparam, lparam);
-      }
+    case WM_MOUSEWHEEL: {
+      const POINT place{static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};
+      if (!events_.OnWheel(handle_, static_cast<short>(HIWORD(wparam)), place)) break;
       return 0;
+    }
+    case kDpiChanged: {
+      const auto& suggested = *reinterpret_cast<const RECT*>(lparam);
+      Refit({MonitorOf(suggested).work, LOWORD(wparam)}, &suggested);
+      return 0;
+    }
+    case WM_SETTINGCHANGE:
+    case WM_DISPLAYCHANGE:
+      Refit(MonitorOf(handle_), nullptr);
+      ShowColors(0, 0, 0);
+      break;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      ShowColors(message, wparam, lparam);
+      break;
     default:
-      return DefWindowProcW(handle_, message, wparam, lparam);
+      break;
   }
+  return DefWindowProcW(handle_, message, wparam, lparam);
+}
+
+void NativeWindow::Refit(const Monitor& monitor, const RECT* suggested) {
+  if (!RefitFrame(handle_, window_, monitor, suggested, appearance_)) return;
+  controls_.Rearrange();
+  RECT client{};
+  GetClientRect(handle_, &client);
+  controls_.Fit(client.right, client.bottom);
+  RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+// The system tells only the window itself of new colours.
+void NativeWindow::ShowColors(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_SYSCOLORCHANGE) {
+    for (std::size_t i = 0; i < controls_.Count(); ++i) {
+      SendMessageW(controls_.handle(i), message, wparam, lparam);
+    }
+  }
+  controls_.ShowColors(handle_);
+  RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 LRESULT NativeWindow::DefaultButtonId() const {

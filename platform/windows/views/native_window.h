@@ -7,6 +7,7 @@
 // input that follows them, so the order of what the user does is kept.
 #pragma once
 
+#include "platform/windows/views/appearance.h"
 #include "platform/windows/views/control_events.h"
 #include "platform/windows/views/focus_keeper.h"
 #include "platform/windows/views/native_controls.h"
@@ -20,7 +21,7 @@ void RegisterWindowClass(HINSTANCE instance);
 
 class NativeWindow final : public ui::WindowView {
  public:
-  NativeWindow(ui::Window& window, const Appearance& appearance, OpenWindows& open);
+  NativeWindow(ui::Window& window, HINSTANCE instance, AccessibleTexts& texts, OpenWindows& open);
   ~NativeWindow() override;
   NativeWindow(const NativeWindow&) = delete;
   NativeWindow& operator=(const NativeWindow&) = delete;
@@ -46,15 +47,19 @@ class NativeWindow final : public ui::WindowView {
   LRESULT Dispatch(UINT message, WPARAM wparam, LPARAM lparam);
 
  private:
-  void CreateFrame(const Appearance& appearance);
   void ShowAccessKeys();
   LRESULT DefaultButtonId() const;
+
+  // Lays the window out anew where `monitor` or the system's fonts are others than before.
+  void Refit(const Monitor& monitor, const RECT* suggested);
+  void ShowColors(UINT message, WPARAM wparam, LPARAM lparam);
 
   void OnCommand(UINT id, UINT code);
   void RunMenu(UINT id);
 
   ui::Window& window_;
   OpenWindows& open_;
+  Appearance appearance_;
   NativeMenu menu_;
   NativeControls controls_;
   ControlEvents events_{controls_};

@@ -10,7 +10,7 @@
 namespace platform::windows {
 
 NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
-    : appearance_(instance), open_(open) {
+    : instance_(instance), open_(open) {
   // Visual styles need the library of common controls to be loaded; the bars are of it.
   INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
   const auto initialize = FunctionOf<decltype(&InitCommonControlsEx)>(
@@ -22,7 +22,7 @@ NativeWindowSystem::NativeWindowSystem(HINSTANCE instance, OpenWindows& open)
 }
 
 std::unique_ptr<ui::WindowView> NativeWindowSystem::Open(ui::Window& window) {
-  return std::make_unique<NativeWindow>(window, appearance_, open_);
+  return std::make_unique<NativeWindow>(window, instance_, texts_, open_);
 }
 
 }  // namespace platform::windows

@@ -1,7 +1,7 @@
 // Makes native windows for the portable ones.
 #pragma once
 
-#include "platform/windows/views/appearance.h"
+#include "platform/windows/views/accessible_texts.h"
 #include "platform/windows/views/open_windows.h"
 #include "ui/window_system.h"
 
@@ -14,7 +14,8 @@ class NativeWindowSystem final : public ui::WindowSystem {
   std::unique_ptr<ui::WindowView> Open(ui::Window& window) override;
 
  private:
-  Appearance appearance_;
+  HINSTANCE instance_;
+  AccessibleTexts texts_;
   OpenWindows& open_;
 };
 

@@ -39,16 +39,24 @@ std::int32_t ThumbPosition(HWND handle, WORD position) {
   return own ? info.nTrackPos : static_cast<std::int32_t>(position);
 }
 
+WORD HeldNow() {
+  using Held = ui::ScrollBar::HeldKey;
+  if (GetKeyState(VK_CONTROL) < 0) return static_cast<WORD>(Held::kCtrl);
+  return static_cast<WORD>(GetKeyState(VK_SHIFT) < 0 ? Held::kShift : Held::kNone);
+}
+
+bool IsStep(WORD code) {
+  return code == SB_LINELEFT || code == SB_LINERIGHT;
+}
+
 void Scroll(ui::ScrollBar& scroll_bar, WORD code, std::int32_t position) {
   const ui::ScrollBar::Range& range = scroll_bar.range();
   std::int64_t target = scroll_bar.Value();
   switch (code) {
     case SB_LINELEFT:
-      target -= range.small_step;
-      break;
     case SB_LINERIGHT:
-      target += range.small_step;
-      break;
+      scroll_bar.Step(code == SB_LINELEFT ? -1 : 1, static_cast<ui::ScrollBar::HeldKey>(position));
+      return;
     case SB_PAGELEFT:
       target -= range.large_step;
       break;

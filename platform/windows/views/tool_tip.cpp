@@ -1,6 +1,4 @@
-#include "platform/windows/views/path_tip.h"
-
-#include <string>
+#include "platform/windows/views/tool_tip.h"
 
 #include <commctrl.h>
 
@@ -10,40 +8,41 @@ namespace {
 // Pixels at 96 DPI; a longer tip has several lines.
 constexpr int kWidest = 600;
 
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-  return text;
-}
-
-}  // namespace
-
-PathTip::PathTip(HWND parent, HWND label, const Appearance& appearance)
-    : parent_(parent),
-      label_(label),
-      tip_(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
-                           WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                           CW_USEDEFAULT, CW_USEDEFAULT, parent, nullptr, appearance.instance(),
-                           nullptr)) {
+TOOLINFOW ToolOf(HWND parent, HWND control) {
   TOOLINFOW tool{};
   tool.cbSize = sizeof(tool);
   tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
   tool.hwnd = parent;
-  tool.uId = reinterpret_cast<UINT_PTR>(label);
-  std::wstring text = TextOf(label);
-  tool.lpszText = text.data();
-  SendMessageW(tip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, appearance.Scale(kWidest));
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  return tool;
 }
 
-void PathTip::Refresh() const {
-  TOOLINFOW tool{};
-  tool.cbSize = sizeof(tool);
-  tool.hwnd = parent_;
-  tool.uId = reinterpret_cast<UINT_PTR>(label_);
-  std::wstring text = TextOf(label_);
-  tool.lpszText = text.data();
+}  // namespace
+
+ToolTip::ToolTip(HWND parent, HWND control, const Appearance& appearance)
+    : parent_(parent),
+      control_(control),
+      appearance_(appearance),
+      tip_(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                           WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                           CW_USEDEFAULT, CW_USEDEFAULT, parent, nullptr, appearance.instance(),
+                           nullptr)) {
+  TOOLINFOW tool = ToolOf(parent, control);
+  std::wstring nothing;
+  tool.lpszText = nothing.data();
+  SendMessageW(tip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  Rescale();
+}
+
+void ToolTip::SetText(const std::wstring& text) const {
+  TOOLINFOW tool = ToolOf(parent_, control_);
+  std::wstring shown = text;
+  tool.lpszText = shown.data();
   SendMessageW(tip_, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void ToolTip::Rescale() const {
+  SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, appearance_.Scale(kWidest));
 }
 
 }  // namespace platform::windows

@@ -1,21 +1,27 @@
-// The tool tip of a label that shows a path shortened: the whole of it.
+// The tool tip of a control.
 #pragma once
+
+#include <string>
 
 #include "platform/windows/views/appearance.h"
 
 namespace platform::windows {
 
-class PathTip {
+class ToolTip {
  public:
-  // The tool tip's window ends with `parent`, that of the label.
-  PathTip(HWND parent, HWND label, const Appearance& appearance);
+  // The tool tip's window ends with `parent`, that of the control.
+  ToolTip(HWND parent, HWND control, const Appearance& appearance);
 
-  // Takes over what the label says.
-  void Refresh() const;
+  // Without a text none is shown.
+  void SetText(const std::wstring& text) const;
+
+  // The appearance changed.
+  void Rescale() const;
 
  private:
   HWND parent_;
-  HWND label_;
+  HWND control_;
+  const Appearance& appearance_;
   HWND tip_;
 };
 

@@ -25,11 +25,18 @@
 //   items LIST                        the lines of a list
 //   store KEY NAME TYPE HEX           a value of the registry under the machine's root, as it is
 //   forget KEY                        deletes that key
-//   cut WINDOW                        captions that do not fit into their controls
+//   cut WINDOW [DPI]                  captions that do not fit into their controls
 //   close WINDOW                      posts the wish to close
 //   logoff WINDOW                     tells a window, as the system does, that the session ends
 //   put WINDOW TEXT                   the text of a field, without a key and without a word
 //   put-choice WINDOW INDEX           the same for a drop-down list; for a check box, 1 or 0
+//   names WINDOW                      handle, id and what a screen reader calls each control
+//   styles WINDOW                     id and style of each control
+//   client WINDOW                     x, y, width and height of its client area, on the screen
+//   resolution PID WINDOW DPI X Y W H tells the window that it is on a screen of DPI now
+//   font FACE HEIGHT                  makes that the system's fonts and tells all windows
+//   colour INDEX RGB                  changes a colour of the system, and tells all windows
+//   selection FIELD                   first and last place that are selected in a text field
 #include <windows.h>
 
 #include <algorithm>
@@ -39,7 +46,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "tests/rig/driver/desktop.h"
 #include "tests/rig/driver/fitting.h"
+#include "tests/rig/driver/names.h"
 #include "tests/rig/driver/programs.h"
 #include "tests/rig/driver/system.h"
 #include "tests/rig/driver/text.h"
@@ -98,8 +107,27 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
       {"select", Select},
       {"store", Store},
       {"forget", [](const Fields& f) { ForgetKey(Wide(f.at(1))); }},
-      {"cut", [](const Fields& f) { PrintCutCaptions(Window(f.at(1))); }},
+      {"cut",
+       [](const Fields& f) {
+         PrintCutCaptions(Window(f.at(1)), f.size() > 2 ? std::stoi(f[2]) : 0);
+       }},
       {"slide", Slide},
+      {"names", [](const Fields& f) { PrintNames(Window(f.at(1))); }},
+      {"styles", [](const Fields& f) { PrintStyles(Window(f.at(1))); }},
+      {"client", [](const Fields& f) { PrintClient(Window(f.at(1))); }},
+      {"resolution", [&](const Fields& f) { TellResolution(programs.Get(f.at(1)), f); }},
+      {"font", [](const Fields& f) { ChangeFont(Wide(f.at(1)), std::stoi(f.at(2))); }},
+      {"colour",
+       [](const Fields& f) {
+         const int index = std::stoi(f.at(1));
+         const auto colour = static_cast<COLORREF>(std::stoul(f.at(2)));
+         SetSysColors(1, &index, &colour);
+       }},
+      {"selection",
+       [](const Fields& f) {
+         const auto selected = static_cast<DWORD>(Ask(Window(f.at(1)), EM_GETSEL));
+         std::cout << LOWORD(selected) << '\t' << HIWORD(selected) << '\n';
+       }},
       {"close", [](const Fields& f) { Post(Window(f.at(1)), WM_CLOSE); }},
       {"logoff", [](const Fields& f) { EndSession(Window(f.at(1))); }},
       {"put", [](const Fields& f) { PutText(Window(f.at(1)), Wide(f.at(2))); }},

@@ -10,14 +10,17 @@ namespace {
 // Measures texts as the program shows them: in the system's message font, or its heading.
 class Measure {
  public:
-  Measure() : screen_(GetDC(nullptr)) {
+  explicit Measure(int dpi)
+      : screen_(GetDC(nullptr)), dpi_(dpi != 0 ? dpi : GetDeviceCaps(screen_, LOGPIXELSX)) {
     NONCLIENTMETRICSW metrics = {};
     metrics.cbSize = sizeof(metrics);
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
-    normal_ = CreateFontIndirectW(&metrics.lfMessageFont);
-    metrics.lfMessageFont.lfWeight = FW_BOLD;
-    metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, 5, 4);
-    heading_ = CreateFontIndirectW(&metrics.lfMessageFont);
+    LOGFONTW& font = metrics.lfMessageFont;
+    font.lfHeight = MulDiv(font.lfHeight, dpi_, GetDeviceCaps(screen_, LOGPIXELSX));
+    normal_ = CreateFontIndirectW(&font);
+    font.lfWeight = FW_BOLD;
+    font.lfHeight = MulDiv(font.lfHeight, 5, 4);
+    heading_ = CreateFontIndirectW(&font);
   }
   ~Measure() {
     DeleteObject(normal_);
@@ -27,7 +30,7 @@ class Measure {
   Measure(const Measure&) = delete;
   Measure& operator=(const Measure&) = delete;
 
-  int Scale(int pixels) const { return MulDiv(pixels, GetDeviceCaps(screen_, LOGPIXELSX), 96); }
+  int Scale(int pixels) const { return MulDiv(pixels, dpi_, 96); }
 
   // The size of `text`; of more than one line where it may wrap at `wrap_width`.
   SIZE Of(const std::wstring& text, int wrap_width, bool heading, bool prefix) const {
@@ -38,11 +41,14 @@ class Measure {
     DrawTextW(screen_, text.c_str(), static_cast<int>(text.size()), &area,
               DT_CALCRECT | wrap | marks);
     SelectObject(screen_, before);
-    return {area.right, area.bottom};
+    // Segoe UI is in no line of text more than this wider than the font that is measured with.
+    const LONG wider = wrap_width > 0 ? area.right : MulDiv(area.right, 103, 100);
+    return {wider, area.bottom};
   }
 
  private:
   HDC screen_;
+  int dpi_;
   HFONT normal_ = nullptr;
   HFONT heading_ = nullptr;
 };
@@ -57,6 +63,10 @@ bool Fits(const Measure& measure, HWND control, const std::wstring& text) {
     const bool heading = client.bottom >= measure.Scale(22) && client.bottom <= measure.Scale(24);
     const SIZE size = measure.Of(text, client.right, heading, false);
     return size.cx <= client.right && size.cy <= client.bottom;
+  }
+  if (kind == "msctls_statusbar32") {
+    const int border_and_grip = measure.Scale(8) + client.bottom;
+    return measure.Of(text, 0, false, false).cx <= client.right - border_and_grip;
   }
   if (kind != "Button") return true;
   const LONG type = GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK;
@@ -77,7 +87,7 @@ BOOL CALLBACK PrintIfCut(HWND control, LPARAM measure) {
 
 }  // namespace
 
-void PrintCutCaptions(HWND window) {
-  const Measure measure;
+void PrintCutCaptions(HWND window, int dpi) {
+  const Measure measure(dpi);
   EnumChildWindows(window, PrintIfCut, reinterpret_cast<LPARAM>(&measure));
 }

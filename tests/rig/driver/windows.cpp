@@ -41,6 +41,11 @@ BOOL CALLBACK PrintControl(HWND window, LPARAM) {
   return TRUE;
 }
 
+BOOL CALLBACK PrintStyle(HWND window, LPARAM) {
+  std::cout << GetDlgCtrlID(window) << '\t' << GetWindowLongW(window, GWL_STYLE) << '\n';
+  return TRUE;
+}
+
 }  // namespace
 
 HWND Window(const std::string& field) {
@@ -80,6 +85,10 @@ void PrintWindows() {
 
 void PrintControls(HWND parent) {
   EnumChildWindows(parent, PrintControl, 0);
+}
+
+void PrintStyles(HWND parent) {
+  EnumChildWindows(parent, PrintStyle, 0);
 }
 
 void PrintItems(HWND list) {

@@ -22,6 +22,7 @@ std::string TextOf(HWND window);
 // The bodies of the commands of the same names.
 void PrintWindows();
 void PrintControls(HWND parent);
+void PrintStyles(HWND parent);
 void PrintItems(HWND list);
 void Clicks(const Fields& fields);
 void Slide(const Fields& fields);

@@ -1,0 +1,121 @@
+#include "platform/windows/views/frame_place.h"
+
+#include <vector>
+
+#include "base/errors.h"
+#include "platform/windows/api/wide_text.h"
+
+namespace platform::windows {
+namespace {
+
+// Pixels at 96 DPI from one window to the next: the height of a title bar.
+constexpr int kStepAside = 26;
+
+struct FrameStyle {
+  DWORD style;
+  DWORD extended_style;
+};
+
+// A window that is only to be looked at has nothing to move it, close it or switch to it.
+FrameStyle FrameStyleOf(const ui::Window::Design& design) {
+  if (!design.takes_focus) return {WS_POPUP | WS_DLGFRAME, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE};
+  const DWORD sizing = design.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0;
+  return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | sizing, 0};
+}
+
+ui::Extent DesignOf(const ui::Window& window) {
+  return {window.design().width, window.design().height};
+}
+
+// What frame, title and menu take, as the window has them now.
+ui::Extent FrameOf(HWND handle) {
+  RECT outer{};
+  RECT client{};
+  GetWindowRect(handle, &outer);
+  GetClientRect(handle, &client);
+  return {outer.right - outer.left - client.right, outer.bottom - outer.top - client.bottom};
+}
+
+ui::Extent OuterSize(const ui::Window& window, const Appearance& appearance, ui::Extent frame,
+                     const ui::Rect& work) {
+  const ui::Extent design = DesignOf(window);
+  return ui::LimitedTo({appearance.Scale(design.width) + frame.width,
+                        appearance.Scale(design.height) + frame.height},
+                       {work.width, work.height});
+}
+
+BOOL CALLBACK AddCorner(HWND handle, LPARAM corners) {
+  wchar_t name[64] = L"";
+  RECT place{};
+  GetClassNameW(handle, name, 64);
+  if (IsWindowVisible(handle) && std::wstring(name) == kWindowClass &&
+      GetWindowRect(handle, &place)) {
+    reinterpret_cast<std::vector<ui::Corner>*>(corners)->push_back({place.left, place.top});
+  }
+  return TRUE;
+}
+
+std::vector<ui::Corner> TakenCorners() {
+  std::vector<ui::Corner> corners;
+  EnumWindows(AddCorner, reinterpret_cast<LPARAM>(&corners));
+  return corners;
+}
+
+void Put(HWND handle, ui::Corner corner, ui::Extent size) {
+  SetWindowPos(handle, nullptr, corner.x, corner.y, size.width, size.height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+ui::Rect RectOf(const RECT& place) {
+  return {place.left, place.top, place.right - place.left, place.bottom - place.top};
+}
+
+}  // namespace
+
+HWND CreateFrame(const ui::Window& window, HMENU menu, Appearance& appearance) {
+  const ui::Window::Design& design = window.design();
+  const Monitor monitor = MonitorOfUser();
+  const FrameStyle frame_style = FrameStyleOf(design);
+  // It begins on its monitor, whose resolution then counts for its frame; that is measured.
+  const HWND handle =
+      CreateWindowExW(frame_style.extended_style, kWindowClass, Widen(window.Caption()).c_str(),
+                      frame_style.style, monitor.work.x, monitor.work.y, monitor.work.width,
+                      monitor.work.height, nullptr, menu, appearance.instance(), nullptr);
+  if (handle == nullptr) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
+  const ui::Extent frame = FrameOf(handle);
+  appearance.Use(monitor, DesignOf(window), frame);
+  const ui::Extent size = OuterSize(window, appearance, frame, monitor.work);
+  // What is only to be looked at stands above the middle, where dialogs that come meanwhile open.
+  const auto height = design.takes_focus ? ui::Height::kMiddle : ui::Height::kUpperThird;
+  Put(handle,
+      ui::FreeCorner(size, monitor.work, height, appearance.Scale(kStepAside), TakenCorners()),
+      size);
+  return handle;
+}
+
+bool RefitFrame(HWND handle, const ui::Window& window, const Monitor& monitor,
+                const RECT* suggested, Appearance& appearance) {
+  if (suggested != nullptr) {
+    // From here on the frame is that of the new resolution.
+    const ui::Rect place = RectOf(*suggested);
+    Put(handle, {place.x, place.y}, {place.width, place.height});
+  }
+  const ui::Extent frame = FrameOf(handle);
+  const bool changed = appearance.Use(monitor, DesignOf(window), frame);
+  if (IsIconic(handle) || (!changed && suggested == nullptr)) return changed;
+  RECT now{};
+  GetWindowRect(handle, &now);
+  const ui::Rect& work = monitor.work;
+  // The user gave a sizable window its size.
+  const ui::Extent size =
+      window.design().sizable
+          ? ui::LimitedTo({now.right - now.left, now.bottom - now.top}, {work.width, work.height})
+          : OuterSize(window, appearance, frame, work);
+  const ui::Rect around = suggested != nullptr
+                              ? RectOf(*suggested)
+                              : ui::Rect{now.left, now.top, size.width, size.height};
+  Put(handle, ui::CornerOnNewScreen(size, around, work), size);
+  return changed;
+}
+
+}  // namespace platform::windows
