@@ -62,7 +62,7 @@ def started(high_contrast: None, launch: Callable[..., Tonmira], folders: Folder
 
 
 PUSH_BUTTON, DEFAULT_PUSH_BUTTON, GROUP_BOX = 0, 1, 7  # BS_..., the lower four bits of a style
-SHOWS_TEXT = ("Static", "Button", "Edit", "ComboBox", "ListBox", "msctls_statusbar32")
+SHOWS_TEXT = ("Static", "Button", "Edit", "ListBox", "msctls_statusbar32")
 
 
 def text_place(control: Control, style: int) -> Place:
@@ -86,9 +86,13 @@ def text_place(control: Control, style: int) -> Place:
 def unreadable(screen: Screen, window: Window) -> dict[str, float]:
     """The texts that do not stand out enough, with their contrast."""
     styles = window.styles()
+    # The sign of this button is smaller than a letter; its neighbour "+" is drawn alike.
+    looked_at = [c for c in window.controls() if c.visible and c.kind in SHOWS_TEXT
+                 and c.text not in ("", "-")]
+    if any(c.kind == "ComboBox" for c in window.controls()) and window.chosen():
+        looked_at.append(window.control("ComboBox"))
     found = {f"{c.kind} {c.text}": best_contrast(screen.look(text_place(c, styles[c.id])))
-             for c in window.controls()
-             if c.visible and c.kind in SHOWS_TEXT and (c.text.strip() or c.kind == "ComboBox")}
+             for c in looked_at}
     assert found
     return {text: contrast for text, contrast in found.items() if contrast < READABLE}
 

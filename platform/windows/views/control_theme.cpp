@@ -56,7 +56,8 @@ bool NeedsPlainControls(HWND window) {
 void DrawPlain(HWND control, bool plain) {
   using Set = HRESULT(WINAPI*)(HWND, LPCWSTR, LPCWSTR);
   static const auto set = FunctionOf<Set>(ThemeLibrary(), "SetWindowTheme");
-  const wchar_t* const name = plain ? L"" : nullptr;
+  // No visual style has parts under this name; an empty one is not taken everywhere.
+  const wchar_t* const name = plain ? L" " : nullptr;
   if (set != nullptr) set(control, name, name);
 }
 
