@@ -5,14 +5,16 @@ import re
 import xml.etree.ElementTree as ET
 from collections.abc import Callable, Iterator
 
+import numpy as np
 import pytest
 
-from rig.online import PATIENCE_S, good_site, opened
 from rig.bad_hosts import host
+from rig.online import PATIENCE_S, good_site, opened
 from rig.paths import NAME_SERVICE, PROGRAM, SCREENS
 from rig.program import FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
 from rig.resolution import cut_off, set_dpi
 from rig.rig import Rig
+from rig.screen import Screen
 from rig.tone_programs import file_of, open_file
 from rig.waiting import wait_for
 from rig.window import Driver, Place, User, Window
@@ -119,6 +121,62 @@ def test_no_window_is_larger_than_the_screen_and_other_resolutions_are_warned_of
             program.finish()
     finally:
         set_dpi(rig, 96)
+
+
+COLOR_WINDOWTEXT, COLOR_3DFACE, COLOR_BTNTEXT = 8, 15, 18
+
+
+def inside(program: Tonmira, function: str, number: int) -> None:
+    program.driver.ask("inside", str(program.process), function, str(number))
+
+
+def test_new_colours_of_the_system_are_shown_at_once(
+        name_service: None, launch: Launch, folders: Folders, driver: Driver, screen: Screen,
+        user: User) -> None:
+    program = start(launch, folders)
+    main = program.window()
+    user.activate(main)
+    frame, play = main.numbered(100).place, main.numbered(119).place
+
+    def shown(place: Place) -> set[int]:
+        return set(np.unique(screen.look(place)))
+
+    def change(index: int, colour: int) -> None:
+        inside(program, "ChangeColour", index << 32 | colour)
+
+    before = {index: int(driver.ask("colour", str(index))[0][0])
+              for index in (COLOR_WINDOWTEXT, COLOR_3DFACE, COLOR_BTNTEXT)}
+    assert 0x203040 not in shown(frame)
+    try:
+        change(COLOR_3DFACE, 0x403020)  # 0x00BBGGRR
+        change(COLOR_BTNTEXT, 0xF0FFFF)
+        change(COLOR_WINDOWTEXT, 0xF0FFFF)
+        wait_for(lambda: 0x203040 in shown(frame), "the new ground")
+        # The text of the visual style does not stand out from that ground.
+        wait_for(lambda: 0xFFFFF0 in shown(frame), "captions in the new colour")
+        wait_for(lambda: 0xFFFFF0 in shown(play), "buttons in the new colour")
+        user.screenshot(main, SCREENS / "new-colours.png", moving=True)
+    finally:
+        for index, colour in before.items():
+            change(index, colour)
+    wait_for(lambda: 0x203040 not in shown(frame), "the old ground")
+
+
+def test_a_larger_font_of_the_system_makes_open_windows_larger(
+        name_service: None, launch: Launch, folders: Folders, user: User) -> None:
+    program = start(launch, folders)
+    windows = open_windows(program, "EN")
+    try:
+        for height in (16, 12, 18):
+            inside(program, "ChangeFont", height)
+            for name, (window, width) in windows.items():
+                wanted = pytest.approx(width * height / 12, abs=1)
+                wait_for(lambda window=window, wanted=wanted: window.client().width == wanted,
+                         f"{name} with a font of {height} pixels")
+        user.activate(program.window())
+        user.screenshot(program.window(), SCREENS / "larger-font.png", moving=True)
+    finally:
+        inside(program, "ChangeFont", 0)
 
 
 def test_a_second_copy_does_not_lie_exactly_over_the_first(

@@ -47,7 +47,7 @@ void RegisterWindowClass(HINSTANCE instance) {
   window_class.hIcon = ProgramIcon(instance, SM_CXICON, SM_CYICON);
   window_class.hIconSm = ProgramIcon(instance, SM_CXSMICON, SM_CYSMICON);
   window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  window_class.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
+  window_class.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
   window_class.lpszClassName = kWindowClass;
   RegisterClassExW(&window_class);
 }

@@ -1,12 +1,16 @@
 // Stands in the rig for the system's service that takes names of controls for screen readers
 // (IAccPropServices), which Wine has but does not fill: keeps what a program says as properties of
 // the window, where the driver reads it. Names longer than 255 characters are refused.
+//
+// It is also the rig's hand inside the program: under Wine a process does not see fonts and colours
+// of the system that another one has changed, so the driver has them changed from here.
 #include <windows.h>
 
 #include <objbase.h>
 #include <oleacc.h>
 
 #include <cstdint>
+#include <initializer_list>
 
 namespace {
 
@@ -127,4 +131,35 @@ extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID, REFIID wanted, void** foun
 
 extern "C" HRESULT WINAPI DllCanUnloadNow() {
   return S_FALSE;
+}
+
+// Begun by the driver as threads of the program. All windows are told.
+
+// A colour: its index in the upper half, 0x00BBGGRR in the lower one.
+extern "C" DWORD WINAPI ChangeColour(void* index_and_colour) {
+  const auto value = reinterpret_cast<std::uintptr_t>(index_and_colour);
+  const int index = static_cast<int>(value >> 32);
+  const auto colour = static_cast<COLORREF>(value & 0xFFFFFF);
+  if (!SetSysColors(1, &index, &colour)) return 0;
+  return PostMessageW(HWND_BROADCAST, WM_SYSCOLORCHANGE, 0, 0) ? 1 : 0;
+}
+
+// The height of the system's fonts, in pixels; 0 is the one that they had first.
+extern "C" DWORD WINAPI ChangeFont(void* pixels) {
+  static LONG first = 0;
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+  if (first == 0) first = metrics.lfMessageFont.lfHeight;
+  const auto wanted = static_cast<LONG>(reinterpret_cast<std::uintptr_t>(pixels));
+  for (LOGFONTW* font : {&metrics.lfMessageFont, &metrics.lfMenuFont, &metrics.lfStatusFont}) {
+    font->lfHeight = wanted == 0 ? first : -wanted;
+  }
+  if (!SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof(metrics), &metrics,
+                             SPIF_UPDATEINIFILE)) {
+    return 0;
+  }
+  SendMessageTimeoutW(HWND_BROADCAST, WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0,
+                      SMTO_ABORTIFHUNG, 2000, nullptr);
+  return 1;
 }

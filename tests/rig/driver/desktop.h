@@ -1,4 +1,4 @@
-// What of a desktop changes while programs run: its resolution, its fonts.
+// What of a desktop changes while programs run: its resolution, its colours, its fonts.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,7 @@
 
 #include "tests/rig/driver/text.h"
 
-// The bodies of the commands "client", "resolution" and "font".
+// The bodies of the commands "client", "resolution" and "inside".
 void PrintClient(HWND window);
 void TellResolution(HANDLE process, const Fields& fields);
-void ChangeFont(const std::wstring& face, int height);
+void CallInside(HANDLE process, const Fields& fields);

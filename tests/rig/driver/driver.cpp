@@ -34,8 +34,9 @@
 //   styles WINDOW                     id and style of each control
 //   client WINDOW                     x, y, width and height of its client area, on the screen
 //   resolution PID WINDOW DPI X Y W H tells the window that it is on a screen of DPI now
-//   font FACE HEIGHT                  makes that the system's fonts and tells all windows
-//   colour INDEX RGB                  changes a colour of the system, and tells all windows
+//   inside PID FUNCTION NUMBER        has the program's own process call a function of the rig's
+//                                     name_service.dll
+//   colour INDEX                      a colour of the system, 0x00BBGGRR
 //   selection FIELD                   first and last place that are selected in a text field
 #include <windows.h>
 
@@ -116,13 +117,8 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
       {"styles", [](const Fields& f) { PrintStyles(Window(f.at(1))); }},
       {"client", [](const Fields& f) { PrintClient(Window(f.at(1))); }},
       {"resolution", [&](const Fields& f) { TellResolution(programs.Get(f.at(1)), f); }},
-      {"font", [](const Fields& f) { ChangeFont(Wide(f.at(1)), std::stoi(f.at(2))); }},
-      {"colour",
-       [](const Fields& f) {
-         const int index = std::stoi(f.at(1));
-         const auto colour = static_cast<COLORREF>(std::stoul(f.at(2)));
-         SetSysColors(1, &index, &colour);
-       }},
+      {"inside", [&](const Fields& f) { CallInside(programs.Get(f.at(1)), f); }},
+      {"colour", [](const Fields& f) { std::cout << GetSysColor(std::stoi(f.at(1))) << '\n'; }},
       {"selection",
        [](const Fields& f) {
          const auto selected = static_cast<DWORD>(Ask(Window(f.at(1)), EM_GETSEL));
