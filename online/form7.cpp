@@ -11,8 +11,8 @@ Form7::Form7(platform::Platform& platform, base::ErrorReporter& errors)
       errors_(errors) {
   Command1.OnClick = [this] { Command1_Click(); };
   Command2.OnClick = [this] { Command2_Click(); };
-  // No default button: Enter, which the user may be typing elsewhere when the dialog comes up, opens
-  // no link.
+  // No default button: Enter, which the user may be typing elsewhere when the dialog comes up,
+  // opens no link.
   SetCancelButton(&Command2);
 }
 

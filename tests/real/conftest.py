@@ -15,7 +15,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 
 from rig.bad_hosts import ADDRESS, closed_port  # noqa: E402
 from rig.microphone import Microphone  # noqa: E402
-from rig.paths import FAILURES, LINK_TAKER, PROGRAM  # noqa: E402
+from rig.paths import FAILURES, LINK_TAKER, NAME_SERVICE, PROGRAM  # noqa: E402
 from rig.processes import command_of  # noqa: E402
 from rig.program import GOOD_SETTINGS, Folders, Tonmira  # noqa: E402
 from rig.resolution import set_dpi, use_wide_fonts  # noqa: E402
@@ -137,6 +137,15 @@ def browser(rig: Rig) -> Iterator[str]:
     use(exe)
     yield exe
     use(r"C:\windows\system32\winebrowser.exe")
+
+
+@pytest.fixture(scope="session")
+def name_service(rig: Rig) -> Iterator[None]:
+    """The system's service for names of controls; Wine's own keeps none."""
+    key = r"HKCR\CLSID\{B5F8350B-0548-48B1-A6EE-88BD00B4A5E7}\InProcServer32"
+    rig.run("wine", "reg", "add", key, "/ve", "/d", rig.windows_path(NAME_SERVICE), "/f")
+    yield
+    rig.run("wine", "reg", "add", key, "/ve", "/d", r"C:\windows\system32\oleacc.dll", "/f")
 
 
 @pytest.fixture(params=[96, 144])

@@ -1,37 +1,24 @@
-"""At home on the desktop: other resolutions, fonts and colours while it runs, names for screen
-readers, places of the windows, a slider that reaches every number."""
+"""At home on the desktop: other resolutions, fonts and colours while it runs, and where its windows
+stand."""
 
-import re
 import xml.etree.ElementTree as ET
-from collections.abc import Callable, Iterator
+from collections.abc import Callable
 
 import numpy as np
 import pytest
 
-from rig.bad_hosts import host
-from rig.online import PATIENCE_S, good_site, opened
-from rig.paths import NAME_SERVICE, PROGRAM, SCREENS
-from rig.program import FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
+from rig.desktop import open_windows, start
+from rig.paths import PROGRAM, SCREENS
+from rig.program import GOOD_SETTINGS, Folders, Tonmira
 from rig.resolution import cut_off, set_dpi
 from rig.rig import Rig
 from rig.screen import Screen
-from rig.tone_programs import file_of, open_file
 from rig.waiting import wait_for
 from rig.window import Driver, Place, User, Window
 
 Launch = Callable[..., Tonmira]
 SCREEN_WIDTH, SCREEN_HEIGHT = 1280, 1024
 MAIN = (640, 486)  # client area at 96 DPI
-DUTCH = {"Custom pitch": "Eigen toonhoogte", "Morse tool": "Morsetool", "Start": "Starten"}
-
-
-def start(launch: Launch, folders: Folders, language: str = "EN", **options: object) -> Tonmira:
-    settings = list(GOOD_SETTINGS)
-    settings[2] = f"Language={language}"
-    folders.write_settings(settings)
-    program = launch(folders, **options)
-    program.wait_for_log(">> Program starting finished")
-    return program
 
 
 def tell_resolution(program: Tonmira, window: Window, dpi: int, place: Place) -> None:
@@ -42,25 +29,6 @@ def tell_resolution(program: Tonmira, window: Window, dpi: int, place: Place) ->
 def resolution_of(window: Window, design_width: int) -> int:
     """The resolution that a window's controls are laid out for."""
     return round(window.client().width * 96 / design_width)
-
-
-def open_windows(program: Tonmira, language: str) -> dict[str, tuple[Window, int]]:
-    """Everything that opens from the main window, with its width at 96 DPI."""
-    def text(english: str) -> str:
-        return DUTCH.get(english, english) if language == "NL" else english
-
-    main = program.window()
-    main.press(text("Custom pitch"))
-    wait_for(lambda: main.button("Help").enabled, "the help button")
-    main.press("Help")
-    found = {"main": (main, 640), "help": (program.window("Help"), 560)}
-    main.choose(MENU_ABOUT)
-    found["about"] = (program.window("About Tonmira"), 420)
-    main.press(text("Morse tool"))
-    wait_for(lambda: main.is_checked(text("Morse tool")), "the mode")
-    main.press(text("Start"))
-    found["morse"] = (program.window(text("Morse tool")), 480)
-    return found
 
 
 @pytest.mark.parametrize("language", ["EN", "NL"])
@@ -185,163 +153,6 @@ def test_a_second_copy_does_not_lie_exactly_over_the_first(
     second = start(launch, Folders(rig, "second")).window().place()
     assert (second.width, second.height) == (first.width, first.height)
     assert (second.x - first.x, second.y - first.y) == (26, 26)
-
-
-# What screen readers call the controls; by their ids, without those that are labels or lines.
-NAMES = {
-    "EN": {
-        100: "Choices", 101: "Low pitch", 102: "Average pitch", 103: "High pitch",
-        104: "Extreme pitch", 105: "Spooky pitch", 106: "Low to high", 107: "Custom pitch",
-        108: "Morse tool", 109: "Hearing age", 110: "Info", 117: "Custom pitch (Hz)",
-        119: "Play Sound", 120: "Stop Sound", 121: "Help", 122: "Sound waves",
-        124: "Wave of the chosen tone", 125: "Microphone input, sensitivity: 1",
-        126: "Wave of the microphone input", 127: "Raise the microphone sensitivity",
-        128: "Lower the microphone sensitivity", 129: "Actual pitch (Hertz):"},
-    "NL": {
-        107: "Eigen toonhoogte", 117: "Eigen toonhoogte (Hz)", 124: "Golf van de gekozen toon",
-        126: "Golf van de microfooninvoer", 127: "Microfoongevoeligheid verhogen",
-        128: "Microfoongevoeligheid verlagen"},
-}
-
-
-@pytest.fixture(scope="module")
-def name_service(rig: Rig) -> Iterator[None]:
-    """The system's service for names of controls; Wine's own keeps none."""
-    key = r"HKCR\CLSID\{B5F8350B-0548-48B1-A6EE-88BD00B4A5E7}\InProcServer32"
-    rig.run("wine", "reg", "add", key, "/ve", "/d", rig.windows_path(NAME_SERVICE), "/f")
-    yield
-    rig.run("wine", "reg", "add", key, "/ve", "/d", r"C:\windows\system32\oleacc.dll", "/f")
-
-
-def without_marks(names: dict[int, str]) -> dict[int, str]:
-    return {number: re.sub("&(.)", r"\1", name) for number, name in names.items()}
-
-
-def assert_all_are_named(window: Window, silent: set[int]) -> None:
-    """Every control that is no line and no empty label has a name that says something."""
-    names = without_marks(window.names())
-    for control in window.controls():
-        name = names[control.id]
-        if control.id in silent or control.kind.startswith("tooltips"):
-            continue
-        assert re.search("[a-z]", name) or name in ("OK", " 4"), (window.title, control)
-        assert not re.fullmatch("[A-Za-z]+[0-9]+|pic[A-Z].*", name), (window.title, control)
-
-
-@pytest.mark.parametrize("language", ["EN", "NL"])
-def test_every_control_has_the_name_that_a_screen_reader_should_say(
-        name_service: None, launch: Launch, folders: Folders, language: str) -> None:
-    program = start(launch, folders, language)
-    main = program.window()
-    names = without_marks(main.names())
-    assert {number: names[number] for number in NAMES[language]} == NAMES[language]
-    windows = open_windows(program, language)
-    lines = {"main": {123, 115}, "help": set(), "about": {104}, "morse": {106, 108}}
-    for name, (window, _) in windows.items():
-        assert_all_are_named(window, lines[name])
-    morse = without_marks(windows["morse"][0].names())
-    assert [morse[number] for number in (101, 103, 105)] == {
-        "EN": ["Text:", "Speed (normal + this (ms)) (higher is slower):", "Pitch (Hertz):"],
-        "NL": [morse[100], morse[102], morse[104]]}[language]
-    # The buttons show what they have always shown.
-    assert main.button("+").id == 127 and main.button("-").id == 128
-
-
-def test_the_player_and_the_first_run_dialog_have_names_too(
-        name_service: None, rig: Rig, driver: Driver, launch: Launch, folders: Folders) -> None:
-    path = rig.new_folder("tones") / "test.tnf"
-    path.write_bytes(file_of([(440, 3000)]))
-    player = open_file(rig, driver, path)
-    try:
-        window = player.window()
-        assert window.names()[103] == "Tones played"
-        assert_all_are_named(window, {102, 104, 106, 108})
-    finally:
-        player.finish()
-    dialog = launch(folders).window(FIRST_RUN_TITLE)
-    assert dialog.names()[101] == dialog.names()[100]
-    assert_all_are_named(dialog, set())
-
-
-def pitch_of(window: Window) -> str:
-    return window.numbered(115).text
-
-
-@pytest.fixture
-def slider(launch: Launch, folders: Folders, user: User) -> Window:
-    """The main window with its slider in use and focused."""
-    window = start(launch, folders).window()
-    user.activate(window)
-    window.press("Custom pitch")
-    wait_for(lambda: window.is_checked("Custom pitch"), "the mode")
-    user.type_keys("alt+" + window.button("Custom pitch").access_key, "Tab")
-    return window
-
-
-def test_ctrl_and_shift_make_the_sliders_steps_smaller(slider: Window, user: User) -> None:
-    for keys, pitch in [("Right", " 1100"), ("shift+Right", " 1110"), ("ctrl+Right", " 1111"),
-                        ("Left", " 1011"), ("shift+Left", " 1001"), ("ctrl+Left", " 1000"),
-                        ("Next", " 2000"), ("Prior", " 1000")]:
-        user.type_keys(keys)
-        wait_for(lambda pitch=pitch: pitch_of(slider) == pitch, f"{pitch} after {keys}")
-
-
-def test_the_wheel_moves_the_slider_by_the_same_steps(slider: Window, user: User) -> None:
-    user.point_at(slider.control("ScrollBar"))
-    for key, button, pitch in [("", "4", " 1100"), ("ctrl", "4", " 1101"), ("ctrl", "5", " 1100"),
-                               ("shift", "5", " 1090"), ("", "5", " 990")]:
-        if key:
-            user.xdotool("keydown", key)
-        user.xdotool("click", button)
-        if key:
-            user.xdotool("keyup", key)
-        wait_for(lambda pitch=pitch: pitch_of(slider) == pitch, f"{pitch} after {key} {button}")
-
-
-def test_digits_typed_on_the_slider_set_its_number(slider: Window, user: User) -> None:
-    user.type_keys("4", "4", "0")
-    wait_for(lambda: pitch_of(slider) == " 440", "440")
-    user.type_keys("BackSpace")
-    wait_for(lambda: pitch_of(slider) == " 44", "44")
-    user.type_keys("Left", "5", "0", "0", "0", "0")
-    wait_for(lambda: pitch_of(slider) == " 32000", "the highest number")
-    assert slider.is_checked("Custom pitch")
-
-
-def test_the_first_text_of_the_morse_tool_is_replaced_by_what_is_typed(
-        launch: Launch, folders: Folders, driver: Driver, user: User) -> None:
-    program = start(launch, folders)
-    main = program.window()
-    main.press("Morse tool")
-    wait_for(lambda: main.is_checked("Morse tool"), "the mode")
-    main.press("Start")
-    tool = program.window("Morse tool")
-    field = tool.numbered(101)
-    user.activate(tool)
-    wait_for(lambda: driver.ask("selection", field.handle)
-             == [["0", str(len("Type your message here..."))]], "a selected text")
-    user.type_keys("s", "o", "s")
-    wait_for(lambda: driver.ask("text", field.handle) == [["sos"]], "the typed text")
-    # Only the first time.
-    for number in (105, 101):
-        user.point_at(tool.numbered(number))
-        user.xdotool("click", "1")
-    user.type_keys("End", "e")
-    wait_for(lambda: driver.ask("text", field.handle) == [["sose"]], "a longer text")
-
-
-def test_enter_in_the_update_dialog_opens_no_link(
-        begin: Launch, browser: str, folders: Folders, user: User) -> None:
-    with host(good_site(b"237\r\nhttp://a.example/tonmira-2.3.7.exe\r\n")) as good:
-        program = begin(good.site)
-        dialog = program.window("Update found", seconds=PATIENCE_S)
-        user.activate(dialog)
-        user.type_keys("Return", "Return")
-        # What is typed after it is done after it: the dialog is closed by its other button.
-        user.type_keys("Escape")
-        wait_for(lambda: not dialog.is_open(), "the end of the dialog")
-        program.wait_for_log(">> Program starting finished")
-        assert program.running() and opened(folders) == []
 
 
 def test_the_manifest_names_no_system_and_scales_for_each_monitor() -> None:
