@@ -74,7 +74,9 @@ TEST_F(SpokenNamesTest, NoControlOfAnyWindowIsWithoutAName) {
       if (MayBeSilent(*control) || numbers.contains(place)) continue;
       EXPECT_FALSE(SaysNothing(*control, name)) << place << " " << name;
       const bool used = control->kind() != ui::ControlKind::kLabel;
-      if (used) EXPECT_TRUE(named.emplace(name, place).second) << place << " " << name;
+      if (used) {
+        EXPECT_TRUE(named.emplace(name, place).second) << place << " " << name;
+      }
     }
   }
   EXPECT_GE(looked_at, 80);

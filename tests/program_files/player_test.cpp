@@ -133,6 +133,18 @@ TEST_F(PlayerTest, TheLoadEndsTheHelpersThatRun) {
   EXPECT_EQ(Entries("terminate"), (Lines{"terminate TONE32.DLL", "terminate tone16.dll"}));
 }
 
+// The command interpreter may start it when its tone is over already.
+TEST_F(PlayerTest, AHelperThatBeginsLateEndsWithThePlayer) {
+  for (const auto& [mode, helper] : {std::pair{"16", "tone16.dll"}, {"32", "tone32.dll"}}) {
+    At(std::chrono::milliseconds(sim.pump.now_ms() + 10), [this, helper = helper](Form9& form9) {
+      sim.processes.running.push_back({79, helper});
+      form9.Command3.Click();
+    });
+    EXPECT_TRUE(Open(ProgramWith(kTwo), mode));
+    EXPECT_TRUE(sim.processes.running.empty()) << mode;
+  }
+}
+
 TEST_F(PlayerTest, AFileWithoutTonesPlaysOneToneOfPitch0ForTheExtraTime) {
   const std::vector<std::pair<std::string, int>> lengths{
       {"16", 1050}, {"32", 50}, {"64", 50}, {"128", 50}, {"256", 50}};

@@ -35,6 +35,20 @@ TEST_F(ProgressBarTest, KeepsItsValueWithinItsRange) {
   EXPECT_EQ(window.bar.Value(), 0);
 }
 
+TEST_F(ProgressBarTest, IsAsItWasMadeWhenItsWindowIsLoadedAgain) {
+  window.bar.SetRange(2, 5);
+  window.bar.SetValue(4);
+  window.bar.SetVisible(false);
+  window.bar.SetEnabled(false);
+  window.Unload();
+  window.Load();
+  EXPECT_EQ(window.bar.Minimum(), 0);
+  EXPECT_EQ(window.bar.Maximum(), 100);
+  EXPECT_EQ(window.bar.Value(), 0);
+  EXPECT_TRUE(window.bar.Visible());
+  EXPECT_TRUE(window.bar.Enabled());
+}
+
 TEST_F(ProgressBarTest, TellsTheViewWhatChanged) {
   journal.Clear();
   window.bar.SetRange(0, 3);
