@@ -6,7 +6,7 @@ from collections.abc import Iterator
 import numpy as np
 import pytest
 
-from rig.measuring import Tone, faintest, measure
+from rig.measuring import Tone, deviation, measure
 from rig.playing import expect_nothing_left, pick, start, stop
 from rig.program import MODES, Tonmira
 from rig.rig import Rig
@@ -60,7 +60,7 @@ def assert_one_steady_tone(heard: np.ndarray, pitch: int) -> None:
     assert tone.frequency_hz == pytest.approx(pitch, rel=1e-2 if pitch == 4 else 1e-4)
     assert tone.length_s > HEARD_S - (0.5 if pitch == 4 else 0.1)
     assert 29000 <= tone.peak <= 30500
-    assert faintest(heard, pitch) > 0.95 * tone.peak
+    assert deviation(heard, pitch) < 0.01
 
 
 @pytest.mark.parametrize(("sound_bit", "mode", "pitch"), CASES)

@@ -145,9 +145,11 @@ def steps(samples: np.ndarray, grid_hz: int) -> list[tuple[int, float]]:
     return found
 
 
-def faintest(samples: np.ndarray, frequency_hz: float) -> int:
-    """The lowest peak of any piece that must hold a whole period, 2 ms at least. In a tone without
-    a hole it is near the tone's own peak."""
-    piece = max(RATE // 500, int(np.ceil(RATE / frequency_hz)))
-    pieces = np.lib.stride_tricks.sliding_window_view(np.abs(samples), piece)[:: max(piece // 4, 1)]
-    return int(pieces.max(axis=1).min())
+def deviation(samples: np.ndarray, frequency_hz: float) -> float:
+    """How far a sample lies at most from the one even sine that fits them best, as a part of its
+    amplitude. A hole, a click or a moment more or less between two samples makes it large."""
+    turned = 2 * np.pi * frequency_hz / RATE * np.arange(len(samples))
+    waves = np.stack((np.sin(turned), np.cos(turned)), axis=1)
+    amplitudes = np.linalg.lstsq(waves, samples, rcond=None)[0]
+    residue = np.abs(samples - waves @ amplitudes).max()
+    return float(residue / np.hypot(*amplitudes))
