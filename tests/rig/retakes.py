@@ -11,7 +11,7 @@ from collections.abc import Iterator
 
 import pytest
 
-from rig.sound import Recorder
+from rig.sound import Flaw, Recorder
 
 TAKES = 5
 RETAKEN = "retaken"
@@ -35,6 +35,12 @@ def pytest_runtest_call(item: pytest.Item) -> Iterator[None]:
     item.flaws = recorder.flaws(item.first_frame) if recorder else []
 
 
+def told(flaws: list[Flaw]) -> str:
+    first = flaws[0]
+    return f"{first.what} after {first.at_s:.2f} s" + (
+        f", and {len(flaws) - 1} more" if len(flaws) > 1 else "")
+
+
 def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> bool:
     item.ihook.pytest_runtest_logstart(nodeid=item.nodeid, location=item.location)
     retakes: list[str] = []
@@ -43,7 +49,7 @@ def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> 
         reports = runtestprotocol(item, log=False, nextitem=nextitem)
         if not item.flaws or len(retakes) == TAKES - 1:
             break
-        retakes.append(f"{len(item.flaws)} breaks, the first after {item.flaws[0]:.2f} s")
+        retakes.append(told(item.flaws))
         item._initrequest()
     for report in reports:
         if report.when == "call":

@@ -3,6 +3,7 @@
 import threading
 import time
 import wave
+from dataclasses import dataclass
 from pathlib import Path
 
 import numpy as np
@@ -12,10 +13,18 @@ from rig.pilot import breaks
 from rig.session import Session
 from rig.sound_card import start_recording
 from rig.waiting import wait_for
+from rig.watch import Watch
 
 # The third channel is the pilot.
 CHANNELS = 3
 FRAME_BYTES = 2 * CHANNELS
+
+
+@dataclass(frozen=True)
+class Flaw:
+    """Why a recording tells nothing about the program, and where."""
+    at_s: float
+    what: str
 
 
 class Recorder:
@@ -26,6 +35,7 @@ class Recorder:
     """
 
     def __init__(self, rig: Session):
+        self.watch = Watch(rig)
         self._process = start_recording(rig)
         self._bytes = bytearray()
         self._first_moment = float("inf")
@@ -60,14 +70,19 @@ class Recorder:
             data = bytes(self._bytes[first_frame * FRAME_BYTES : end])
         return np.frombuffer(data, dtype="<i2").reshape(-1, CHANNELS)
 
-    def flaws(self, first_frame: int) -> list[float]:
-        """Where the recording since `first_frame` is not whole, in seconds from there: the pilot's
-        breaks. Nothing that is played can cause one."""
-        return [frame / RATE for frame in breaks(self.all_channels(first_frame)[:, 2])
-                if not any(a <= frame + first_frame <= b for a, b in self._excused)]
+    def flaws(self, first_frame: int) -> list[Flaw]:
+        """What is wrong with the recording since `first_frame` for reasons of the rig's own, in
+        seconds from there. Nothing that a program plays or leaves unplayed can cause one."""
+        broken = [first_frame + frame for frame in breaks(self.all_channels(first_frame)[:, 2])]
+        found = [Flaw((frame - first_frame) / RATE, "the pilot breaks") for frame in broken
+                 if not any(a <= frame <= b for a, b in self._excused)]
+        begin = self.moment_of(first_frame)
+        found += [Flaw(stall.begin - begin, f"a processor came {1000 * stall.seconds:.0f} ms late")
+                  for stall in self.watch.stalls(begin)]
+        return sorted(found, key=lambda flaw: flaw.at_s)
 
     def excuse(self, first_frame: int) -> None:
-        """What breaks from there up to now is the test's own doing."""
+        """Where the pilot breaks from there up to now is the test's own doing."""
         self._excused.append((first_frame, self.frames() + RATE // 2))
 
     def record(self, seconds: float) -> np.ndarray:

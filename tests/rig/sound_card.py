@@ -30,7 +30,8 @@ PILOT_LATENCY_MS = 80
 RAW = ["--raw", "--format=s16le", f"--rate={RATE}"]
 
 
-def start_sound_card(session: Session) -> None:
+def start_sound_card(session: Session) -> subprocess.Popen:
+    """Returns the sound server."""
     socket = session.folder / "runtime" / "sound"
     session.env["PULSE_RUNTIME_PATH"] = str(session.folder / "runtime" / "pulse")
     session.env["PULSE_SERVER"] = f"unix:{socket}"
@@ -50,6 +51,7 @@ def start_sound_card(session: Session) -> None:
     wait_for(lambda: "sink_name=mic" in modules_of(session), "the sound devices")
     session.put_first(server)
     start_pilot(session)
+    return server
 
 
 def modules_of(session: Session) -> str:

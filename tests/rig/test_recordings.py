@@ -1,0 +1,76 @@
+"""When a recording counts: pauses of the sound server and of the machine are told from those of
+what plays."""
+
+import signal
+import subprocess
+import time
+from collections.abc import Iterator
+
+import numpy as np
+import pytest
+
+from rig.measuring import RATE, loud_stretches
+from rig.session import Session
+from rig.sound import Recorder
+from rig.sound_card import RAW, start_sound_card
+
+PAUSE_S = 0.3
+# The machine may stand still by itself while a test looks for something else.
+TRIES = 5
+
+
+class Bench:
+    """A sound card that plays a tone, and a recorder."""
+
+    def __init__(self, session: Session):
+        self.server = start_sound_card(session)
+        self.recorder = Recorder(session)
+        tone = session.folder / "tone"
+        samples = 30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(60 * RATE))
+        tone.write_bytes(samples.astype("<i2").tobytes())
+        self.player = session.start("pacat", "--playback", *RAW, "--channels=1", "--device=out",
+                                    "--latency-msec=100", str(tone), stderr=subprocess.DEVNULL)
+        self.recorder.wait_for_tone()
+        self.recorder.record(0.3)
+
+    def pause(self, process: subprocess.Popen) -> tuple[list[str], bool]:
+        """What is wrong with the recording of a pause of this process, and whether the tone has a
+        hole then."""
+        first = self.recorder.frames()
+        process.send_signal(signal.SIGSTOP)
+        time.sleep(PAUSE_S)
+        process.send_signal(signal.SIGCONT)
+        self.recorder.record(1)
+        holed = len(loud_stretches(self.recorder.samples(first), RATE // 500)) > 1
+        return [flaw.what for flaw in self.recorder.flaws(first)], holed
+
+
+@pytest.fixture(scope="module")
+def bench() -> Iterator[Bench]:
+    session = Session()
+    try:
+        yield Bench(session)
+    finally:
+        session.close()
+
+
+def test_a_pause_of_the_sound_server_breaks_the_pilot(bench: Bench) -> None:
+    flaws, _ = bench.pause(bench.server)
+    assert "the pilot breaks" in flaws
+
+
+def test_a_pause_of_those_who_wait_for_a_processor_is_a_flaw_of_its_length(bench: Bench) -> None:
+    first = bench.recorder.frames()
+    flaws, _ = bench.pause(bench.recorder.watch.process)
+    late_ms = max(int(what.split()[3]) for what in flaws if what.startswith("a processor came"))
+    assert 1000 * PAUSE_S - 20 <= late_ms <= 1000 * PAUSE_S + 500
+    at_s = min(flaw.at_s for flaw in bench.recorder.flaws(first) if str(late_ms) in flaw.what)
+    assert -0.1 <= at_s <= 0.5
+    # It belongs to no later recording.
+    later = bench.recorder.frames()
+    assert str(late_ms) not in " ".join(flaw.what for flaw in bench.recorder.flaws(later))
+
+
+def test_a_pause_of_what_plays_is_a_hole_and_no_flaw(bench: Bench) -> None:
+    takes = [bench.pause(bench.player) for _ in range(TRIES)]
+    assert ([], True) in takes, takes

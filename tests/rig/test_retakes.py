@@ -1,0 +1,131 @@
+"""When a test is taken again, how often, and what is said of it."""
+
+from collections import Counter
+
+import pytest
+
+from rig.retakes import TAKES
+
+pytest_plugins = ["pytester"]
+
+# A recorder whose flaws are given take by take; the last ones stay.
+CONFTEST = """
+import pytest
+from rig.retakes import (pytest_runtest_call, pytest_runtest_protocol, pytest_runtest_setup,
+                         pytest_terminal_summary)
+from rig.sound import Flaw
+
+STALL = Flaw(1.25, "a processor came 65 ms late")
+BREAK = Flaw(2.5, "the pilot breaks")
+TAKES = {takes}
+
+
+class Recorder:
+    asked_since = []
+    at = 0
+
+    def frames(self):
+        Recorder.at += 100
+        return Recorder.at
+
+    def flaws(self, first_frame):
+        Recorder.asked_since.append(first_frame)
+        return TAKES.pop(0) if len(TAKES) > 1 else TAKES[0]
+
+
+@pytest.fixture(scope="session")
+def recorder():
+    return Recorder()
+"""
+
+
+def run(pytester: pytest.Pytester, takes: str, test: str) -> tuple[Counter, str]:
+    """Runs a test with a recorder that has these flaws; the count of each outcome, and what was
+    printed."""
+    pytester.makeconftest(CONFTEST.format(takes=takes))
+    pytester.makepyfile(test)
+    result = pytester.runpytest_inprocess("-p", "no:cacheprovider")
+    return Counter(result.parseoutcomes()), result.stdout.str()
+
+
+def test_a_failing_test_with_a_whole_recording_is_not_taken_again(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[]]", """
+        times = []
+        def test_once(recorder):
+            times.append(1)
+            assert len(times) > 1, "heard wrong"
+    """)
+    assert outcomes == {"failed": 1}
+    assert "heard wrong" in printed
+    assert "0 taken again because the recording was not whole" in printed
+
+
+def test_a_failing_test_that_records_nothing_is_not_taken_again(pytester: pytest.Pytester) -> None:
+    outcomes, _ = run(pytester, "[[STALL]]", """
+        times = []
+        def test_once():
+            times.append(1)
+            assert len(times) > 1
+    """)
+    assert outcomes == {"failed": 1}
+
+
+def test_the_result_of_the_first_whole_recording_counts_and_the_others_are_told(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[STALL, BREAK], [BREAK], []]", """
+        times = []
+        def test_third(recorder):
+            times.append(1)
+            assert len(times) == 3
+    """)
+    assert outcomes == {"passed": 1}
+    assert "2 taken again because the recording was not whole" in printed
+    assert "test_third: a processor came 65 ms late after 1.25 s, and 1 more" in printed
+    assert "test_third: the pilot breaks after 2.50 s" in printed
+
+
+def test_a_test_that_passes_with_a_flawed_recording_is_taken_again_and_may_fail(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[STALL], []]", """
+        times = []
+        def test_first(recorder):
+            times.append(1)
+            assert len(times) == 1, "heard wrong"
+    """)
+    assert outcomes == {"failed": 1}
+    assert "heard wrong" in printed
+    assert "1 taken again" in printed
+
+
+def test_without_a_whole_recording_in_all_takes_a_test_fails_whatever_it_heard(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[BREAK]]", """
+        times = []
+        def test_never(recorder):
+            times.append(1)
+        def test_how_often():
+            assert len(times) == %d
+    """ % TAKES)
+    assert outcomes == {"failed": 1, "passed": 1}
+    assert f"no whole recording in {TAKES} takes" in printed
+    assert f"{TAKES - 1} taken again" in printed
+
+
+def test_each_take_has_new_fixtures_and_its_own_beginning(pytester: pytest.Pytester) -> None:
+    outcomes, _ = run(pytester, "[[BREAK], []]", """
+        import pytest
+        fresh = []
+        @pytest.fixture
+        def folder():
+            fresh.append("begun")
+            yield []
+            fresh.append("ended")
+        def test_first(recorder, folder):
+            assert folder == []
+            folder.append("used")
+        def test_after(recorder):
+            assert fresh == ["begun", "ended"] * 2
+            assert recorder.asked_since == [100, 200]
+    """)
+    assert outcomes == {"passed": 2}
