@@ -30,6 +30,17 @@ from rig.waiting import wait_for  # noqa: E402
 from rig.window import Driver, User  # noqa: E402
 
 
+def pytest_configure(config: pytest.Config) -> None:
+    config.addinivalue_line("markers", "listening: what the program plays is listened to")
+
+
+@pytest.hookimpl(tryfirst=True)
+def pytest_collection_modifyitems(items: list[pytest.Item]) -> None:
+    for item in items:
+        if "recorder" in getattr(item, "fixturenames", ()):
+            item.add_marker(pytest.mark.listening)
+
+
 @pytest.fixture(scope="session")
 def rig() -> Iterator[Rig]:
     assert PROGRAM.exists(), f"not built: {PROGRAM}"

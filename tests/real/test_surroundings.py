@@ -123,6 +123,7 @@ def test_ten_thousand_clicks_and_thirty_tones_leave_handles_threads_and_memory_w
     assert len(folders.log()) == 100
 
 
+@pytest.mark.listening
 def test_a_rig_that_ends_while_a_tone_plays_leaves_nothing_behind() -> None:
     with Rig() as own:
         driver, user, recorder = Driver(own), User(own), Recorder(own)
