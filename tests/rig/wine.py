@@ -2,6 +2,7 @@
 
 import fcntl
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -40,6 +41,7 @@ def start_wine(session: Session) -> Path:
     subprocess.run(["cp", "-a", "--reflink=auto", template, prefix], check=True)
     (prefix / "wineserver").unlink(missing_ok=True)
     make_user_folders(prefix)
+    still_the_caret(prefix)
     # Ends every process of the prefix, then waits until the server is gone.
     session.at_end.callback(end_wine, session)
     # A server that outlives its programs keeps later starts short and alike.
@@ -70,6 +72,15 @@ def make_user_folders(prefix: Path) -> None:
         if folder.is_symlink() and not folder.exists():
             folder.unlink()
             folder.mkdir()
+
+
+def still_the_caret(prefix: Path) -> None:
+    """A caret that blinks would make every second picture another one."""
+    registry = prefix / "user.reg"
+    text, sections = re.subn(rb"(?m)^\[Control Panel\\\\Desktop\].*\n(#.*\n)*",
+                             rb'\g<0>"CursorBlinkRate"="-1"\n', registry.read_bytes())
+    assert sections == 1
+    registry.write_bytes(text)
 
 
 def end_wine(session: Session) -> None:
