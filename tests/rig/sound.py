@@ -31,7 +31,7 @@ class Recorder:
     """Records everything that reaches the sound card, and when.
 
     A moment told by this class is within some 40 ms of what a listener would hear: the sound card
-    takes its samples in pieces of 20 ms, up to 20 ms before they are due.
+    takes its samples before they are due, and hands them on in pieces.
     """
 
     def __init__(self, rig: Session):

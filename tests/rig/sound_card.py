@@ -23,9 +23,11 @@ set-default-source mic.monitor
 """
 STEREO = "front-left,front-right"
 CHANNELS = f"{STEREO},{pilot.CHANNEL}"
-# Several of the pieces in which the card takes its samples (the recorder asks for 20 ms), and less
-# than the programs have that are listened to. The pilot waits for the processors as they do, too,
-# and so breaks when they are kept from playing.
+# Who records asks the card to take its samples in pieces as short as these: a pause that lies
+# between two pieces is not heard, and the player's own pauses between Morse tones last 10 ms.
+PIECE_MS = 5
+# Less than the programs have that are listened to. The pilot waits for the processors as they do,
+# too, and so breaks when they are kept from playing.
 PILOT_LATENCY_MS = 80
 RAW = ["--raw", "--format=s16le", f"--rate={RATE}"]
 
@@ -72,5 +74,5 @@ def start_pilot(session: Session) -> subprocess.Popen:
 def start_recording(session: Session) -> subprocess.Popen:
     """Records all three channels of the card, 16 bits each, to the process's standard output."""
     return session.start("parec", "--device=card.monitor", *RAW, "--channels=3",
-                         f"--channel-map={CHANNELS}", "--latency-msec=20",
+                         f"--channel-map={CHANNELS}", f"--latency-msec={PIECE_MS}",
                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, first_of_all=True)

@@ -9,7 +9,7 @@ import numpy as np
 from rig.measuring import RATE
 from rig.processes import end_process
 from rig.session import Session
-from rig.sound_card import RAW
+from rig.sound_card import PIECE_MS, RAW
 
 
 @dataclass(frozen=True)
@@ -39,7 +39,7 @@ def directsound(session: Session) -> Stream:
 def record_stream(session: Session, stream: Stream, seconds: float) -> np.ndarray:
     """The left channel of one stream alone."""
     process = session.start("parec", f"--monitor-stream={stream.index}", *RAW, "--channels=2",
-                            "--latency-msec=20", stdout=subprocess.PIPE,
+                            f"--latency-msec={PIECE_MS}", stdout=subprocess.PIPE,
                             stderr=subprocess.DEVNULL, first_of_all=True)
     assert process.stdout
     try:
