@@ -93,6 +93,8 @@ def test_only_the_directsound_mode_plays_through_directsound_too(
     pick(user, window, "Custom pitch", 440)
     user.click_button(window, "Play Sound")
     recorder.wait_for_tone()
+    # What plays once only has ended.
+    recorder.record(1.5)
     sounding = [stream for stream in streams(rig) if measure(record_stream(rig, stream, 0.5))]
     # The DirectSound mode starts the tone both ways.
     assert [is_directsound(stream) for stream in sounding].count(True) == (sound_bit == "64")

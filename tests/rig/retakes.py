@@ -50,7 +50,6 @@ def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> 
         if not item.flaws or len(retakes) == TAKES - 1:
             break
         retakes.append(told(item.flaws))
-        item._initrequest()
     for report in reports:
         if report.when == "call":
             report.user_properties += [(RETAKEN, why) for why in retakes]

@@ -3,6 +3,7 @@ what plays."""
 
 import signal
 import subprocess
+import threading
 import time
 from collections.abc import Iterator
 
@@ -69,6 +70,14 @@ def test_a_pause_of_those_who_wait_for_a_processor_is_a_flaw_of_its_length(bench
     # It belongs to no later recording.
     later = bench.recorder.frames()
     assert str(late_ms) not in " ".join(flaw.what for flaw in bench.recorder.flaws(later))
+
+
+def test_a_stall_that_is_not_over_is_waited_for(bench: Bench) -> None:
+    process = bench.recorder.watch.process
+    first = bench.recorder.frames()
+    process.send_signal(signal.SIGSTOP)
+    threading.Timer(PAUSE_S, process.send_signal, [signal.SIGCONT]).start()
+    assert "a processor came" in " ".join(f.what for f in bench.recorder.flaws(first))
 
 
 def test_a_pause_of_what_plays_is_a_hole_and_no_flaw(bench: Bench) -> None:
