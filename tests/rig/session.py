@@ -10,9 +10,10 @@ from pathlib import Path
 
 from rig.processes import all_processes, end_process, environment_of
 
-# What runs here does not wait for other work of this machine, where the system lets us say so; the
-# sound card, as a real one, waits for nobody.
+# What runs here does not wait for other work of this machine, where the system lets us say so. What
+# its programs wait for does not wait for them; and the sound card, as a real one, waits for nobody.
 AHEAD = ["chrt", "--rr", "1"]
+AHEAD_OF_THOSE = ["chrt", "--rr", "2"]
 FIRST_OF_ALL = ["chrt", "--rr", "5"]
 
 
@@ -29,6 +30,7 @@ class Session:
         self.at_end = ExitStack()
         self.at_end.callback(shutil.rmtree, self.folder, ignore_errors=True)
         self._ahead, self._first_of_all = allowed(AHEAD), allowed(FIRST_OF_ALL)
+        self._ahead_of_those = allowed(AHEAD_OF_THOSE)
         for name in ("home", "runtime", "tmp"):
             (self.folder / name).mkdir(mode=0o700)
         kept = {name: os.environ[name] for name in ("PATH", "USER") if name in os.environ}
@@ -48,9 +50,11 @@ class Session:
         """A new, empty folder whose name begins with `name`."""
         return Path(tempfile.mkdtemp(prefix=name + "-", dir=self.folder))
 
-    def run(self, *command: str, timeout: float = 60, stderr: int | None = None) -> str:
-        """Runs a tool here and returns what it prints."""
-        return subprocess.run([*self._ahead, *command], env=self.env, stdin=subprocess.DEVNULL,
+    def run(self, *command: str, timeout: float = 60, stderr: int | None = None,
+            serves: bool = False) -> str:
+        """Runs a tool here and returns what it prints; or what goes on and `serves` the others."""
+        prefix = self._ahead_of_those if serves else self._ahead
+        return subprocess.run([*prefix, *command], env=self.env, stdin=subprocess.DEVNULL,
                               check=True, timeout=timeout, stdout=subprocess.PIPE, stderr=stderr,
                               text=True).stdout
 

@@ -73,7 +73,8 @@ class Recorder:
     def flaws(self, first_frame: int) -> list[Flaw]:
         """What is wrong with the recording since `first_frame` for reasons of the rig's own, in
         seconds from there. Nothing that a program plays or leaves unplayed can cause one."""
-        broken = [first_frame + frame for frame in breaks(self.all_channels(first_frame)[:, 2])]
+        pilot = self.all_channels(first_frame)[:, 2]
+        broken = [first_frame + frame for frame in beginnings(breaks(pilot))]
         found = [Flaw((frame - first_frame) / RATE, "the pilot breaks") for frame in broken
                  if not any(a <= frame <= b for a, b in self._excused)]
         begin = self.moment_of(first_frame)
@@ -141,6 +142,12 @@ class Recorder:
                 self._bytes += data
                 count = len(self._bytes) // FRAME_BYTES
                 self._first_moment = min(self._first_moment, time.monotonic() - count / RATE)
+
+
+def beginnings(frames: list[int]) -> list[int]:
+    """The first one of each run of frames that are less than 100 ms apart."""
+    return [frame for before, frame in zip([-RATE, *frames], frames)
+            if frame - before > RATE // 10]
 
 
 def save_wav(path: Path, frames: np.ndarray) -> None:

@@ -57,7 +57,7 @@ def bench() -> Iterator[Bench]:
 
 def test_a_pause_of_the_sound_server_breaks_the_pilot(bench: Bench) -> None:
     flaws, _ = bench.pause(bench.server)
-    assert "the pilot breaks" in flaws
+    assert 1 <= flaws.count("the pilot breaks") <= 5
 
 
 def test_a_pause_of_those_who_wait_for_a_processor_is_a_flaw_of_its_length(bench: Bench) -> None:

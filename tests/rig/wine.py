@@ -45,7 +45,7 @@ def start_wine(session: Session) -> Path:
     # Ends every process of the prefix, then waits until the server is gone.
     session.at_end.callback(end_wine, session)
     # A server that outlives its programs keeps later starts short and alike.
-    session.run("wineserver", "-p")
+    session.run("wineserver", "-p", serves=True)
     return prefix
 
 
