@@ -53,7 +53,7 @@ def as_text(tones: list[tuple[float, float]]) -> str:
     mark stands for every tone or pause that is none of these at speed 0."""
     text = ""
     for (begin, length), following in zip(tones, [*tones[1:], None]):
-        text += "." if 0.085 < length < 0.13 else "-" if 0.18 < length < 0.25 else "?"
+        text += "." if 0.085 < length < 0.12 else "-" if 0.18 < length < 0.25 else "?"
         if following:
             pause = following[0] - begin - length
             text += ("" if pause < 0.06 else " " if 0.085 < pause < 0.2

@@ -1,8 +1,8 @@
 """A test is run again only where its recording was bad for reasons of its own, and it is said.
 
-What is heard wrong in a whole recording is wrong. Where the pilot broke while a test ran, what the
-test heard tells nothing about the program: its result does not count, good or bad, and it is taken
-again. Hooks for pytest; a recording test is one with a fixture "recorder".
+What is heard wrong in a whole recording is wrong. Where the pilot broke or the machine stalled while
+a test ran, what the test heard tells nothing about the program: its result does not count, good or
+bad, and it is taken again. Hooks for pytest; a recording test is one with a fixture "recorder".
 """
 
 from _pytest.runner import runtestprotocol
