@@ -1,8 +1,9 @@
 """A test is run again only where its recording was bad for reasons of its own, and it is said.
 
-What is heard wrong in a whole recording is wrong. Where the pilot broke or the machine stalled while
-a test ran, what the test heard tells nothing about the program: its result does not count, good or
-bad, and it is taken again. Hooks for pytest; a recording test is one with a fixture "recorder".
+What is heard wrong in a whole recording is wrong. Where the recording lost something, its test's
+result does not count, good or bad. Where the machine stalled, a failure does not count; what was
+heard right nevertheless is right, since a stall adds nothing to a recording. Such a test is taken
+again. Hooks for pytest; a recording test is one with a fixture "recorder".
 """
 
 from _pytest.runner import runtestprotocol
@@ -41,19 +42,25 @@ def told(flaws: list[Flaw]) -> str:
         f", and {len(flaws) - 1} more" if len(flaws) > 1 else "")
 
 
+def tells_nothing(flaws: list[Flaw], passed: bool) -> bool:
+    """Whether a take with these flaws and this result says nothing about the program."""
+    return any(flaw.lost or not passed for flaw in flaws)
+
+
 def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> bool:
     item.ihook.pytest_runtest_logstart(nodeid=item.nodeid, location=item.location)
     retakes: list[str] = []
     while True:
         item.flaws = []
         reports = runtestprotocol(item, log=False, nextitem=nextitem)
-        if not item.flaws or len(retakes) == TAKES - 1:
+        passed = all(report.passed for report in reports)
+        if not tells_nothing(item.flaws, passed) or len(retakes) == TAKES - 1:
             break
         retakes.append(told(item.flaws))
     for report in reports:
         if report.when == "call":
             report.user_properties += [(RETAKEN, why) for why in retakes]
-            if item.flaws:
+            if passed and tells_nothing(item.flaws, passed):
                 report.outcome = "failed"
                 report.longrepr = f"no whole recording in {TAKES} takes: " + "; ".join(retakes)
         item.ihook.pytest_runtest_logreport(report=report)

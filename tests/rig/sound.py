@@ -22,9 +22,11 @@ FRAME_BYTES = 2 * CHANNELS
 
 @dataclass(frozen=True)
 class Flaw:
-    """Why a recording tells nothing about the program, and where."""
+    """What is wrong with a recording for reasons of the rig's own, and where; whether some of what
+    was played is `lost`."""
     at_s: float
     what: str
+    lost: bool
 
 
 class Recorder:
@@ -75,11 +77,11 @@ class Recorder:
         seconds from there. Nothing that a program plays or leaves unplayed can cause one."""
         pilot = self.all_channels(first_frame)[:, 2]
         broken = [first_frame + frame for frame in beginnings(breaks(pilot))]
-        found = [Flaw((frame - first_frame) / RATE, "the pilot breaks") for frame in broken
+        found = [Flaw((frame - first_frame) / RATE, "the pilot breaks", lost=True) for frame in broken
                  if not any(a <= frame <= b for a, b in self._excused)]
         begin = self.moment_of(first_frame)
-        found += [Flaw(stall.begin - begin, f"a processor came {1000 * stall.seconds:.0f} ms late")
-                  for stall in self.watch.stalls(begin)]
+        found += [Flaw(stall.begin - begin, f"a processor came {1000 * stall.seconds:.0f} ms late",
+                       lost=False) for stall in self.watch.stalls(begin)]
         return sorted(found, key=lambda flaw: flaw.at_s)
 
     def excuse(self, first_frame: int) -> None:

@@ -15,8 +15,8 @@ from rig.retakes import (pytest_runtest_call, pytest_runtest_protocol, pytest_ru
                          pytest_terminal_summary)
 from rig.sound import Flaw
 
-STALL = Flaw(1.25, "a processor came 65 ms late")
-BREAK = Flaw(2.5, "the pilot breaks")
+STALL = Flaw(1.25, "a processor came 65 ms late", lost=False)
+BREAK = Flaw(2.5, "the pilot breaks", lost=True)
 TAKES = {takes}
 
 
@@ -85,9 +85,9 @@ def test_the_result_of_the_first_whole_recording_counts_and_the_others_are_told(
     assert "test_third: the pilot breaks after 2.50 s" in printed
 
 
-def test_a_test_that_passes_with_a_flawed_recording_is_taken_again_and_may_fail(
+def test_a_test_that_passes_with_a_recording_that_lost_something_is_taken_again_and_may_fail(
         pytester: pytest.Pytester) -> None:
-    outcomes, printed = run(pytester, "[[STALL], []]", """
+    outcomes, printed = run(pytester, "[[STALL, BREAK], []]", """
         times = []
         def test_first(recorder):
             times.append(1)
@@ -96,6 +96,30 @@ def test_a_test_that_passes_with_a_flawed_recording_is_taken_again_and_may_fail(
     assert outcomes == {"failed": 1}
     assert "heard wrong" in printed
     assert "1 taken again" in printed
+
+
+def test_what_is_heard_right_though_the_machine_stalled_is_right(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[STALL]]", """
+        times = []
+        def test_once(recorder):
+            times.append(1)
+        def test_how_often():
+            assert len(times) == 1
+    """)
+    assert outcomes == {"passed": 2}
+    assert "0 taken again" in printed
+
+
+def test_what_is_heard_wrong_in_every_take_is_told_as_it_was_heard(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[STALL]]", """
+        def test_always(recorder):
+            assert False, "heard wrong"
+    """)
+    assert outcomes == {"failed": 1}
+    assert "heard wrong" in printed
+    assert f"{TAKES - 1} taken again" in printed
 
 
 def test_without_a_whole_recording_in_all_takes_a_test_fails_whatever_it_heard(
