@@ -77,11 +77,12 @@ class Recorder:
         seconds from there. Nothing that a program plays or leaves unplayed can cause one."""
         pilot = self.all_channels(first_frame)[:, 2]
         broken = [first_frame + frame for frame in beginnings(breaks(pilot))]
-        found = [Flaw((frame - first_frame) / RATE, "the pilot breaks", lost=True) for frame in broken
-                 if not any(a <= frame <= b for a, b in self._excused)]
+        found = [Flaw((frame - first_frame) / RATE, "the pilot breaks", lost=True)
+                 for frame in broken if not any(a <= frame <= b for a, b in self._excused)]
         begin = self.moment_of(first_frame)
-        found += [Flaw(stall.begin - begin, f"a processor came {1000 * stall.seconds:.0f} ms late",
-                       lost=False) for stall in self.watch.stalls(begin)]
+        for stall in self.watch.stalls(begin):
+            what = f"a processor came {1000 * stall.seconds:.0f} ms late"
+            found.append(Flaw(stall.begin - begin, what, lost=False))
         return sorted(found, key=lambda flaw: flaw.at_s)
 
     def excuse(self, first_frame: int) -> None:

@@ -12,7 +12,7 @@ import pytest
 
 from rig.measuring import RATE, loud_stretches
 from rig.session import Session
-from rig.sound import Recorder
+from rig.sound import Flaw, Recorder
 from rig.sound_card import RAW, start_sound_card
 
 PAUSE_S = 0.3
@@ -34,7 +34,7 @@ class Bench:
         self.recorder.wait_for_tone()
         self.recorder.record(0.3)
 
-    def pause(self, process: subprocess.Popen) -> tuple[list[str], bool]:
+    def pause(self, process: subprocess.Popen) -> tuple[list[Flaw], bool]:
         """What is wrong with the recording of a pause of this process, and whether the tone has a
         hole then."""
         first = self.recorder.frames()
@@ -43,7 +43,7 @@ class Bench:
         process.send_signal(signal.SIGCONT)
         self.recorder.record(1)
         holed = len(loud_stretches(self.recorder.samples(first), RATE // 500)) > 1
-        return [flaw.what for flaw in self.recorder.flaws(first)], holed
+        return self.recorder.flaws(first), holed
 
 
 @pytest.fixture(scope="module")
@@ -57,13 +57,17 @@ def bench() -> Iterator[Bench]:
 
 def test_a_pause_of_the_sound_server_breaks_the_pilot(bench: Bench) -> None:
     flaws, _ = bench.pause(bench.server)
-    assert 1 <= flaws.count("the pilot breaks") <= 5
+    broken = [flaw for flaw in flaws if flaw.what == "the pilot breaks"]
+    assert 1 <= len(broken) <= 5
+    assert all(flaw.lost for flaw in broken)
 
 
 def test_a_pause_of_those_who_wait_for_a_processor_is_a_flaw_of_its_length(bench: Bench) -> None:
     first = bench.recorder.frames()
     flaws, _ = bench.pause(bench.recorder.watch.process)
-    late_ms = max(int(what.split()[3]) for what in flaws if what.startswith("a processor came"))
+    late = [flaw for flaw in flaws if flaw.what.startswith("a processor came")]
+    assert not any(flaw.lost for flaw in late)
+    late_ms = max(int(flaw.what.split()[3]) for flaw in late)
     assert 1000 * PAUSE_S - 20 <= late_ms <= 1000 * PAUSE_S + 500
     at_s = min(flaw.at_s for flaw in bench.recorder.flaws(first) if str(late_ms) in flaw.what)
     assert -0.1 <= at_s <= 0.5
