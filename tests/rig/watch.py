@@ -18,9 +18,8 @@ from rig.session import Session
 from rig.waiting import wait_for
 
 PERIOD_S = 0.005
-# A fifth of what the programs have in hand (STEADY_SOUND in window.py): several of their threads
-# wait for each other. With the precedence of a rig's programs this is rare on the busiest machine.
-LATE_S = 0.02
+# As long as the shortest thing that is listened to, the player's pause between two tones.
+LATE_S = 0.01
 BEAT = struct.Struct("d")
 
 
