@@ -18,6 +18,7 @@ TEST_F(PlayFaultTest, AHelperThatCannotStartEndsThePlayAndTheWindowSaysWhere) {
     sim.processes.missing_commands.clear();
     EXPECT_TRUE(player.Command1.Enabled());
     EXPECT_EQ(player.Label6.Caption(), "");
+    EXPECT_EQ(player.Label8.Caption(), "");
     EXPECT_EQ(player.Label1.Caption(), "0");
     EXPECT_EQ(player.ProgressBar1.Value(), 0);
     EXPECT_EQ(logged, Lines{">>> Tone 1 cannot be played: File not found"});
