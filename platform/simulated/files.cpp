@@ -79,6 +79,12 @@ std::vector<std::string> Files::PathsIn(const std::string& folder) const {
   return paths;
 }
 
+std::map<std::string, std::string> Files::All() const {
+  std::map<std::string, std::string> all;
+  for (const auto& [key, file] : files_) all[file.path] = file.bytes;
+  return all;
+}
+
 void Files::Fail(Operation operation, const std::string& path, base::ErrorCode code) {
   faults_[{operation, base::ToLower(path)}] = code;
 }

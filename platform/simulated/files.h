@@ -39,6 +39,7 @@ class Files : public FileSystem {
   void Put(const std::string& path, const std::string& bytes);
   std::optional<std::string> Get(const std::string& path) const;
   std::vector<std::string> PathsIn(const std::string& folder) const;
+  std::map<std::string, std::string> All() const;  // contents by path
 
   // Every `operation` on `path` fails with `code` until Heal().
   void Fail(Operation operation, const std::string& path, base::ErrorCode code);
