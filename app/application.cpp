@@ -38,7 +38,7 @@ void Application::Run() {
     // The news have come up over it.
     if (form5.Visible() && form3.Visible()) form5.Show();
   });
-  platform_.pump.Run();
+  form1.Handle([this] { platform_.pump.Run(); });
   // Nothing is left to be seen or used.
   form1.Handle([this] { form1.Unload(); });
 }
