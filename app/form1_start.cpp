@@ -106,11 +106,16 @@ void Form1::ShowSoundMode() {
 
 void Form1::TestConnection(ExFunctions& ex_functions) {
   const std::string path = state_.temp_folder + "\\testcon.dat";
+  test_file_ = path;
   connection_flag_ = ex_functions.Download(Site().ConnectionTest(), path) ? 1 : 0;
-  if (platform_.files.Exists(path) && file_mode_flag_ != 1 && connection_flag_ != 0) {
-    others_.news.ShowPage(Site().News());
-  }
+  const auto failure = base::Caught([&] {
+    if (platform_.files.Exists(path) && file_mode_flag_ != 1 && connection_flag_ != 0) {
+      others_.news.ShowPage(Site().News());
+    }
+  });
+  test_file_.clear();
   platform_.files.Delete(path);
+  if (failure) throw *failure;
 }
 
 void Form1::FinishStart(Program& program) {
@@ -157,6 +162,7 @@ void Form1::Form_Unload() {
     ExFunctions(context_).WavPlay("0", false, true);
     // The play that this ends never comes to release what it started.
     if (playing) local_sound.KillAll();
+    if (!test_file_.empty()) base::Quietly([&] { platform_.files.Delete(test_file_); });
     Leftovers(platform_).ClearAtEnd(state_);
     if (state_.SendData == 1) program.SendData();
     others_.unload();

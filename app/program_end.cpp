@@ -32,9 +32,12 @@ bool ProgramEnd::CanWriteIn(const std::string& folder) {
   // Not being able to write is what the test is there to find out, no run-time error.
   const auto failure =
       base::Caught([&] { platform_.Texts().Write(probe, base::Line("Tonmira write test")); });
-  const bool there = platform_.files.Exists(probe);
-  if (there) platform_.files.Delete(probe);
-  return there && !failure;
+  if (!failure && platform_.files.Exists(probe)) {
+    platform_.files.Delete(probe);
+    return true;
+  }
+  base::Quietly([&] { platform_.files.Delete(probe); });
+  return false;
 }
 
 }  // namespace app

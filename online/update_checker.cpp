@@ -27,7 +27,12 @@ std::optional<UpdateFile> UpdateChecker::Fetch() {
   const std::string path = platform_.environment.Get("TEMP") + "\\updatetonmira.txt";
   const std::string link = SiteAddresses(platform_.environment).UpdateFile();
   if (!Downloads(platform_, errors_).Download(link, path)) return std::nullopt;
-  const auto content = platform_.Texts().ReadBytes(path);
+  std::optional<std::string> content;
+  const auto failure = base::Caught([&] { content = platform_.Texts().ReadBytes(path); });
+  if (failure) {
+    base::Quietly([&] { platform_.files.Delete(path); });
+    throw *failure;
+  }
   if (!content) return std::nullopt;
   const auto update = ParseUpdateFile(*content);
   if (update) platform_.files.Delete(path);
