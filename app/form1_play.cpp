@@ -12,6 +12,18 @@ namespace {
 
 constexpr std::int16_t kPlayTickMs = 208;
 
+// Sets a flag for as long as it lives.
+class Playing {
+ public:
+  explicit Playing(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Playing() { flag_ = false; }
+  Playing(const Playing&) = delete;
+  Playing& operator=(const Playing&) = delete;
+
+ private:
+  bool& flag_;
+};
+
 }  // namespace
 
 void Form1::Command2_Click() {
@@ -51,6 +63,7 @@ void Form1::Play(Program& program) {
     return;
   }
   DisableForPlaying();
+  const Playing playing(plays_);
   if (mode.kind == ToneKind::kSweep) {
     PlaySweep(program, tone);
   } else {

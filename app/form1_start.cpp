@@ -150,20 +150,25 @@ void Form1::Form_Unload() {
       if (last_close_answer_ == platform::kAnswerYes) platform_.processes.EndProcess();
     }
     close_attempts_ = 1;
+    // Stop itself may have failed half-way: its buttons tell nothing.
+    const bool playing = plays_ && state_.stop_flag != 1;
     state_.stop_flag = 1;
-    const bool playing = Command3.Enabled();
     sound local_sound(context_);
-    Hide();
-    others_.news.Hide();
-    if (state_.MicrophoneON == 1) EndCapture();
-    DirectSoundRecord.reset();
-    const std::string old_wave = state_.temp_folder + "\\tnftmp.wav";
-    if (platform_.files.Exists(old_wave)) platform_.files.Delete(old_wave);
+    const auto failure = base::Caught([&] {
+      Hide();
+      others_.news.Hide();
+      if (state_.MicrophoneON == 1) EndCapture();
+      DirectSoundRecord.reset();
+      const std::string old_wave = state_.temp_folder + "\\tnftmp.wav";
+      if (platform_.files.Exists(old_wave)) platform_.files.Delete(old_wave);
+    });
+    // Nothing sounds on while a failure is reported.
     ExFunctions(context_).WavPlay("0", false, true);
     // The play that this ends never comes to release what it started.
     if (playing) local_sound.KillAll();
     if (!test_file_.empty()) base::Quietly([&] { platform_.files.Delete(test_file_); });
     Leftovers(platform_).ClearAtEnd(state_);
+    if (failure) throw *failure;
     if (state_.SendData == 1) program.SendData();
     others_.unload();
     platform_.processes.EndProcess();

@@ -21,7 +21,7 @@ void RouteSupport::KillAll() {
     ReadTempFolder();
     HelperPrograms(platform_).EndAll();
     waves_.WavPlay(" ", false, true);
-    ShowPitchCaption();
+    base::Quietly([this] { ShowPitchCaption(); });
     DeleteIfThere(HandOverPath());
     playing = 0;
     DeleteIfThere(temp_ + "\\tnfwinmmtmp.wav");
