@@ -178,8 +178,9 @@ class Form1 : public Form1Controls, public settings::SettingsDisplay, public ton
   std::int16_t close_attempts_ = 0;
   std::int16_t last_close_answer_ = 0;
   bool stays_hidden_ = false;
-  std::string test_file_;  // of the connection test, while it is made
-  bool plays_ = false;     // a tone or a sweep, until Play is left
+  std::string test_file_;     // of the connection test, while it is made
+  bool plays_ = false;        // a tone or a sweep, until Play is left
+  bool plays_again_ = false;  // once Play is left
 
   // In the order of the tone modes: whether one was disabled already when a play began.
   std::array<bool, kToneModes.size()> disabled_modes_{};

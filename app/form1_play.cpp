@@ -26,9 +26,16 @@ class Playing {
 
 }  // namespace
 
+// A loop of the system's (an open menu, a dialog) can handle Stop and then Play within the play
+// that is just being stopped. Plays follow each other, they never run within one another.
 void Form1::Command2_Click() {
-  Program program(context_);
-  base::TrapErrors(program, base::ErrorValue::kPlay, [&] { Play(program); });
+  plays_again_ = plays_;
+  if (plays_) return;
+  do {
+    plays_again_ = false;
+    Program program(context_);
+    base::TrapErrors(program, base::ErrorValue::kPlay, [&] { Play(program); });
+  } while (plays_again_);
 }
 
 void Form1::Command3_Click() {

@@ -189,5 +189,24 @@ INSTANTIATE_TEST_SUITE_P(
                          "Actual pitch (Hertz): 200", "Actual pitch (Hertz): 400",
                          "Actual pitch (Hertz): 600"}}));
 
+// As an open menu does, which handles messages by itself.
+TEST_F(PlayTest, APlayInTheSameBreathAsStopBeginsWhenTheFirstIsOver) {
+  At(1s, [](Form1& form1) {
+    form1.Option3.Click();
+    form1.Command2.Click();
+  });
+  At(1300ms, [this](Form1& form1) {
+    form1.Command3.Click();
+    form1.Command2.Click();
+    EXPECT_EQ(LogEntries().back(), "#Pressed Button 3");
+  });
+  At(1600ms, [](Form1& form1) { form1.Command3.Click(); });
+  EXPECT_FALSE(Run());
+  EXPECT_EQ(EntriesAfterStart(), (Lines{"#Option 3 Clicked", "#Pressed Button 2", "10000",
+                                        "#Pressed Button 3", "#Sound stopped", "#Pressed Button 2",
+                                        "10000", "#Pressed Button 3", "#Sound stopped"}));
+  EXPECT_TRUE(sim.waves.playing.empty());
+}
+
 }  // namespace
 }  // namespace app
