@@ -32,6 +32,11 @@ std::string FaultyEnvironment::Arguments() {
   return real_.Arguments();
 }
 
+std::string FaultyEnvironment::SystemFolder() {
+  calls_.Enter("environment.SystemFolder");
+  return real_.SystemFolder();
+}
+
 std::string FaultyEnvironment::ProgramFolder() {
   calls_.Enter("environment.ProgramFolder");
   return real_.ProgramFolder();
@@ -87,6 +92,16 @@ bool FaultyPump::ProcessUntil(const std::function<bool()>& done, int at_most_ms)
   return pump_.ProcessUntil(done, at_most_ms);
 }
 
+bool FaultyPump::Pass(const std::function<bool()>& stopped, Moment end, Grain grain) {
+  calls_.Enter("pump.Pass");
+  return pump_.Pass(stopped, end, grain);
+}
+
+void FaultyPump::SleepUntil(Moment end) {
+  calls_.Enter("pump.SleepUntil");
+  pump_.SleepUntil(end);
+}
+
 void FaultyPump::Sleep(int milliseconds) {
   calls_.Enter("pump.Sleep");
   pump_.Sleep(milliseconds);
@@ -115,9 +130,9 @@ void FaultyProcesses::Start(const std::string& command) {
   real_.Start(command);
 }
 
-void FaultyProcesses::StartHidden(const std::string& command) {
+void FaultyProcesses::StartHidden(const std::string& program, const std::string& command) {
   calls_.Enter("processes.StartHidden", command, ErrorCode::kFileNotFound);
-  real_.StartHidden(command);
+  real_.StartHidden(program, command);
 }
 
 void FaultyProcesses::StartProgram(const std::string& program, const std::string& arguments) {

@@ -26,6 +26,7 @@ class FaultyEnvironment : public Environment {
   // A variable that cannot be read is empty.
   std::string Get(const std::string& name) override;
   std::string Arguments() override;
+  std::string SystemFolder() override;
   std::string ProgramFolder() override;
   std::string ProgramName() override;
   std::string FullPath(const std::string& path) override;
@@ -68,7 +69,10 @@ class FaultyPump : public MessagePump, public Timers {
 
   void ProcessPending(const std::function<bool()>& enough = {}) override;
   bool ProcessUntil(const std::function<bool()>& done, int at_most_ms) override;
+  bool Pass(const std::function<bool()>& stopped, Moment end, Grain grain) override;
+  Moment Now() const override { return pump_.Now(); }  // not counted: it cannot fail
   void Sleep(int milliseconds) override;
+  void SleepUntil(Moment end) override;
   void Run() override;
   std::unique_ptr<Timer> Start(int period_ms, std::function<void()> tick) override;
 
@@ -85,7 +89,7 @@ class FaultyProcesses : public Processes {
   std::vector<ProcessEntry> Snapshot() override;
   bool Terminate(std::uint32_t id) override;
   void Start(const std::string& command) override;
-  void StartHidden(const std::string& command) override;
+  void StartHidden(const std::string& program, const std::string& command) override;
   void StartProgram(const std::string& program, const std::string& arguments) override;
 
   // Not counted: it cannot fail.
