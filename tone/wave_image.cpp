@@ -7,58 +7,20 @@ namespace {
 
 constexpr std::int16_t kPcm = 1;
 constexpr std::int32_t kFormatBytes = 16;
+constexpr std::uint32_t kRiffBytes = 36;  // of the header that the container's size counts
 
-struct Sizes {
-  std::int32_t byte_rate;
-  std::int32_t block_align;
-  std::int32_t data_bytes;  // what the image holds
-  std::int32_t data_field;  // what its header says
-};
-
-Sizes Compute(std::int32_t channels, std::int32_t samples, std::int32_t rate, std::int32_t bits) {
+// The bytes of `samples` frames, as the field in front of them counts them.
+std::int32_t DataBytes(std::int32_t channels, std::int32_t samples, std::int32_t bits) {
   using base::MultiplyInt32;
-  Sizes sizes{};
-  sizes.byte_rate = base::ToInt32(MultiplyInt32(MultiplyInt32(rate, channels), bits) / 8.0);
-  sizes.block_align = base::ToInt32(MultiplyInt32(bits, channels) / 8.0);
-  sizes.data_bytes = MultiplyInt32(sizes.block_align, samples);
-  sizes.data_field = base::ToInt32(MultiplyInt32(MultiplyInt32(channels, samples), bits) / 8.0);
-  return sizes;
+  return base::ToInt32(MultiplyInt32(MultiplyInt32(channels, samples), bits) / 8.0);
 }
 
 // Appends the `bytes` low bytes of `value`, low byte first.
-void Append(std::string& image, std::int32_t value, int bytes) {
-  auto rest = static_cast<std::uint32_t>(value);
+void Append(std::string& image, std::uint32_t value, int bytes) {
   for (int i = 0; i < bytes; ++i) {
-    image += static_cast<char>(rest & 0xFF);
-    rest >>= 8;
+    image += static_cast<char>(value & 0xFF);
+    value >>= 8;
   }
-}
-
-// The header, and behind it room for the data.
-std::string Prepared(std::size_t channel_count, std::size_t sample_count, std::int32_t sample_rate,
-                     std::int16_t bits_per_sample) {
-  const std::int32_t channels = base::ToInt32(static_cast<double>(channel_count));
-  const std::int32_t count = base::ToInt32(static_cast<double>(sample_count));
-  const Sizes sizes = Compute(channels, count, sample_rate, bits_per_sample);
-  const std::int32_t total =
-      base::AddInt32(sizes.data_bytes, static_cast<std::int32_t>(kWaveHeaderBytes));
-
-  std::string image;
-  image.reserve(static_cast<std::size_t>(total));
-  image += "RIFF";
-  Append(image, total - 8, 4);
-  image += "WAVEfmt ";
-  Append(image, kFormatBytes, 4);
-  Append(image, kPcm, 2);
-  Append(image, channels, 2);
-  Append(image, sample_rate, 4);
-  Append(image, sizes.byte_rate, 4);
-  Append(image, sizes.block_align, 2);
-  Append(image, bits_per_sample, 2);
-  image += "data";
-  Append(image, sizes.data_field, 4);
-  image.resize(static_cast<std::size_t>(total));
-  return image;
 }
 
 // Writes the low bytes of each value, low byte first.
@@ -69,6 +31,49 @@ void WriteData(const std::int32_t* values, std::size_t count, char* data) {
       data[i * kBytes + byte] = static_cast<char>(values[i] >> (8 * byte));
     }
   }
+}
+
+}  // namespace
+
+std::string WaveHeader(const WaveHeaderFields& fields) {
+  using base::MultiplyInt32;
+  const auto [channels, rate, bits, data_bytes] = fields;
+  const std::int32_t byte_rate =
+      base::ToInt32(MultiplyInt32(MultiplyInt32(rate, channels), bits) / 8.0);
+  const std::int32_t block_align = base::ToInt32(MultiplyInt32(bits, channels) / 8.0);
+  std::string header;
+  const auto append = [&](std::int32_t value, int bytes) {
+    Append(header, static_cast<std::uint32_t>(value), bytes);
+  };
+  header += "RIFF";
+  Append(header, data_bytes == kEndlessData ? data_bytes : data_bytes + kRiffBytes, 4);
+  header += "WAVEfmt ";
+  append(kFormatBytes, 4);
+  append(kPcm, 2);
+  append(channels, 2);
+  append(rate, 4);
+  append(byte_rate, 4);
+  append(block_align, 2);
+  append(bits, 2);
+  header += "data";
+  Append(header, data_bytes, 4);
+  return header;
+}
+
+namespace {
+
+// The header, and behind it room for the data.
+std::string Prepared(std::size_t channel_count, std::size_t sample_count, std::int32_t sample_rate,
+                     std::int16_t bits_per_sample) {
+  const std::int32_t channels = base::ToInt32(static_cast<double>(channel_count));
+  const std::int32_t count = base::ToInt32(static_cast<double>(sample_count));
+  const std::int32_t data_bytes = DataBytes(channels, count, bits_per_sample);
+  const std::int32_t total =
+      base::AddInt32(data_bytes, static_cast<std::int32_t>(kWaveHeaderBytes));
+  std::string image =
+      WaveHeader({channels, sample_rate, bits_per_sample, static_cast<std::uint32_t>(data_bytes)});
+  image.resize(static_cast<std::size_t>(total));
+  return image;
 }
 
 }  // namespace

@@ -75,6 +75,20 @@ TEST(WaveImageTest, EightBitSamplesAreTheLowByte) {
   EXPECT_EQ(Field(image, 34, 2), 8u);
 }
 
+TEST(WaveHeaderTest, TheSizesAreThoseOfTheData) {
+  const std::string header = WaveHeader({2, 44100, 16, 1000});
+  ASSERT_EQ(header.size(), 44u);
+  EXPECT_EQ(Field(header, 4, 4), 1036u);
+  EXPECT_EQ(Field(header, 40, 4), 1000u);
+  EXPECT_EQ(Field(WaveHeader({2, 44100, 16, kMostDataBytes}), 4, 4), 0xFFFFFFFFu);
+}
+
+TEST(WaveHeaderTest, AStreamWithoutEndHasTheGreatestSizes) {
+  const std::string header = WaveHeader({2, 44100, 16, kEndlessData});
+  EXPECT_EQ(Field(header, 4, 4), 0xFFFFFFFFu);
+  EXPECT_EQ(Field(header, 40, 4), 0xFFFFFFFFu);
+}
+
 TEST(WaveImageTest, ARateBeyond32BitsOverflows) {
   EXPECT_THROW(WaveImage(SampleBuffer(2, 1), 0x7FFFFFFF, 16), base::RuntimeError);
 }
