@@ -68,6 +68,7 @@ ReadProgram ReadToneProgram(base::ByteSource& bytes) {
   // A second pass over the same bytes would find the same lines.
   if (!result.given_up) {
     MoveInto(result.findings, CheckProgram(state, result.program, result.lines));
+    if (state.position == result.lines) result.ignored_line = state.lines[state.position];
   }
   return result;
 }

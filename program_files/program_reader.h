@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -60,6 +61,8 @@ struct ReadProgram {
   std::vector<Finding> findings;  // in file order; none for a legal file
   std::int32_t lines = 0;         // how many lines were read
   bool given_up = false;          // after the last finding: nothing of the file is played
+  // The last line where no entry could begin any more; nothing if the last one belongs to an entry.
+  std::optional<std::string> ignored_line;
 };
 
 // Reads and checks a whole program. The bytes are in a code page that has ASCII in its lower half;

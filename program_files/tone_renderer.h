@@ -9,6 +9,10 @@
 // nearest whole number, halves up. So no border, nor the end, is more than half a frame from where
 // it belongs, however many tones there are. A first tone of 1 ms has 44 frames, one of 5 ms (220.5)
 // has 221; ten of 1 ms have 441 together.
+//
+// With smooth edges each tone rises in its first 5 ms and falls in its last 5 ms by half a wave of
+// a cosine (a raised-cosine ramp, the usual one for tones in hearing tests), so that none clicks; a
+// tone of less than 10 ms rises and falls by halves. No border moves.
 #pragma once
 
 #include <cstddef>
@@ -28,7 +32,9 @@ std::int64_t FramesUntil(std::int64_t time_ms);
 // Renders in pieces of any size, holding one second of one tone at most.
 class ToneRenderer {
  public:
-  explicit ToneRenderer(const ToneProgram& program);
+  enum class Edges { kAsPlayed, kSmooth };
+
+  explicit ToneRenderer(const ToneProgram& program, Edges edges = Edges::kAsPlayed);
 
   // Of the whole program.
   std::int64_t LengthMs() const { return length_ms_; }
@@ -41,9 +47,11 @@ class ToneRenderer {
  private:
   bool BeginTone();
   void Copy(std::int16_t* to, std::size_t frames) const;
+  void Smooth(std::int16_t* samples, std::size_t frames) const;
 
   std::vector<Tone> tones_;
   std::int32_t extra_time_ms_;
+  Edges edges_;
   std::int64_t length_ms_ = 0;
 
   std::size_t next_tone_ = 0;

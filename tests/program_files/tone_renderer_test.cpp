@@ -124,6 +124,47 @@ TEST(ToneRenderer, TonesWithoutLengthHaveNoFrames) {
   EXPECT_EQ(FramesOf(0, {{440, 0}, {11025, 10}, {880, 0}}), 441);
 }
 
+Samples Smoothed(const ToneProgram& program, std::size_t piece_frames) {
+  ToneRenderer renderer(program, ToneRenderer::Edges::kSmooth);
+  Samples piece(2 * piece_frames);
+  Samples all;
+  while (const std::size_t count = renderer.Render(piece)) {
+    all.insert(all.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(2 * count));
+  }
+  return all;
+}
+
+// A quarter wave, so that every other sample is a peak: by hand, 30000 * (1 - cos(pi * (n + 0.5) /
+// 220)) / 2 for the peaks n = 1, 3, 109 and 111 from either end.
+TEST(ToneRenderer, SmoothEdgesRiseAndFallByHalfAWaveOfACosine) {
+  const ToneProgram program = ProgramOf(10, {{11025, 90}});
+  const Samples samples = Smoothed(program, 1000);
+  ASSERT_EQ(samples.size(), 2u * 4410);
+  EXPECT_EQ(Frames(samples, 0, 4), (Samples{0, 3, 0, -19}));
+  EXPECT_EQ(Frames(samples, 109, 3), (Samples{14893, 0, -15321}));
+  EXPECT_EQ(Frames(samples, 219, 3), (Samples{-30000, 0, 30000}));
+  EXPECT_EQ(Frames(samples, 4188, 3), Frames(RenderProgram(program), 4188, 3));
+  EXPECT_EQ(std::abs(samples[2 * 4409]), 0);
+  EXPECT_LT(std::abs(samples[2 * 4407]), 30);
+}
+
+TEST(ToneRenderer, SmoothEdgesOfAShortToneMeetInItsMiddle) {
+  const Samples samples = Smoothed(ProgramOf(1, {{11025, 4}, {11025, 4}}), 1000);
+  ASSERT_EQ(samples.size(), 2u * 441);
+  EXPECT_LT(std::abs(samples[2 * 1]), 30);
+  EXPECT_GT(std::abs(samples[2 * 109]), 29000);
+  EXPECT_LT(std::abs(samples[2 * 219]), 30);
+  EXPECT_LT(std::abs(samples[2 * 222]), 30);
+}
+
+TEST(ToneRenderer, SmoothPiecesOfAnySizeMakeTheSameWhole) {
+  const ToneProgram program = ProgramOf(3, {{440, 120}, {440, 2}, {31999, 70}, {0, 0}});
+  const Samples whole = Smoothed(program, 100000);
+  for (const std::size_t frames : {1u, 7u, 441u}) {
+    EXPECT_TRUE(Smoothed(program, frames) == whole) << frames;
+  }
+}
+
 TEST(ToneRenderer, TheLongestProgramLastsAlmost18Hours) {
   const ToneRenderer renderer(ProgramOf(32000, std::vector<Tone>(996, {440, 32000})));
   EXPECT_EQ(renderer.LengthMs(), 63744000);
