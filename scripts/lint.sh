@@ -47,7 +47,7 @@ write_units() {
 tidy_unit() {
   local unit=$1 arguments=(-std=c++20 -I. -Ibuild/native/generated) files half
   case $(basename "$unit" .cpp) in
-    room-helpers* | room-platform-windows* | room-main*)
+    room-helpers* | room-platform-windows* | room-tools-windows* | room-main*)
       mapfile -t -O "${#arguments[@]}" arguments <"$unit_folder/mingw.txt"
       ;;
   esac
@@ -78,7 +78,7 @@ python() {
 }
 
 shell() {
-  sources run test .ci/run '*.sh' | xargs shellcheck
+  sources run test .ci/run '*.sh' '*.bash' | xargs shellcheck
 }
 
 case ${1:-} in

@@ -4,13 +4,17 @@
 readonly python=/usr/bin/python3
 
 # What only looks at portable code.
-readonly portable_packages=(clang cmake libclang-rt-dev libgtest-dev make python3)
+readonly portable_packages=(clang cmake libclang-rt-dev libcli11-dev libgtest-dev make python3)
+
+# What builds tnf, and looks at its manual page and completion.
+readonly tools_packages=(bash-completion cmake g++ groff-base libcli11-dev make)
 
 # What fuzzes it: Clang with libFuzzer.
 readonly fuzz_packages=(clang cmake libclang-rt-dev make)
 
 # What builds the program for Windows.
-readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32 make)
+readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32
+  libcli11-dev make)
 
 # What runs it, listens to it and looks at it.
 readonly rig_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
@@ -21,8 +25,8 @@ readonly site_packages=(chromium chromium-driver fonts-liberation nginx openssl 
   python3-selenium tidy)
 
 # What looks at the sources without running them.
-readonly lint_packages=(clang clang-format clang-tidy cmake flake8 g++-mingw-w64-x86-64-win32 git make
-  shellcheck)
+readonly lint_packages=(clang clang-format clang-tidy cmake flake8 g++-mingw-w64-x86-64-win32 git
+  libcli11-dev make shellcheck)
 
 # What makes root filesystems, for other kinds of Wine.
 readonly root_packages=(debootstrap)
@@ -67,16 +71,24 @@ build() {
   cmake --preset "$1" && cmake --build --preset "$1"
 }
 
+# Whether there is a header of that name.
+compiles() {
+  echo "#if !__has_include(<$1>)
+#error
+#endif" | clang++ -fsyntax-only -x c++ - 2>/dev/null
+}
+
 # Prints what the portable build lacks, on any system, in one line; nothing when all is there.
 missing_portable_tools() {
-  local missing=() compiler=clang++
+  local missing=()
   command -v cmake >/dev/null || missing+=(cmake)
   command -v make >/dev/null || missing+=(make)
   [[ -x $python ]] || missing+=(python3)
-  if ! command -v "$compiler" >/dev/null; then
+  if ! command -v clang++ >/dev/null; then
     missing+=(clang libclang-rt-dev)
-  elif ! echo '#include <gtest/gtest.h>' | "$compiler" -std=c++20 -fsyntax-only -x c++ - 2>/dev/null; then
-    missing+=(libgtest-dev)
+  else
+    compiles gtest/gtest.h || missing+=(libgtest-dev)
+    compiles CLI/CLI.hpp || missing+=(libcli11-dev)
   fi
   echo "${missing[*]}"
 }

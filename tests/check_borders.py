@@ -27,6 +27,7 @@ WINDOWS_ROOMS = {
     "views": {"api", "web"},
     "sound": {"api", "views"},
 }
+COMPANION = {"tools/posix", "tools/windows"}
 NATIVE = {f"platform/windows/{room}" for room in WINDOWS_ROOMS}
 
 # The tests of a room know what it knows, the simulation, and the tests of the rooms below. So each
@@ -38,6 +39,7 @@ TESTED = {
     **{room: SERVICES | below for room, below in SUBSYSTEMS.items()},
     "app": APP,
     "helpers": {"base", "tone"},
+    "tools": {"base", "tone", "morse", "program_files"},
 }
 ALLOWED = {
     "base": set(),
@@ -51,10 +53,12 @@ ALLOWED = {
     "app": APP,
     "main.cpp": APP | {"app", "platform/windows"},
     "helpers": {"base", "tone", "platform/windows/api"},
+    "tools": {"base", "tone", "morse", "program_files"},
+    **{room: {"tools"} for room in COMPANION},
     **{f"tests/{room}": {room} | below | {f"tests/{other}" for other in below} | SIMULATION
        for room, below in TESTED.items()},
     "tests/fuzz": {"base", "helpers", "lang", "online", "program_files", "settings", "tone",
-                   "tests/program_files"},
+                   "tools", "tests/program_files"},
     "tests/rig": set(),
     # They may stand in for the system around a part of the program.
     "tests/rig/bare": {"platform/windows/api", "platform/windows/web"},
@@ -65,12 +69,15 @@ ALLOWED = {
 SHARED_HEADERS = {"helpers": {"online/addresses.h"}}
 
 # Where the Windows API may be used.
-WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tests/rig", "tests/rig/bare"}
+WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tools/windows", "tests/rig",
+                    "tests/rig/bare"}
 
 # Beside the C++ standard library's headers.
 FURTHER_HEADERS = {
     **{f"tests/{room}": {"gtest/gtest.h", "gmock/gmock.h", "quadmath.h"} for room in TESTED},
     "bench": {"benchmark/benchmark.h"},
+    "tools": {"CLI/CLI.hpp"},
+    "tools/posix": {"sys/stat.h", "unistd.h"},
 }
 STANDARD_HEADER = re.compile("[a-z_0-9]+")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)

@@ -23,7 +23,7 @@ import runner
 
 ROOT = Path(__file__).resolve().parents[2]
 ROOMS = ("base ui platform tone settings lang morse program_files display online about app "
-         "helpers").split()
+         "helpers tools").split()
 
 
 def room_of(path):
