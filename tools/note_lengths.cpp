@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <compare>
 #include <cstdlib>
 #include <tuple>
 #include <utility>
@@ -53,7 +52,11 @@ struct Cost {
   std::int64_t far_us = 0;  // of the errors that are more than rounding
   std::int32_t dotted = 0;
   std::int64_t near_us = 0;
-  auto operator<=>(const Cost&) const = default;
+
+  friend bool operator<(const Cost& a, const Cost& b) {
+    return std::tie(a.misfits, a.joined, a.far_us, a.dotted, a.near_us) <
+           std::tie(b.misfits, b.joined, b.far_us, b.dotted, b.near_us);
+  }
 };
 
 // A note for what lasts `length_ms`, and its cost beside that of what follows.
