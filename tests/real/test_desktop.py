@@ -110,7 +110,7 @@ def test_new_colours_of_the_system_are_shown_at_once(
         return set(np.unique(screen.look(place)))
 
     def change(index: int, colour: int) -> None:
-        inside(program, "ChangeColour", index << 32 | colour)
+        inside(program, "ChangeColour", index << 24 | colour)
 
     before = {index: int(driver.ask("colour", str(index))[0][0])
               for index in (COLOR_WINDOWTEXT, COLOR_3DFACE, COLOR_BTNTEXT)}

@@ -135,10 +135,10 @@ extern "C" HRESULT WINAPI DllCanUnloadNow() {
 
 // Begun by the driver as threads of the program. All windows are told.
 
-// A colour: its index in the upper half, 0x00BBGGRR in the lower one.
+// A colour: its index in the upper byte, 0xBBGGRR below.
 extern "C" DWORD WINAPI ChangeColour(void* index_and_colour) {
   const auto value = reinterpret_cast<std::uintptr_t>(index_and_colour);
-  const int index = static_cast<int>(value >> 32);
+  const int index = static_cast<int>(value >> 24);
   const auto colour = static_cast<COLORREF>(value & 0xFFFFFF);
   if (!SetSysColors(1, &index, &colour)) return 0;
   return PostMessageW(HWND_BROADCAST, WM_SYSCOLORCHANGE, 0, 0) ? 1 : 0;
