@@ -1,7 +1,7 @@
 // The C++ library asks how much of a file is left with a function that the runtime library of
 // Windows 2000 lacks; a program that imports it does not start there. No file is read through the
-// C++ library here (only argument parsing's unused configuration files would be), so that the answer
-// "not known" serves.
+// C++ library here (only argument parsing's unused configuration files would be), so that the
+// answer "not known" serves.
 #ifndef _WIN64
 #include <cerrno>
 
