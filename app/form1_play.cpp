@@ -15,7 +15,7 @@ constexpr std::int16_t kPlayTickMs = 208;
 // Sets a flag for as long as it lives.
 class Playing {
  public:
-  explicit Playing(bool& flag) : flag_(flag) { flag_ = true; }
+  explicit Playing(bool& flag) : flag_(flag) { flag = true; }
   ~Playing() { flag_ = false; }
   Playing(const Playing&) = delete;
   Playing& operator=(const Playing&) = delete;

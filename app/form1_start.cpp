@@ -115,7 +115,7 @@ void Form1::TestConnection(ExFunctions& ex_functions) {
   });
   test_file_.clear();
   platform_.files.Delete(path);
-  if (failure) throw *failure;
+  base::ThrowAgain(failure);
 }
 
 void Form1::FinishStart(Program& program) {
@@ -168,7 +168,7 @@ void Form1::Form_Unload() {
     if (playing) local_sound.KillAll();
     if (!test_file_.empty()) base::Quietly([&] { platform_.files.Delete(test_file_); });
     Leftovers(platform_).ClearAtEnd(state_);
-    if (failure) throw *failure;
+    base::ThrowAgain(failure);
     if (state_.SendData == 1) program.SendData();
     others_.unload();
     platform_.processes.EndProcess();

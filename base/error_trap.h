@@ -31,6 +31,11 @@ std::optional<RuntimeError> Caught(const Body& body) {
   return std::nullopt;
 }
 
+// Throws on what was caught, if anything was.
+inline void ThrowAgain(const std::optional<RuntimeError>& failure) {
+  if (failure) throw RuntimeError(*failure);
+}
+
 // Runs `body` and reports what it throws under the error value `value`. `errors` has an ErrorNote.
 template <class Reporter, class Body>
 void TrapErrors(Reporter& errors, ErrorValue value, const Body& body) {

@@ -31,7 +31,7 @@ std::optional<UpdateFile> UpdateChecker::Fetch() {
   const auto failure = base::Caught([&] { content = platform_.Texts().ReadBytes(path); });
   if (failure) {
     base::Quietly([&] { platform_.files.Delete(path); });
-    throw *failure;
+    base::ThrowAgain(failure);
   }
   if (!content) return std::nullopt;
   const auto update = ParseUpdateFile(*content);

@@ -119,7 +119,7 @@ void Form9::SoundTone() {
   if (output == base::Output::kPlayer || output == base::Output::kDirectSound) {
     const auto failure =
         winmm_.SoundWinmmRNDTMP(tone.pitch_hz, tone.duration_ms + program_.extra_time_ms);
-    if (failure) throw *failure;
+    base::ThrowAgain(failure);
     return;
   }
   if (output == base::Output::kHelper16) support_.Wait(kClassicStartMs);

@@ -50,11 +50,11 @@ void RouteSupport::WriteTone(std::int32_t pitch) {
   const std::string& image = image_.Of(pitch);
   auto failure = waves_.WriteWave(WavePath(), image);
   if (!failure) return;
-  if (!platform_.files.Exists(WavePath())) throw *failure;
+  if (!platform_.files.Exists(WavePath())) base::ThrowAgain(failure);
   own_wave_ = platform_.files.TemporaryName(WavePath());
   state_.own_wave = own_wave_;
   failure = waves_.WriteWave(own_wave_, image);
-  if (failure) throw *failure;
+  base::ThrowAgain(failure);
 }
 
 void RouteSupport::DeleteIfThere(const std::string& path) {

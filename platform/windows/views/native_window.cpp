@@ -59,6 +59,10 @@ NativeWindow::NativeWindow(ui::Window& window, HINSTANCE instance, AccessibleTex
       appearance_(instance),
       menu_(window),
       controls_(window, appearance_, texts) {
+  Create();
+}
+
+void NativeWindow::Create() {
   ShowAccessKeys();
   handle_ = CreateFrame(window_, menu_.handle(), appearance_);
   controls_.Create(handle_);

@@ -47,6 +47,7 @@ class NativeWindow final : public ui::WindowView {
   LRESULT Dispatch(UINT message, WPARAM wparam, LPARAM lparam);
 
  private:
+  void Create();
   void ShowAccessKeys();
   LRESULT DefaultButtonId() const;
 

@@ -51,6 +51,7 @@ inline const std::vector<Rule>& Rules() {
       {"pump.", kEither, kProcedures},
 
       {"environment.DecimalSign", kSilence, {}},
+      {"environment.SystemFolder", kEither, {1025}},  // a helper is silent, an upload is not
       {"environment.ProgramName", kEither, {14, 15, 502}},
 
       // Files. The first lines of the log are not waited for.
