@@ -1,10 +1,12 @@
-// Ring tone text (RTTTL, Ring Tone Text Transfer Language; Nokia, Smart Messaging Specification
-// 3.0.0, 2000): "name : defaults : notes".
+// Ring tone text (RTTTL, Ring Tone Text Transfer Language; Nokia, Smart Messaging 3.0.0, 2000):
+// "name : defaults : notes".
 //
-//   defaults  d=, o=, b=, separated by commas: duration 4, octave 6 and 63 beats a minute if not
-//   said note      [1|2|4|8|16|32|64] a..h|p [#] [.] [octave 4..8] [.]; B and H are the same, P is
-//   a rest,
-//             a dot makes a note half as long again
+// Defaults: d=, o= and b=, separated by commas; duration 4, octave 6 and 63 beats a minute where
+// nothing is said.
+//
+// A note: [1|2|4|8|16|32|64] a..h|p [#] [.] [octave 4..8] [.]; B and H are the same, P is a rest, a
+// dot makes a note half as long again.
+//
 // Between the notes the defaults may be set anew. Besides, s= is the style (s staccato, n natural,
 // c continuous) and l= how often the tune is repeated, which a tone program cannot do. Any case,
 // and blanks and line ends anywhere.
