@@ -5,8 +5,9 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 readonly rigs=${TONMIRA_RIGS:-2}
-# These keep a processor busy for a minute, at the rig's priority: nobody should listen beside them.
-readonly busy=(tests/real/test_samples.py tests/real/test_surroundings.py)
+# These keep a processor busy for a minute, at the priority of a rig: nobody should listen beside them.
+readonly busy=(tests/real/test_random_user.py tests/real/test_samples.py
+  tests/real/test_surroundings.py)
 readonly no_tests_chosen=5
 
 options=(-q -p no:cacheprovider --durations=5 --dist loadfile)
