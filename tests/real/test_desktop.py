@@ -1,6 +1,8 @@
 """At home on the desktop: other resolutions, fonts and colours while it runs, and where its windows
 stand."""
 
+import signal
+import time
 import xml.etree.ElementTree as ET
 from collections.abc import Callable
 
@@ -9,7 +11,7 @@ import pytest
 
 from rig.desktop import open_windows, start
 from rig.paths import PROGRAM, SCREENS
-from rig.program import GOOD_SETTINGS, Folders, Tonmira
+from rig.program import GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
 from rig.resolution import cut_off, set_dpi
 from rig.rig import Rig
 from rig.screen import Screen
@@ -61,6 +63,24 @@ def test_every_window_follows_the_resolution_of_the_screen_it_comes_to(
                                 moving=True)
         assert window.client().width == before.width
         assert window.client().height == before.height
+
+
+def test_a_window_stays_where_it_began_when_the_window_manager_answers_late(
+        rig: Rig, launch: Launch, folders: Folders, user: User) -> None:
+    program = start(launch, folders)
+    rig.window_manager.send_signal(signal.SIGSTOP)
+    try:
+        program.window().choose(MENU_ABOUT)
+        about = program.window("About Tonmira")
+        time.sleep(0.2)
+        begun = about.client()
+    finally:
+        rig.window_manager.send_signal(signal.SIGCONT)
+    assert (begun.width, begun.height) == (420, 198)
+    for _ in range(14):
+        time.sleep(0.05)
+        assert about.client() == begun
+    user.x_window(about)  # it is on the screen
 
 
 @pytest.mark.parametrize("dpi", [96, 120, 144, 192])

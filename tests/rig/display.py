@@ -9,8 +9,9 @@ from rig.waiting import wait_for
 SCREEN = "1280x1024x24"
 
 
-def start_display(session: Session) -> str:
-    """Starts it for everything that runs in the session; returns its number."""
+def start_display(session: Session) -> tuple[str, subprocess.Popen]:
+    """Starts it for everything that runs in the session; returns its number and the window
+    manager."""
     reading, writing = os.pipe()
     with os.fdopen(reading) as answer:
         session.start("Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN, "-nolisten",
@@ -20,9 +21,10 @@ def start_display(session: Session) -> str:
     if not number:
         raise RuntimeError("the virtual display did not start")
     session.env["DISPLAY"] = ":" + number
-    session.start("openbox", "--sm-disable", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    manager = session.start("openbox", "--sm-disable", stdout=subprocess.DEVNULL,
+                            stderr=subprocess.DEVNULL)
     wait_for(lambda: windows_are_managed(session), "the window manager")
-    return number
+    return number, manager
 
 
 def windows_are_managed(session: Session) -> bool:

@@ -22,7 +22,7 @@ class Rig(Session):
         self.env["TONMIRA_SITE"] = "http://127.0.0.1:1"
         self.display_number = ""
         try:
-            self.display_number = start_display(self)
+            self.display_number, self.window_manager = start_display(self)
             start_sound_card(self)
             self.prefix = start_wine(self)
         except BaseException:

@@ -27,7 +27,14 @@ ui::Extent DesignOf(const ui::Window& window) {
   return {window.design().width, window.design().height};
 }
 
-// What frame, title and menu take, as the window has them now.
+// What frame, title and menu take at the system's resolution.
+ui::Extent UsualFrame(const FrameStyle& style, HMENU menu) {
+  RECT outer{};
+  AdjustWindowRectEx(&outer, style.style, menu != nullptr ? TRUE : FALSE, style.extended_style);
+  return {outer.right - outer.left, outer.bottom - outer.top};
+}
+
+// The same, as the window has them now.
 ui::Extent FrameOf(HWND handle) {
   RECT outer{};
   RECT client{};
@@ -66,6 +73,17 @@ void Put(HWND handle, ui::Corner corner, ui::Extent size) {
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+ui::Rect FirstPlace(const ui::Window& window, const Monitor& monitor, ui::Extent frame,
+                    Appearance& appearance) {
+  appearance.Use(monitor, DesignOf(window), frame);
+  const ui::Extent size = OuterSize(window, appearance, frame, monitor.work);
+  // What is only to be looked at stands above the middle, where dialogs that come meanwhile open.
+  const auto height = window.design().takes_focus ? ui::Height::kMiddle : ui::Height::kUpperThird;
+  const ui::Corner corner =
+      ui::FreeCorner(size, monitor.work, height, appearance.Scale(kStepAside), TakenCorners());
+  return {corner.x, corner.y, size.width, size.height};
+}
+
 ui::Rect RectOf(const RECT& place) {
   return {place.left, place.top, place.right - place.left, place.bottom - place.top};
 }
@@ -73,23 +91,17 @@ ui::Rect RectOf(const RECT& place) {
 }  // namespace
 
 HWND CreateFrame(const ui::Window& window, HMENU menu, Appearance& appearance) {
-  const ui::Window::Design& design = window.design();
+  const FrameStyle style = FrameStyleOf(window.design());
   const Monitor monitor = MonitorOfUser();
-  const FrameStyle frame_style = FrameStyleOf(design);
-  // It begins on its monitor, whose resolution then counts for its frame; that is measured.
-  const HWND handle =
-      CreateWindowExW(frame_style.extended_style, kWindowClass, Widen(window.Caption()).c_str(),
-                      frame_style.style, monitor.work.x, monitor.work.y, monitor.work.width,
-                      monitor.work.height, nullptr, menu, appearance.instance(), nullptr);
+  // It begins where it stays: a window manager that answers late would put it back there.
+  const ui::Rect first = FirstPlace(window, monitor, UsualFrame(style, menu), appearance);
+  const HWND handle = CreateWindowExW(
+      style.extended_style, kWindowClass, Widen(window.Caption()).c_str(), style.style, first.x,
+      first.y, first.width, first.height, nullptr, menu, appearance.instance(), nullptr);
   if (handle == nullptr) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
-  const ui::Extent frame = FrameOf(handle);
-  appearance.Use(monitor, DesignOf(window), frame);
-  const ui::Extent size = OuterSize(window, appearance, frame, monitor.work);
-  // What is only to be looked at stands above the middle, where dialogs that come meanwhile open.
-  const auto height = design.takes_focus ? ui::Height::kMiddle : ui::Height::kUpperThird;
-  Put(handle,
-      ui::FreeCorner(size, monitor.work, height, appearance.Scale(kStepAside), TakenCorners()),
-      size);
+  // Its monitor's resolution counts for its frame, and a menu may take two lines.
+  const ui::Rect place = FirstPlace(window, monitor, FrameOf(handle), appearance);
+  Put(handle, {place.x, place.y}, {place.width, place.height});
   return handle;
 }
 
