@@ -84,6 +84,12 @@ ui::Rect FirstPlace(const ui::Window& window, const Monitor& monitor, ui::Extent
   return {corner.x, corner.y, size.width, size.height};
 }
 
+// A window that came to another resolution has its frame of that resolution only after this.
+void MeasureFrameAgain(HWND handle) {
+  SetWindowPos(handle, nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
 ui::Rect RectOf(const RECT& place) {
   return {place.left, place.top, place.right - place.left, place.bottom - place.top};
 }
@@ -107,25 +113,19 @@ HWND CreateFrame(const ui::Window& window, HMENU menu, Appearance& appearance) {
 
 bool RefitFrame(HWND handle, const ui::Window& window, const Monitor& monitor,
                 const RECT* suggested, Appearance& appearance) {
-  if (suggested != nullptr) {
-    // From here on the frame is that of the new resolution.
-    const ui::Rect place = RectOf(*suggested);
-    Put(handle, {place.x, place.y}, {place.width, place.height});
-  }
+  if (suggested != nullptr) MeasureFrameAgain(handle);
   const ui::Extent frame = FrameOf(handle);
   const bool changed = appearance.Use(monitor, DesignOf(window), frame);
   if (IsIconic(handle) || (!changed && suggested == nullptr)) return changed;
   RECT now{};
   GetWindowRect(handle, &now);
   const ui::Rect& work = monitor.work;
+  ui::Rect around = RectOf(suggested != nullptr ? *suggested : now);
   // The user gave a sizable window its size.
-  const ui::Extent size =
-      window.design().sizable
-          ? ui::LimitedTo({now.right - now.left, now.bottom - now.top}, {work.width, work.height})
-          : OuterSize(window, appearance, frame, work);
-  const ui::Rect around = suggested != nullptr
-                              ? RectOf(*suggested)
-                              : ui::Rect{now.left, now.top, size.width, size.height};
+  const ui::Extent size = window.design().sizable ? ui::LimitedTo({around.width, around.height},
+                                                                  {work.width, work.height})
+                                                  : OuterSize(window, appearance, frame, work);
+  if (suggested == nullptr) around = {around.x, around.y, size.width, size.height};
   Put(handle, ui::CornerOnNewScreen(size, around, work), size);
   return changed;
 }
