@@ -29,27 +29,37 @@ mingw_arguments() {
     sed 's/^/-isystem\n/'
 }
 
-# A room's sources are looked at as one, since most of the time goes into the standard library's
-# headers; entry points stand alone. Prints the units.
+# Sources are looked at together, since most of the time goes into the standard library's headers:
+# those that know Windows, and the others as two units of about one size. Entry points stand alone.
+# Prints the units.
 write_units() {
   rm -rf "$unit_folder"
   mkdir -p "$unit_folder"
-  local file unit
-  sources '*.cpp' ':!tests' ':!bench' | while read -r file; do
-    unit=$(dirname "$file")
-    case $file in *main.cpp) unit=${file%.cpp} ;; esac
-    printf '#include "%s"\n' "$file" >>"$unit_folder/room-${unit//\//-}.cpp"
-  done
-  printf "%s\n" "$unit_folder"/*.cpp
+  local file portable=() windows=()
+  while read -r file; do
+    case $file in
+      *main.cpp) write_unit "entry-${file//\//-}" "$file" ;;
+      helpers/* | platform/windows/* | tools/windows/*) windows+=("$file") ;;
+      *) portable+=("$file") ;;
+    esac
+  done < <(sources '*.cpp' ':!tests' ':!bench')
+  write_unit windows.cpp "${windows[@]}"
+  write_unit portable-1.cpp "${portable[@]:0:${#portable[@]}/2}"
+  write_unit portable-2.cpp "${portable[@]:${#portable[@]}/2}"
+  printf '%s\n' "$unit_folder"/*.cpp
 }
 
-# Names in unnamed namespaces may clash within a room: its sources are looked at in halves then.
+# write_unit NAME FILE...
+write_unit() {
+  printf '#include "%s"\n' "${@:2}" >"$unit_folder/$1"
+}
+
+# Names in unnamed namespaces may clash: a unit is looked at in halves then.
 tidy_unit() {
   local unit=$1 arguments=(-std=c++20 -I. -Ibuild/native/generated) files half
   case $(basename "$unit" .cpp) in
-    room-helpers* | room-platform-windows* | room-tools-windows* | room-main*)
-      mapfile -t -O "${#arguments[@]}" arguments <"$unit_folder/mingw.txt"
-      ;;
+    portable* | entry-tools-posix*) ;;
+    *) mapfile -t -O "${#arguments[@]}" arguments <"$unit_folder/mingw.txt" ;;
   esac
   mapfile -t files <"$unit"
   half=$((${#files[@]} / 2))

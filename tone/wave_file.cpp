@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "tone/wave_layout.h"
+
 namespace tone {
 namespace {
 
 constexpr std::size_t kRiffHeader = 12;
 constexpr std::size_t kChunkHeader = 8;
-constexpr std::size_t kFormatBytes = 16;
-constexpr std::uint32_t kPcm = 1;
 
 std::uint32_t Number(std::string_view bytes, std::size_t at, int count) {
   std::uint32_t value = 0;

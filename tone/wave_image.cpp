@@ -1,12 +1,11 @@
 #include "tone/wave_image.h"
 
 #include "base/numbers.h"
+#include "tone/wave_layout.h"
 
 namespace tone {
 namespace {
 
-constexpr std::int16_t kPcm = 1;
-constexpr std::int32_t kFormatBytes = 16;
 constexpr std::uint32_t kRiffBytes = 36;  // of the header that the container's size counts
 
 // The bytes of `samples` frames, as the field in front of them counts them.

@@ -16,7 +16,7 @@
 namespace platform::windows {
 namespace {
 
-using CreateFunction = HRESULT(WINAPI*)(LPCGUID, LPDIRECTSOUNDCAPTURE8*, LPUNKNOWN);
+using CreateCapture = HRESULT(WINAPI*)(LPCGUID, LPDIRECTSOUNDCAPTURE8*, LPUNKNOWN);
 using EnumerateFunction = HRESULT(WINAPI*)(LPDSENUMCALLBACKW, LPVOID);
 
 // The library's own interface ids are data in an import library, which is not linked.
@@ -57,12 +57,12 @@ BOOL CALLBACK TakeDevice(GUID* guid, LPCWSTR, LPCWSTR, LPVOID devices) {
   return TRUE;
 }
 
-class Buffer final : public CaptureBuffer {
+class Recording final : public CaptureBuffer {
  public:
-  explicit Buffer(ComOwner<IDirectSoundCaptureBuffer> buffer) : buffer_(std::move(buffer)) {}
-  ~Buffer() override { Stop(); }
-  Buffer(const Buffer&) = delete;
-  Buffer& operator=(const Buffer&) = delete;
+  explicit Recording(ComOwner<IDirectSoundCaptureBuffer> buffer) : buffer_(std::move(buffer)) {}
+  ~Recording() override { Stop(); }
+  Recording(const Recording&) = delete;
+  Recording& operator=(const Recording&) = delete;
 
   void SetPositions(std::span<const CapturePosition> positions) override {
     void* found = nullptr;
@@ -99,9 +99,9 @@ class Buffer final : public CaptureBuffer {
   ComOwner<IDirectSoundCaptureBuffer> buffer_;
 };
 
-class Device final : public CaptureDevice {
+class Microphone final : public CaptureDevice {
  public:
-  explicit Device(ComOwner<IDirectSoundCapture> device) : device_(std::move(device)) {}
+  explicit Microphone(ComOwner<IDirectSoundCapture> device) : device_(std::move(device)) {}
 
   std::unique_ptr<CaptureBuffer> CreateBuffer(const WaveFormat& format,
                                               std::uint32_t size_bytes) override {
@@ -112,16 +112,16 @@ class Device final : public CaptureDevice {
     description.lpwfxFormat = &native;
     IDirectSoundCaptureBuffer* created = nullptr;
     CheckDevice(device_->CreateCaptureBuffer(&description, &created, nullptr));
-    return std::make_unique<Buffer>(ComOwner<IDirectSoundCaptureBuffer>(created));
+    return std::make_unique<Recording>(ComOwner<IDirectSoundCaptureBuffer>(created));
   }
 
  private:
   ComOwner<IDirectSoundCapture> device_;
 };
 
-class Root final : public CaptureRoot {
+class Microphones final : public CaptureRoot {
  public:
-  Root(CreateFunction create, EnumerateFunction enumerate)
+  Microphones(CreateCapture create, EnumerateFunction enumerate)
       : create_(create), enumerate_(enumerate) {}
 
   std::vector<std::string> Devices() override {
@@ -135,7 +135,7 @@ class Root final : public CaptureRoot {
     const bool is_default = identifier == IdentifierOf(nullptr);
     IDirectSoundCapture* created = nullptr;
     CheckDevice(create_(is_default ? nullptr : &guid, &created, nullptr));
-    return std::make_unique<Device>(ComOwner<IDirectSoundCapture>(created));
+    return std::make_unique<Microphone>(ComOwner<IDirectSoundCapture>(created));
   }
 
   std::unique_ptr<CaptureEvent> MakeEvent(std::function<void(std::int32_t)> callback) override {
@@ -143,7 +143,7 @@ class Root final : public CaptureRoot {
   }
 
  private:
-  CreateFunction create_;
+  CreateCapture create_;
   EnumerateFunction enumerate_;
   std::int32_t last_event_ = 0;
 };
@@ -152,12 +152,12 @@ class Root final : public CaptureRoot {
 
 std::unique_ptr<CaptureRoot> WindowsSoundCapture::Create() {
   const HMODULE library = LoadSystemLibrary(L"dsound.dll");
-  const auto create = FunctionOf<CreateFunction>(library, "DirectSoundCaptureCreate8");
+  const auto create = FunctionOf<CreateCapture>(library, "DirectSoundCaptureCreate8");
   const auto enumerate = FunctionOf<EnumerateFunction>(library, "DirectSoundCaptureEnumerateW");
   if (create == nullptr || enumerate == nullptr) {
     throw base::RuntimeError(base::ErrorCode::kDeviceError);
   }
-  return std::make_unique<Root>(create, enumerate);
+  return std::make_unique<Microphones>(create, enumerate);
 }
 
 }  // namespace platform::windows

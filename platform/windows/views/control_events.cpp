@@ -4,19 +4,13 @@
 
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/views/combo_box_view.h"
+#include "platform/windows/views/control_values.h"
 #include "platform/windows/views/scroll_bar_view.h"
 
 namespace platform::windows {
 namespace {
 
 using ui::ControlKind;
-
-std::string TextOf(HWND handle) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle)) + 1, L'\0');
-  const int length = GetWindowTextW(handle, text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
-  return Narrow(text);
-}
 
 }  // namespace
 
@@ -115,7 +109,7 @@ bool ControlEvents::IsKind(std::size_t index, ControlKind kind) const {
 // A text box says so whenever its text changed, also when the program changed it.
 void ControlEvents::TakeText(std::size_t index) const {
   if (!IsKind(index, ControlKind::kTextBox)) return;
-  static_cast<ui::TextBox&>(controls_.control(index)).Edit(TextOf(controls_.handle(index)));
+  static_cast<ui::TextBox&>(controls_.control(index)).Edit(TextIn(controls_.handle(index)));
 }
 
 }  // namespace platform::windows

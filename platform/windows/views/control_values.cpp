@@ -35,18 +35,18 @@ void ShowListItems(HWND list, const ui::ListBox& list_box, const Appearance& app
                static_cast<WPARAM>(widest) + static_cast<WPARAM>(margin), 0);
 }
 
-std::string TextOf(HWND handle) {
+}  // namespace
+
+std::string TextIn(HWND handle) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle)) + 1, L'\0');
   const int length = GetWindowTextW(handle, text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
   return Narrow(text);
 }
 
-}  // namespace
-
 void ReadValue(HWND handle, ui::Control& control) {
   if (control.kind() == ControlKind::kTextBox) {
-    static_cast<ui::TextBox&>(control).Take(TextOf(handle));
+    static_cast<ui::TextBox&>(control).Take(TextIn(handle));
   } else if (control.kind() == ControlKind::kCheckBox) {
     const bool checked = SendMessageW(handle, BM_GETCHECK, 0, 0) == BST_CHECKED;
     static_cast<ui::CheckBox&>(control).SetValue(checked);

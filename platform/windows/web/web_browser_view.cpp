@@ -12,8 +12,6 @@
 namespace platform::windows {
 namespace {
 
-using InitializeFunction = HRESULT(WINAPI*)(LPVOID);
-using CreateFunction = HRESULT(WINAPI*)(REFCLSID, LPUNKNOWN, DWORD, REFIID, LPVOID*);
 using TextFunction = BSTR(WINAPI*)(const OLECHAR*);
 using FreeTextFunction = void(WINAPI*)(BSTR);
 
@@ -40,9 +38,11 @@ class ComText {
 };
 
 ComOwner<IOleObject> CreateBrowser() {
+  using Initialize = HRESULT(WINAPI*)(LPVOID);
+  using Create = HRESULT(WINAPI*)(REFCLSID, LPUNKNOWN, DWORD, REFIID, LPVOID*);
   const HMODULE library = LoadSystemLibrary(L"ole32.dll");
-  const auto initialize = FunctionOf<InitializeFunction>(library, "OleInitialize");
-  const auto create = FunctionOf<CreateFunction>(library, "CoCreateInstance");
+  const auto initialize = FunctionOf<Initialize>(library, "OleInitialize");
+  const auto create = FunctionOf<Create>(library, "CoCreateInstance");
   if (initialize == nullptr || create == nullptr) return nullptr;
   TurnOnBrowserGuards();
   // Never undone: what a page left behind may live until the process ends.
