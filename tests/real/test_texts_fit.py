@@ -15,6 +15,18 @@ DUTCH_MODES = ["Lage toon", "Gemiddelde toon", "Hoge toon", "Extreme toon", "Spo
                "Laag naar hoog", "Eigen toonhoogte", "Morsetool", "Gehoorleeftijd"]
 
 
+SM_CYMENU = 15
+
+
+def menu_lines(driver: Driver, window: Window, without_menu: Window) -> float:
+    """How many lines its menu bar takes, beside a window with the same frame and none."""
+    def frame_height(of: Window) -> int:
+        return of.place().height - of.client().height
+
+    line_height = int(driver.ask("metric", str(SM_CYMENU))[0][0])
+    return (frame_height(window) - frame_height(without_menu)) / line_height
+
+
 @pytest.mark.parametrize(("language", "modes", "custom", "help_button", "play", "tool"), [
     ("EN", MODES, "Custom pitch", "Help", "Start", "Morse tool"),
     ("NL", DUTCH_MODES, "Eigen toonhoogte", "Help", "Starten", "Morsetool"),
@@ -48,7 +60,9 @@ def test_no_caption_is_cut_off(rig: Rig, user: User, driver_at_dpi: tuple[Driver
         main.press(tool)
         wait_for(lambda: main.is_checked(tool), tool)
         main.press(play)
-        look_at(program.window(tool), "morse")
+        morse = program.window(tool)
+        look_at(morse, "morse")
+        assert menu_lines(driver, main, morse) == 1
         main.choose(MENU_ABOUT)
         look_at(program.window("About Tonmira"), "about")
     finally:

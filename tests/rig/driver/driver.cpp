@@ -119,6 +119,8 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
       {"resolution", [&](const Fields& f) { TellResolution(programs.Get(f.at(1)), f); }},
       {"inside", [&](const Fields& f) { CallInside(programs.Get(f.at(1)), f); }},
       {"colour", [](const Fields& f) { std::cout << GetSysColor(std::stoi(f.at(1))) << '\n'; }},
+      {"metric",
+       [](const Fields& f) { std::cout << GetSystemMetrics(std::stoi(f.at(1))) << '\n'; }},
       {"selection",
        [](const Fields& f) {
          const auto selected = static_cast<DWORD>(Ask(Window(f.at(1)), EM_GETSEL));
