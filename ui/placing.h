@@ -12,6 +12,8 @@ inline constexpr int kDesignDpi = 96;
 struct Extent {
   int width = 0;
   int height = 0;
+
+  friend bool operator==(const Extent&, const Extent&) = default;
 };
 
 struct Corner {

@@ -9,12 +9,15 @@ from collections.abc import Callable
 import numpy as np
 import pytest
 
+from rig.bad_hosts import host
 from rig.desktop import open_windows, start
+from rig.online import PATIENCE_S, good_site
 from rig.paths import PROGRAM, SCREENS
-from rig.program import GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
+from rig.program import FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
 from rig.resolution import cut_off, set_dpi
 from rig.rig import Rig
 from rig.screen import Screen
+from rig.tone_programs import file_of, open_file, wait_until_played
 from rig.waiting import wait_for
 from rig.window import Driver, Place, User, Window
 
@@ -33,42 +36,101 @@ def resolution_of(window: Window, design_width: int) -> int:
     return round(window.client().width * 96 / design_width)
 
 
-@pytest.mark.parametrize("language", ["EN", "NL"])
+class Mover:
+    """Moves windows from one screen to another, and looks at what they make of it there."""
+
+    def __init__(self, driver: Driver, user: User, language: str):
+        self._driver = driver
+        self._user = user
+        self._language = language
+
+    def move(self, program: Tonmira, name: str, window: Window) -> None:
+        before = window.client()
+        for dpi in (120, 144, 192, 96):
+            self._move_to(program, name, window, before, dpi)
+        after = window.client()
+        assert (after.width, after.height) == (before.width, before.height), name
+
+    def _move_to(self, program: Tonmira, name: str, window: Window, before: Place,
+                 dpi: int) -> None:
+        scale = dpi / 96
+        place = Place(40, 30, round(before.width * scale) + 10, round(before.height * scale) + 40)
+        tell_resolution(program, window, dpi, place)
+
+        # The window manager has its say, too, and may be late with it.
+        def follows() -> bool:
+            own = resolution_of(window, before.width)
+            # The screen of the rig is too small for the main window at 192 DPI.
+            limited = own < dpi and window.place().width > SCREEN_WIDTH - 20
+            return (own == dpi or limited) and self._user.has_its_size(window)
+
+        # An answer to what was before may come in between.
+        wait_for(lambda: all(follows() for _ in range(5)), f"{name} at {dpi} DPI")
+        client, outer = window.client(), window.place()
+        own = resolution_of(window, before.width)
+        assert client.height == pytest.approx(before.height * own / 96, abs=1)
+        assert 0 <= outer.x and outer.x + outer.width <= SCREEN_WIDTH
+        assert 0 <= outer.y and outer.y + outer.height <= SCREEN_HEIGHT
+        assert cut_off(self._driver, window, own) == [], (name, dpi)
+        for control in window.controls():
+            inner = control.place
+            if not control.visible:
+                continue
+            assert inner.x >= client.x and inner.y >= client.y, (name, dpi, control)
+            assert inner.x + inner.width <= client.x + client.width, (name, dpi, control)
+        if dpi == 144:
+            self._user.activate(window)
+            self._user.screenshot(window, SCREENS / f"moved-{name}-{self._language.lower()}.png",
+                                  moving=True)
+
+
+@pytest.fixture(params=["EN", "NL"])
+def language(request: pytest.FixtureRequest) -> str:
+    return request.param
+
+
+@pytest.fixture
+def mover(driver: Driver, user: User, language: str) -> Mover:
+    return Mover(driver, user, language)
+
+
 def test_every_window_follows_the_resolution_of_the_screen_it_comes_to(
-        launch: Launch, folders: Folders, driver: Driver, user: User, language: str) -> None:
+        launch: Launch, folders: Folders, mover: Mover, language: str) -> None:
     program = start(launch, folders, language)
     for name, (window, width) in open_windows(program, language).items():
-        before = window.client()
-        assert before.width == width, name
-        for dpi in (120, 144, 192, 96):
-            scale = dpi / 96
-            place = Place(40, 30, round(before.width * scale) + 10,
-                          round(before.height * scale) + 40)
-            tell_resolution(program, window, dpi, place)
+        assert window.client().width == width, name
+        mover.move(program, name, window)
 
-            # The window manager has its say, too.
-            def follows(window: Window = window, width: int = width, dpi: int = dpi) -> bool:
-                own = resolution_of(window, width)
-                # The screen of the rig is too small for the main window at 192 DPI.
-                return own == dpi or (own < dpi and window.place().width > SCREEN_WIDTH - 20)
 
-            wait_for(follows, f"{name} at {dpi} DPI")
-            client, outer = window.client(), window.place()
-            own = resolution_of(window, width)
-            assert client.height == pytest.approx(before.height * own / 96, abs=1)
-            assert 0 <= outer.x and outer.x + outer.width <= SCREEN_WIDTH
-            assert 0 <= outer.y and outer.y + outer.height <= SCREEN_HEIGHT
-            assert cut_off(driver, window, own) == [], (name, dpi)
-            for control in window.controls():
-                inner = control.place
-                assert inner.x >= client.x and inner.y >= client.y, (name, dpi, control)
-                assert inner.x + inner.width <= client.x + client.width, (name, dpi, control)
-            if dpi == 144:
-                user.activate(window)
-                user.screenshot(window, SCREENS / f"moved-{name}-{language.lower()}.png",
-                                moving=True)
-        assert window.client().width == before.width
-        assert window.client().height == before.height
+def test_the_player_follows_the_resolution_of_the_screen_it_comes_to(
+        rig: Rig, driver: Driver, mover: Mover, language: str) -> None:
+    path = rig.new_folder("tones") / "test.tnf"
+    path.write_bytes(file_of([(440, 100)]))
+    program = open_file(rig, driver, path, language=language)
+    try:
+        player = program.window()
+        wait_until_played(player)
+        mover.move(program, "player", player)
+    finally:
+        program.finish()
+
+
+def test_the_first_run_dialog_follows_the_resolution_of_the_screen_it_comes_to(
+        launch: Launch, folders: Folders, mover: Mover, language: str) -> None:
+    program = launch(folders)
+    dialog = program.window(FIRST_RUN_TITLE)
+    dialog.select(["EN", "NL"].index(language))
+    refusal = {"EN": "Don't accept", "NL": "Niet accepteren"}[language]
+    wait_for(lambda: refusal in dialog.texts(), "the language")
+    mover.move(program, "first-run", dialog)
+
+
+def test_the_update_dialog_follows_the_resolution_of_the_screen_it_comes_to(
+        begin: Callable[..., Tonmira], mover: Mover, language: str) -> None:
+    title = {"EN": "Update found", "NL": "Update gevonden"}[language]
+    with host(good_site(b"237\r\nhttp://a.example/tonmira-2.3.7.exe\r\n")) as good:
+        program = begin(good.site, language)
+        mover.move(program, "update", program.window(title, seconds=PATIENCE_S))
 
 
 def test_a_window_stays_where_it_began_when_the_window_manager_answers_late(

@@ -33,11 +33,12 @@ def file_of(entries: Entries, visibility: str = "visible", extra_ms: int = EXTRA
 
 def open_file(rig: Rig, driver: Driver, path: Path, sound_bit: str = "256",
               quoted: bool = False, folders: Folders | None = None,
-              start_folder: Path | None = None, name: str | None = None) -> Tonmira:
+              start_folder: Path | None = None, name: str | None = None,
+              language: str = "EN") -> Tonmira:
     """Starts the program with the file as its argument, under `name` where one is given."""
     folders = folders or Folders(rig)
     settings = list(GOOD_SETTINGS)
-    settings[1] = f"SoundBit={sound_bit}"
+    settings[1], settings[2] = f"SoundBit={sound_bit}", f"Language={language}"
     folders.write_settings(settings)
     argument = name or rig.windows_path(path)
     return Tonmira(rig, driver, folders, start_folder=start_folder,

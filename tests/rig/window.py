@@ -208,6 +208,12 @@ class User:
             pass  # a window went while xdotool looked
         return ""
 
+    def has_its_size(self, window: Window) -> bool:
+        """Whether the display shows the window as wide as the program has it."""
+        geometry = self.xdotool("getwindowgeometry", self.x_window(window))
+        found = re.search(r"Geometry: (\d+)x", geometry)
+        return bool(found) and int(found[1]) == window.client().width
+
     def activate(self, window: Window) -> None:
         self.xdotool("windowactivate", "--sync", self.x_window(window))
 

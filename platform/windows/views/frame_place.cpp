@@ -1,5 +1,6 @@
 #include "platform/windows/views/frame_place.h"
 
+#include <utility>
 #include <vector>
 
 #include "base/errors.h"
@@ -84,14 +85,24 @@ ui::Rect FirstPlace(const ui::Window& window, const Monitor& monitor, ui::Extent
   return {corner.x, corner.y, size.width, size.height};
 }
 
-// A window that came to another resolution has its frame of that resolution only after this.
-void MeasureFrameAgain(HWND handle) {
-  SetWindowPos(handle, nullptr, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-}
-
 ui::Rect RectOf(const RECT& place) {
   return {place.left, place.top, place.right - place.left, place.bottom - place.top};
+}
+
+// Where a window goes whose frame is `frame`: around the middle of `suggested`, where that is
+// given.
+void PutOn(const Monitor& monitor, HWND handle, const ui::Window& window, const RECT* suggested,
+           ui::Extent frame, const Appearance& appearance) {
+  RECT now{};
+  GetWindowRect(handle, &now);
+  const ui::Rect& work = monitor.work;
+  ui::Rect around = RectOf(suggested != nullptr ? *suggested : now);
+  // The user gave a sizable window its size.
+  const ui::Extent size = window.design().sizable ? ui::LimitedTo({around.width, around.height},
+                                                                  {work.width, work.height})
+                                                  : OuterSize(window, appearance, frame, work);
+  if (suggested == nullptr) around = {around.x, around.y, size.width, size.height};
+  Put(handle, ui::CornerOnNewScreen(size, around, work), size);
 }
 
 }  // namespace
@@ -113,20 +124,16 @@ HWND CreateFrame(const ui::Window& window, HMENU menu, Appearance& appearance) {
 
 bool RefitFrame(HWND handle, const ui::Window& window, const Monitor& monitor,
                 const RECT* suggested, Appearance& appearance) {
-  if (suggested != nullptr) MeasureFrameAgain(handle);
-  const ui::Extent frame = FrameOf(handle);
-  const bool changed = appearance.Use(monitor, DesignOf(window), frame);
+  ui::Extent frame = FrameOf(handle);
+  bool changed = appearance.Use(monitor, DesignOf(window), frame);
   if (IsIconic(handle) || (!changed && suggested == nullptr)) return changed;
-  RECT now{};
-  GetWindowRect(handle, &now);
-  const ui::Rect& work = monitor.work;
-  ui::Rect around = RectOf(suggested != nullptr ? *suggested : now);
-  // The user gave a sizable window its size.
-  const ui::Extent size = window.design().sizable ? ui::LimitedTo({around.width, around.height},
-                                                                  {work.width, work.height})
-                                                  : OuterSize(window, appearance, frame, work);
-  if (suggested == nullptr) around = {around.x, around.y, size.width, size.height};
-  Put(handle, ui::CornerOnNewScreen(size, around, work), size);
+  PutOn(monitor, handle, window, suggested, frame, appearance);
+  // The frame may be one of the new resolution from here on, and the menu has another width.
+  // Nothing is put twice where once is enough: a window manager could mix up its answers.
+  const ui::Extent before = std::exchange(frame, FrameOf(handle));
+  if (frame == before) return changed;
+  changed = appearance.Use(monitor, DesignOf(window), frame) || changed;
+  PutOn(monitor, handle, window, suggested, frame, appearance);
   return changed;
 }
 
