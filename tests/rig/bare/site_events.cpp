@@ -2,10 +2,10 @@
 // what that would tell it, with the parameters in the order in which they are documented, and adds
 // to the file "events.txt" in the temporary folder what came of it.
 #include "platform/windows/web/browser_site.h"
+#include "tests/rig/bare/events.h"
 
 #include <exdispid.h>
 
-#include <fstream>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -14,21 +14,6 @@ namespace {
 
 using platform::windows::BrowserSite;
 using platform::windows::ComOwner;
-
-std::ofstream& Events() {
-  static std::ofstream file = [] {
-    char folder[MAX_PATH] = "";
-    GetEnvironmentVariableA("TEMP", folder, MAX_PATH);
-    return std::ofstream(std::string(folder) + "\\events.txt", std::ios::binary);
-  }();
-  return file;
-}
-
-std::string Plain(const std::wstring& text) {
-  std::string plain;
-  for (const wchar_t c : text) plain += static_cast<char>(c);
-  return plain;
-}
 
 VARIANT Text(const wchar_t* text) {
   VARIANT value{};
