@@ -35,5 +35,5 @@ tests() {
 }
 
 tests -n "$rigs" "${busy[@]/#/--ignore=}" tests/rig tests/real "$@"
-tests -n 2 "${busy[@]}" "$@"
+tests -n "${#busy[@]}" "${busy[@]}" "$@"
 ((chosen == 1 && failed == 0))

@@ -1,5 +1,5 @@
-"""What the program tells the system's browser object, of which the rig has none, and its service for
-downloads, for which it has no encrypted hosts: programs stand in for both."""
+"""What the program tells the system's browser object, of which the rig has none, and the service
+for downloads, for which it has no encrypted hosts: programs stand in for both."""
 
 from pathlib import Path
 
