@@ -28,6 +28,7 @@ class DirectSoundBuffer {
   virtual ~DirectSoundBuffer() = default;
 
   virtual void Play(std::uint32_t flags) = 0;
+  // Silences it at once, whatever is mixed already. It and its device are of no more use then.
   virtual void Stop() = 0;
 
   // Frames per second.

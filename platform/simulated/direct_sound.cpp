@@ -25,11 +25,13 @@ class FakeBuffer : public DirectSoundBuffer {
 
   void Play(std::uint32_t flags) override {
     counted_.sound().Call(DirectSoundCall::kPlay, "buffer play " + std::to_string(flags));
+    if (stopped_) throw base::RuntimeError(base::ErrorCode::kDeviceError);
     SetPlaying(true);
   }
   void Stop() override {
     counted_.sound().Call(DirectSoundCall::kStop, "buffer stop");
     SetPlaying(false);
+    stopped_ = true;
   }
   void SetFrequency(std::uint32_t frequency) override {
     counted_.sound().Call(DirectSoundCall::kPlay, "buffer frequency " + std::to_string(frequency));
@@ -44,6 +46,7 @@ class FakeBuffer : public DirectSoundBuffer {
 
   Counted counted_;
   bool playing_ = false;
+  bool stopped_ = false;
 };
 
 class FakeDevice : public DirectSoundDevice {
