@@ -14,9 +14,4 @@ platform::windows::KernelHandle OpenToRead(const WideText& path, DWORD flags) {
                                             nullptr, OPEN_EXISTING, flags, nullptr));
 }
 
-void EndBusyPointer() {
-  MSG message;
-  PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
-}
-
 }  // namespace helpers

@@ -15,7 +15,4 @@ WideText EnvironmentVariable(const wchar_t* name);
 // cannot be opened.
 platform::windows::KernelHandle OpenToRead(const WideText& path, DWORD flags);
 
-// The system shows a busy pointer until a program first asks for its messages.
-void EndBusyPointer();
-
 }  // namespace helpers

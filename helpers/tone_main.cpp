@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "helpers/environment.h"
+#include "helpers/busy_pointer.h"
 #include "helpers/request_file.h"
 #include "helpers/tone_player.h"
 #include "platform/windows/api/system_library.h"

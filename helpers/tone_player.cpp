@@ -22,7 +22,8 @@ void TonePlayer::Run() {
 }
 
 void TonePlayer::Open() {
-  const std::optional<std::uint32_t> mixer_hz = mixer_.Rate();
+  if (!mixer_ && DependsOnMixer(request_)) mixer_.emplace();
+  const std::optional<std::uint32_t> mixer_hz = mixer_ ? mixer_->Rate() : std::nullopt;
   const auto rate =
       ChooseRate(request_, mixer_hz, [this](auto rate_hz) { return device_.Open(rate_hz); });
   if (rate) stream_.emplace(request_, *rate, mixer_hz.value_or(*rate));

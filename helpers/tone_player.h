@@ -43,7 +43,7 @@ class TonePlayer {
   DeviceWatch device_watch_;
   bool tried_ = false;
   std::optional<ToneStream> stream_;  // while the device plays
-  Mixer mixer_;
+  std::optional<Mixer> mixer_;        // once it has been asked
   WaveDevice device_;
 };
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "helpers/destination.h"
+#include "helpers/busy_pointer.h"
 #include "helpers/environment.h"
 #include "helpers/log_file.h"
 #include "helpers/upload.h"

@@ -17,6 +17,15 @@ TEST(Rates, CarryWhatIsBelowTheirHalf) {
   EXPECT_TRUE(Carries(96000, 32000));
 }
 
+TEST(Rates, TheMixerIsAskedForASweepAndForWhatATelephoneWouldNotCarry) {
+  EXPECT_TRUE(DependsOnMixer(1));
+  EXPECT_FALSE(DependsOnMixer(2));
+  EXPECT_FALSE(DependsOnMixer(1000));
+  EXPECT_FALSE(DependsOnMixer(3999));
+  EXPECT_TRUE(DependsOnMixer(4000));
+  EXPECT_TRUE(DependsOnMixer(32000));
+}
+
 struct Choice {
   std::uint32_t request;
   std::set<std::uint32_t> openable;
