@@ -7,6 +7,7 @@
 #include "base/pitches.h"
 #include "base/text.h"
 #include "morse/morse_code.h"
+#include "tone/pace.h"
 
 namespace morse {
 namespace {
@@ -24,7 +25,7 @@ Form4::Form4(platform::Platform& platform, settings::MainState& state, tone::Pla
       play_scene_(play_scene),
       load_captions_(std::move(load_captions)),
       tones_(platform, state, play_scene),
-      waves_(platform) {
+      awake_(platform) {
   Command1.OnClick = [this] { Command1_Click(); };
   Command2.OnClick = [this] { Command2_Click(); };
   Check1.OnClick = [this] { Check1_Click(); };
@@ -57,11 +58,13 @@ void Form4::Form_Load() {
     Text1.SetText("Type your message here...");
     load_captions_();
   });
+  if (tones_.Audible()) awake_.Prepare();
   loading_ = 0;
 }
 
 void Form4::Form_Unload() {
   stop_flag = 1;
+  awake_.End();
 }
 
 void Form4::Command1_Click() {
@@ -73,7 +76,9 @@ void Form4::Command1_Click() {
     stop_flag = 0;
     Command1.SetEnabled(false);
     Command2.SetEnabled(true);
-    PlayLoop();
+    if (tones_.Audible()) awake_.Begin([this] { return stop_flag == 1; });
+    base::Quietly([this] { PlayLoop(); });
+    awake_.End();
   });
 }
 
@@ -127,17 +132,19 @@ void Form4::TakeMessage() {
 }
 
 void Form4::PlayLoop() {
+  tone::Pace pause(platform_);
   for (;;) {
-    platform_.pump.ProcessPending([this] { return stop_flag == 1; });
-    Wait(kTurnMs);
+    pause.Apart([this] { platform_.pump.ProcessPending([this] { return stop_flag == 1; }); });
+    pause.Wait(kTurnMs);
     const std::string character = CharacterAt(position_);
-    if (character == " ") Wait(WordPause(speed_));
+    if (character == " ") pause.Wait(WordPause(speed_));
     if (position_ == kLastPosition) break;
-    SoundCharacter(character);
-    Wait(CharacterPause(speed_));
+    if (SoundCharacter(character)) pause.Begin();
+    pause.Wait(CharacterPause(speed_));
     ++position_;
     UnloadIfHidden();
     if (CharacterAt(position_).empty()) {
+      awake_.End();
       Command1.SetEnabled(true);
       Command2.SetEnabled(false);
     }
@@ -147,11 +154,13 @@ void Form4::PlayLoop() {
 }
 
 // A character without a code is passed over in silence and without a message.
-void Form4::SoundCharacter(const std::string& character) {
-  if (character.size() != 1) return;
-  for (const char symbol : SymbolsOf(character[0])) {
+bool Form4::SoundCharacter(const std::string& character) {
+  if (character.size() != 1) return false;
+  const auto symbols = SymbolsOf(character[0]);
+  for (const char symbol : symbols) {
     tones_.sound(pitch_, symbol == '.' ? DotLength(speed_) : DashLength(speed_));
   }
+  return !symbols.empty();
 }
 
 void Form4::UnloadIfHidden() {

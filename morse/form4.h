@@ -13,6 +13,7 @@
 #include "lang/language_loader.h"
 #include "platform/platform.h"
 #include "settings/main_state.h"
+#include "tone/awake.h"
 #include "tone/route_support.h"
 #include "tone/short_tones.h"
 #include "ui/window.h"
@@ -61,17 +62,17 @@ class Form4 : public ui::Window {
                const std::string& text, ui::TextBox& field);
   void TakeMessage();
   void PlayLoop();
-  void SoundCharacter(const std::string& character);
+  // Whether there was anything to sound.
+  bool SoundCharacter(const std::string& character);
   void UnloadIfHidden();
   const std::string& CharacterAt(std::int16_t position) const;
-  void Wait(std::int16_t milliseconds) { waves_.delay(milliseconds); }
 
   platform::Platform& platform_;
   settings::MainState& state_;
   tone::PlayScene& play_scene_;
   std::function<void()> load_captions_;
   tone::ShortTones tones_;
-  tone::WaveOutput waves_;
+  tone::Awake awake_;
 
   std::int16_t loading_ = 0;
   std::int16_t position_ = 1;

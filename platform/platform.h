@@ -1,6 +1,7 @@
 // Everything the program asks of its surroundings, in one bundle of references.
 #pragma once
 
+#include "platform/awake_output.h"
 #include "platform/direct_sound.h"
 #include "platform/downloader.h"
 #include "platform/file_dialogs.h"
@@ -36,6 +37,7 @@ struct Platform {
   ui::WindowSystem& windows;
   Timers& timers;
   SoundCapture& sound_capture;
+  AwakeOutput& awake_output;
 
   TextFiles Texts() const { return TextFiles(files, code_page); }
 };

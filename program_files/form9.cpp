@@ -40,6 +40,7 @@ void Form9::LoadProgram() {
     IllFile();
     return;
   }
+  if (Audible()) awake_.Prepare();
   bool whole = false;
   if (!base::Quietly([&] { whole = ReadLines(); })) IllFile();
   if (!whole) return;
@@ -125,6 +126,7 @@ void Form9::KillHelpers() {
 }
 
 void Form9::Form_Unload() {
+  awake_.End();
   base::Quietly([this] {
     // A helper may just have begun to sound, as it is started without waiting for it.
     if (playing_ && SoundsByHelper()) EndHelper();

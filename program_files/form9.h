@@ -21,6 +21,7 @@
 #include "program_files/program_checks.h"
 #include "program_files/tone_program.h"
 #include "settings/main_state.h"
+#include "tone/awake.h"
 #include "tone/helper_programs.h"
 #include "tone/route_support.h"
 #include "tone/winmm_routes.h"
@@ -87,6 +88,7 @@ class Form9 : public ui::Window {
   std::optional<base::RuntimeError> PlayTones();
   void PlayTone();
   void StartHelper();
+  bool Audible() const { return base::OutputOf(sound_mode_) != base::Output::kNone; }
   bool SoundsByHelper() const;
   void SoundTone();
   void NoteFailure(const base::RuntimeError& error);
@@ -100,6 +102,7 @@ class Form9 : public ui::Window {
   tone::RouteSupport support_;
   tone::HelperPrograms helpers_;
   tone::WinmmRoutes winmm_{support_};
+  tone::Awake awake_{platform_};
 
   std::string file_path_;
   base::SoundMode sound_mode_ = base::SoundMode::kNone;

@@ -2,6 +2,7 @@
 #include "base/error_trap.h"
 #include "base/numbers.h"
 #include "program_files/form9.h"
+#include "tone/pace.h"
 
 namespace program_files {
 namespace {
@@ -48,6 +49,7 @@ void Form9::PlayUntilDone() {
     KillHelpers();
     Play();
   }
+  awake_.End();
   playing_ = false;
 }
 
@@ -60,6 +62,7 @@ void Form9::Play() {
     stop_flag_ = 0;
     tone_number_ = 0;
     table_index_ = 0;
+    if (Audible()) awake_.Begin([this] { return stop_flag_ == 1; });
     const auto failure = PlayTones();
     if (failure) NoteFailure(*failure);
     if (program_.hidden_flag == 1) Unload();
@@ -122,9 +125,10 @@ void Form9::SoundTone() {
     base::ThrowAgain(failure);
     return;
   }
-  if (output == base::Output::kHelper16) support_.Wait(kClassicStartMs);
-  support_.Wait(program_.extra_time_ms);
-  support_.Wait(tone.duration_ms);
+  tone::Pace pace(platform_);
+  if (output == base::Output::kHelper16) pace.Wait(kClassicStartMs);
+  pace.Wait(program_.extra_time_ms);
+  pace.Wait(tone.duration_ms);
 }
 
 // Sound32's helper is looked for in two modes that start none: another copy may have left it.

@@ -34,6 +34,7 @@ void HelperRoutes::LowToHigh(base::SoundMode mode) {
   const base::Output output = base::OutputOf(mode);
   base::Quietly([&] {
     support_.ReadTempFolder();
+    const Awake awake = support_.KeepAwake();
     sweep_pitch_ = 0;
     support_.WriteHandOver(base::BareNumber(base::kHelperSweep));
     support_.ShowPitchCaption();

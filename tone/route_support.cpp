@@ -1,13 +1,12 @@
 #include "tone/route_support.h"
 
-#include <limits>
-
 #include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/sine_modes.h"
 #include "base/text.h"
 #include "lang/languages.h"
 #include "tone/helper_programs.h"
+#include "tone/pace.h"
 
 namespace tone {
 namespace {
@@ -81,11 +80,12 @@ void RouteSupport::HandleMessages() {
   platform_.pump.ProcessPending([this] { return Stopped(); });
 }
 
-// A wait that one call of delay does not hold is made of several.
 void RouteSupport::Wait(std::int32_t time_ms) {
-  constexpr std::int32_t kLongest = std::numeric_limits<std::int16_t>::max();
-  for (; time_ms > kLongest; time_ms -= kLongest) waves_.delay(kLongest);
-  waves_.delay(static_cast<std::int16_t>(time_ms));
+  Pace(platform_).Wait(time_ms);
+}
+
+Awake RouteSupport::KeepAwake() {
+  return Awake(platform_, [this] { return Stopped(); });
 }
 
 void RouteSupport::FinishStep(platform::Moment begin, std::int16_t time_ms) {

@@ -11,6 +11,7 @@
 
 #include "platform/platform.h"
 #include "settings/main_state.h"
+#include "tone/awake.h"
 #include "tone/wave_image.h"
 #include "tone/wave_output.h"
 
@@ -91,6 +92,9 @@ class RouteSupport {
 
   // Blocks the thread without handling messages.
   void Wait(std::int32_t time_ms);
+
+  // The output is awake, as far as it can be, as long as what this returns is kept.
+  Awake KeepAwake();
 
   platform::Moment Now() const { return platform_.pump.Now(); }
 

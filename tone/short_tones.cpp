@@ -5,6 +5,11 @@
 
 namespace tone {
 
+bool ShortTones::Audible() const {
+  const base::Output output = base::OutputOf(state_.SoundBit);
+  return output != base::Output::kDirectSound && output != base::Output::kNone;
+}
+
 void ShortTones::sound(std::int16_t pitch, std::int16_t Duration) {
   base::Quietly([&] {
     switch (base::OutputOf(state_.SoundBit)) {

@@ -17,6 +17,9 @@ class ShortTones {
   // at once, in silence.
   void sound(std::int16_t pitch, std::int16_t Duration);
 
+  // Whether tones are heard in the current sound mode.
+  bool Audible() const;
+
  private:
   platform::Platform& platform_;
   settings::MainState& state_;

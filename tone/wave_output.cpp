@@ -44,6 +44,10 @@ void WaveOutput::delay(std::int16_t timems) {
   base::Quietly([&] { platform_.pump.Sleep(timems); });
 }
 
+void WaveOutput::DelayUntil(platform::Moment end) {
+  base::Quietly([&] { platform_.pump.SleepUntil(end); });
+}
+
 void WaveOutput::Pause(std::int16_t timems, const std::function<bool()>& stopped) {
   platform::MessagePump& pump = platform_.pump;
   const platform::Moment end = pump.Now() + std::chrono::milliseconds(timems);

@@ -32,6 +32,7 @@ class WaveOutput {
 
   // Blocks the thread without handling messages.
   void delay(std::int16_t timems);
+  void DelayUntil(platform::Moment end);
 
   // As delay, but messages are handled as they come until `stopped` holds; what is left then passes
   // without, so that the input that follows is left to an outer loop.

@@ -45,6 +45,7 @@ void WinmmRoutes::SoundWinmm(std::int16_t pitch, const std::string& modeval) {
 void WinmmRoutes::SoundWinmmLTH() {
   base::Quietly([this] {
     support_.ReadTempFolder();
+    const Awake awake = support_.KeepAwake();
     std::int16_t pitch = 0;
     do {
       support_.HandleMessages();

@@ -29,7 +29,8 @@ class FaultyPlatform {
         dialogs_(real.messages, real.file_dialogs, calls),
         registry_(real.registry, calls),
         windows_(real.windows, calls),
-        capture_(real.sound_capture, calls) {}
+        capture_(real.sound_capture, calls),
+        awake_output_(real.awake_output, calls) {}
 
  private:
   FaultyFiles files_;
@@ -49,6 +50,7 @@ class FaultyPlatform {
   FaultyRegistry registry_;
   FaultyWindows windows_;
   FaultyCapture capture_;
+  FaultyAwakeOutput awake_output_;
 
  public:
   Platform services{
@@ -72,6 +74,7 @@ class FaultyPlatform {
       .windows = windows_,
       .timers = pump_,
       .sound_capture = capture_,
+      .awake_output = awake_output_,
   };
 };
 

@@ -9,6 +9,18 @@ using base::ErrorCode;
 
 constexpr ErrorCode kDevice = ErrorCode::kDeviceError;
 
+class FaultySilence : public SilentSound {
+ public:
+  FaultySilence(std::unique_ptr<SilentSound> real, Calls& calls)
+      : real_(std::move(real)), calls_(calls) {}
+
+  bool Plays() override { return !calls_.Next("silence.Plays") && real_->Plays(); }
+
+ private:
+  std::unique_ptr<SilentSound> real_;
+  Calls& calls_;
+};
+
 class FaultyBuffer : public DirectSoundBuffer {
  public:
   FaultyBuffer(std::unique_ptr<DirectSoundBuffer> real, Calls& calls)
@@ -138,6 +150,13 @@ void FaultyWaves::Play(const std::string& path, std::uint32_t flags) {
 void FaultyWaves::Stop(std::uint32_t flags) {
   calls_.Enter("waves.Stop", {}, kDevice);
   real_.Stop(flags);
+}
+
+std::unique_ptr<SilentSound> FaultyAwakeOutput::Start() {
+  if (calls_.Next("awake_output.Start")) return nullptr;
+  auto real = real_.Start();
+  if (!real) return nullptr;
+  return std::make_unique<FaultySilence>(std::move(real), calls_);
 }
 
 void FaultyBeeper::Beep(int pitch_hz, int duration_ms) {

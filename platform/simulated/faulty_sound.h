@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/awake_output.h"
 #include "platform/direct_sound.h"
 #include "platform/simulated/calls.h"
 #include "platform/sound_capture.h"
@@ -21,6 +22,18 @@ class FaultyWaves : public WavePlayer {
 
  private:
   WavePlayer& real_;
+  Calls& calls_;
+};
+
+class FaultyAwakeOutput : public AwakeOutput {
+ public:
+  FaultyAwakeOutput(AwakeOutput& real, Calls& calls) : real_(real), calls_(calls) {}
+
+  // Nothing where it goes wrong, as without a device.
+  std::unique_ptr<SilentSound> Start() override;
+
+ private:
+  AwakeOutput& real_;
   Calls& calls_;
 };
 

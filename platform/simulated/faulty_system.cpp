@@ -113,7 +113,7 @@ void FaultyPump::Run() {
 }
 
 std::unique_ptr<Timer> FaultyPump::Start(int period_ms, std::function<void()> tick) {
-  calls_.Enter("timers.Start");
+  calls_.Enter("timers.Start", std::to_string(period_ms));
   return timers_.Start(period_ms, std::move(tick));
 }
 

@@ -65,6 +65,7 @@ bool VirtualPump::Pass(const std::function<bool()>& stopped, Moment end, Grain /
 void VirtualPump::Sleep(int milliseconds) {
   if (milliseconds < 0) milliseconds = 0;
   NoteWait("sleep", milliseconds);
+  if (milliseconds > 0) milliseconds += oversleep_ms;
   AdvanceTo(now_ms_ + milliseconds);
 }
 

@@ -30,6 +30,7 @@ class VirtualPump : public MessagePump, public Timers {
 
   std::int64_t now_ms() const { return now_ms_; }
   bool journal_waits = false;  // whether each Sleep and Pass is recorded
+  int oversleep_ms = 0;        // how late each Sleep ends
 
   // Schedules what a user or another program does. Equal times keep their order.
   void At(std::int64_t at_ms, std::function<void()> action);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "platform/simulated/awake_output.h"
 #include "platform/simulated/direct_sound.h"
 #include "platform/simulated/downloader.h"
 #include "platform/simulated/file_dialogs.h"
@@ -43,6 +44,7 @@ class Simulation {
   FakeWavePlayer waves{journal, files};
   FakeDirectSound direct_sound{journal};
   FakeSoundCapture sound_capture{journal, pump};
+  FakeAwakeOutput awake_output{journal, pump};
   FakeBeeper beeper{journal, pump};
   FakeDownloader downloader{journal, files, pump};
   FakeScreen screen;
@@ -73,6 +75,7 @@ class Simulation {
       .windows = windows,
       .timers = pump,
       .sound_capture = sound_capture,
+      .awake_output = awake_output,
   };
   // Schedules `action` at a moment of the virtual clock.
   void At(std::chrono::milliseconds moment, std::function<void()> action);

@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 #include "platform/windows/api/system_library.h"
 #include "platform/windows/message_pump.h"
+#include "platform/windows/sound/awake_output.h"
 #include "platform/windows/sound/direct_sound.h"
 #include "platform/windows/sound/multimedia.h"
 #include "platform/windows/sound/sound_capture.h"
@@ -13,6 +14,7 @@
 #include "platform/windows/system/processes.h"
 #include "platform/windows/system/registry.h"
 #include "platform/windows/system/screen.h"
+#include "platform/windows/system/timer_grain.h"
 #include "platform/windows/system/timers.h"
 #include "platform/windows/system/version_resource.h"
 #include "platform/windows/views/file_dialogs.h"
@@ -25,7 +27,7 @@ namespace platform::windows {
 
 class WindowsPlatform {
  public:
-  explicit WindowsPlatform(HINSTANCE instance) : windows_(instance, open_) {}
+  explicit WindowsPlatform(HINSTANCE instance) : windows_(instance, open_) { KeepTimersFine(); }
   WindowsPlatform(const WindowsPlatform&) = delete;
   WindowsPlatform& operator=(const WindowsPlatform&) = delete;
 
@@ -60,6 +62,7 @@ class WindowsPlatform {
   NativeWindowSystem windows_;
   WindowsTimers timers_;
   WindowsSoundCapture sound_capture_;
+  WindowsAwakeOutput awake_output_;
   Platform services_{
       .files = files_,
       .code_page = code_page_,
@@ -81,6 +84,7 @@ class WindowsPlatform {
       .windows = windows_,
       .timers = timers_,
       .sound_capture = sound_capture_,
+      .awake_output = awake_output_,
   };
 };
 
