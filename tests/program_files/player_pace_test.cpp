@@ -55,6 +55,14 @@ TEST_F(PlayerAwakeTest, TheFirstToneWaitsForTheDeviceWhichSleepsAgainWhenThePlay
   }
 }
 
+TEST_F(PlayerAwakeTest, TheDeviceIsCalledWhenThePlayerIsLoaded) {
+  std::vector<int> playing_while_open;
+  sim.messages.while_open = [&] { playing_while_open.push_back(playing()); };
+  Open(Lines{"nothing"}, "256");
+  ASSERT_FALSE(playing_while_open.empty());
+  EXPECT_EQ(playing_while_open.front(), 1);
+}
+
 TEST_F(PlayerAwakeTest, WithoutASoundModeNothingIsWoken) {
   sim.files.Put(kFile, FileOf(ProgramWith(two_)));
   Load(base::SoundMode::kNone);

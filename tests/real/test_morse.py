@@ -15,6 +15,9 @@ from rig.waiting import wait_for
 from rig.window import Driver, User
 
 PITCH_HZ = 700
+DASH_MS = 200
+# A tone that wakes the device lacks 40 ms or more.
+AS_LONG_MS = 12
 
 
 @pytest.fixture
@@ -42,6 +45,20 @@ def test_a_message_is_heard_as_its_code_with_its_pauses_at_its_pitch(
     pitches = [short_pitch(samples[int(begin * RATE) : int((begin + length) * RATE)])
                for begin, length in tones]
     assert pitches == pytest.approx([PITCH_HZ] * count, rel=1e-3)
+
+
+def test_the_first_tone_is_as_long_as_the_later_ones(
+        program: Tonmira, user: User, recorder: Recorder) -> None:
+    tool = open_tool(program, user)
+    write(user, tool, "TTTT")
+    recorder.wait_for_silence()
+    first = recorder.frames()
+    user.click_button(tool, "Play sound")
+    wait_for(lambda: len(symbols(recorder, first)) >= 4, "the message", 20)
+    recorder.record(0.3)
+    lengths_ms = [1000 * length for _, length in symbols(recorder, first)]
+    tool.press("Stop sound")
+    assert lengths_ms == pytest.approx([DASH_MS] * 4, abs=AS_LONG_MS), lengths_ms
 
 
 def test_stop_ends_the_message_and_leaves_no_file(program: Tonmira, user: User,

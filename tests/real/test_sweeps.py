@@ -38,8 +38,7 @@ def begin(rig: Rig, driver: Driver) -> Iterator[Callable[[str], Tonmira]]:
 def assert_climbs(heard: list[tuple[int, float]], last_hz: int, sound_bit: str) -> None:
     """From the first step to the last one, in order, none left out, each for its time."""
     assert [pitch for pitch, _ in heard] == list(range(STEP_HZ, last_hz + 1, STEP_HZ))
-    # The first tone of all may begin late.
-    times = np.array([begin for _, begin in heard])[1:]
+    times = np.array([begin for _, begin in heard])
     shortest, longest = STEP_S[sound_bit]
     mean = (times[-1] - times[0]) / (len(times) - 1)
     assert shortest - 0.002 <= mean <= longest + 0.002

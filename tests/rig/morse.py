@@ -8,8 +8,9 @@ from rig.window import Control, User, Window
 
 CODES = {"S": "...", "O": "----", "P": ".--.", "A": ".-", "R": ".-.", "I": "..", "7": "--...",
          "3": "...--"}
-# The pauses within a character are the player's own, 10 to 20 ms.
-CHUNK = RATE // 500
+# The pauses within a character are the player's own, 2 to 8 ms; half a period of the lowest pitch
+# that is listened to, 700 Hz, is 31 frames.
+CHUNK = 32
 MESSAGE = "SOS PARIS 73"
 
 

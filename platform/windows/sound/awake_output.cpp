@@ -75,7 +75,7 @@ class Silence final : public SilentSound {
   }
 
  private:
-  const WaveOutFunctions wave_out_;
+  WaveOutFunctions wave_out_;
   std::vector<char> samples_ = std::vector<char>(kBytes);
   WAVEHDR header_{};
   HWAVEOUT device_ = nullptr;
