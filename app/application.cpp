@@ -32,6 +32,7 @@ Application::Application(platform::Platform& platform, lang::Languages languages
 }
 
 void Application::Run() {
+  platform_.downloader.Prepare();  // every start downloads something
   form1.Handle([this] {
     form1.Load();
     if (!form1.StaysHidden()) form1.Show();

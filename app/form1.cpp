@@ -10,6 +10,7 @@ Form1::Form1(platform::Platform& platform, settings::MainState& state, lang::Lan
       platform_(platform),
       state_(state),
       others_(std::move(others)),
+      early_downloads_(platform),
       sine_animation_(platform, state, Picture1, errors),
       context_{.platform = platform,
                .state = state,
@@ -18,6 +19,7 @@ Form1::Form1(platform::Platform& platform, settings::MainState& state, lang::Lan
                .settings_display = *this,
                .play_scene = *this,
                .sine = sine_animation_,
+               .early_downloads = early_downloads_,
                .update_dialog = others_.update,
                .texts = texts_,
                .captions = {[this](std::int16_t formval) { return CaptionsOf(formval); },
@@ -29,6 +31,7 @@ Form1::Form1(platform::Platform& platform, settings::MainState& state, lang::Lan
       command_line_(std::move(command_line)) {
   ConnectControls();
   ConnectMenu();
+  early_downloads_.OnLongWait = [this](bool waiting) { others_.status.ShowWaiting(waiting); };
   SetCancelButton(&Command3);
 }
 

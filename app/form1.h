@@ -19,6 +19,7 @@
 #include "display/dx_record.h"
 #include "display/waveform.h"
 #include "lang/texts.h"
+#include "online/early_downloads.h"
 #include "online/form3.h"
 #include "online/links.h"
 #include "platform/platform.h"
@@ -107,6 +108,7 @@ class Form1 : public Form1Controls, public settings::SettingsDisplay, public ton
   void StartLog();
   void CheckSystem(Program& program, ExFunctions& ex_functions);
   void ReadSettings(Program& program);
+  void BeginAhead(Program& program);
   void ShowSoundMode();
   void TestConnection(ExFunctions& ex_functions);
   void FinishStart(Program& program);
@@ -157,6 +159,7 @@ class Form1 : public Form1Controls, public settings::SettingsDisplay, public ton
   void ChangeSensitivity(base::ErrorValue error_value, int step);
   void ShowAboutBox();
   void Exit();
+  std::string TestFile() const { return state_.temp_folder + "\\testcon.dat"; }
   online::Addresses Site() const { return online::SiteAddresses(platform_.environment); }
   void VisitPage(base::ErrorValue error_value, const std::string& entry,
                  const std::string& address);
@@ -165,6 +168,7 @@ class Form1 : public Form1Controls, public settings::SettingsDisplay, public ton
   settings::MainState& state_;
   OtherWindows others_;
   lang::Texts texts_ = DesignTexts();
+  online::EarlyDownloads early_downloads_;
   display::SineAnimation sine_animation_;
   Context context_;
 

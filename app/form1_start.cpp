@@ -27,6 +27,7 @@ void Form1::Form_Load() {
     StartUp(program, ex_functions);
   });
   if (error) {
+    early_downloads_.GiveUp();
     program.ErrorNote(base::ErrorValue::kMainWindowLoad, *error);
     StartUp(program, ex_functions);
   }
@@ -50,10 +51,12 @@ void Form1::StartUp(Program& program, ExFunctions& ex_functions) {
   StartLog();
   CheckSystem(program, ex_functions);
   ReadSettings(program);
+  BeginAhead(program);
   ShowSoundMode();
   ShowStep("Checking for updates...");
   if (state_.AutoUpdate == 1) program.UpdateCheck();
   TestConnection(ex_functions);
+  early_downloads_.GiveUp();
   others_.status.Unload();
   FinishStart(program);
 }
@@ -96,6 +99,14 @@ void Form1::ReadSettings(Program& program) {
   program.PrintFile("> Bit: " + std::string(base::FactsOf(state_.SoundBit).code));
 }
 
+// From here on it is known what the rest of the start will ask for. What comes of it is looked at
+// in the steps themselves.
+void Form1::BeginAhead(Program& program) {
+  if (state_.AutoUpdate == 1) program.BeginUpdateCheck();
+  early_downloads_.Begin(Site().ConnectionTest(), TestFile());
+  if (state_.MicrophoneON == 1) platform_.sound_capture.Prepare();
+}
+
 void Form1::ShowSoundMode() {
   for (const SoundModeItem& choice : sound_mode_items) {
     if (choice.mode == state_.SoundBit) choice.item.SetChecked(true);
@@ -105,7 +116,7 @@ void Form1::ShowSoundMode() {
 }
 
 void Form1::TestConnection(ExFunctions& ex_functions) {
-  const std::string path = state_.temp_folder + "\\testcon.dat";
+  const std::string path = TestFile();
   test_file_ = path;
   connection_flag_ = ex_functions.Download(Site().ConnectionTest(), path) ? 1 : 0;
   const auto failure = base::Caught([&] {

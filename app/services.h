@@ -43,6 +43,7 @@ struct Context {
   settings::SettingsDisplay& settings_display;
   tone::PlayScene& play_scene;
   display::SineAnimation& sine;
+  online::EarlyDownloads& early_downloads;
   online::Form7& update_dialog;
   const lang::Texts& texts;
   lang::Captions captions;
@@ -61,7 +62,8 @@ class Program {
         settings_(context.platform, context.state, context.settings_display, usage_, log_, errors_,
                   context.languages),
         modes_(context.state, context.show_mode, languages_, log_, errors_),
-        updates_(context.platform, context.update_dialog, context.texts, log_, errors_),
+        updates_(context.platform, context.early_downloads, context.update_dialog, context.texts,
+                 log_, errors_),
         end_(context.platform, context.state, context.windows, usage_, errors_),
         sine_(context.state, context.sine, errors_) {}
   Program(const Program&) = delete;
@@ -81,6 +83,7 @@ class Program {
   void SelectRadio(ToneMode newselected) { modes_.SelectRadio(newselected); }
   void DrawSine(std::int16_t pitch, std::int16_t mode) { sine_.DrawSine(pitch, mode); }
   void SendData() { usage_.SendData(); }
+  void BeginUpdateCheck() { updates_.Begin(); }
   void UpdateCheck() { updates_.UpdateCheck(); }
   void WriteTest() { end_.WriteTest(); }
   void Terminate() { end_.Terminate(); }
@@ -102,7 +105,7 @@ class ExFunctions {
  public:
   explicit ExFunctions(const Context& context)
       : waves_(context.platform),
-        downloads_(context.platform, context.errors),
+        downloads_(context.early_downloads, context.errors),
         checks_(context.platform, context.errors) {}
 
   void delay(std::int16_t timems) { waves_.delay(timems); }

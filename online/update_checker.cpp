@@ -22,11 +22,22 @@ void UpdateChecker::UpdateCheck() {
   });
 }
 
+void UpdateChecker::Begin() {
+  early_.Begin(Link(), Path());
+}
+
+std::string UpdateChecker::Path() const {
+  return platform_.environment.Get("TEMP") + "\\updatetonmira.txt";
+}
+
+std::string UpdateChecker::Link() const {
+  return SiteAddresses(platform_.environment).UpdateFile();
+}
+
 // A file of too many lines stays where it is.
 std::optional<UpdateFile> UpdateChecker::Fetch() {
-  const std::string path = platform_.environment.Get("TEMP") + "\\updatetonmira.txt";
-  const std::string link = SiteAddresses(platform_.environment).UpdateFile();
-  if (!Downloads(platform_, errors_).Download(link, path)) return std::nullopt;
+  const std::string path = Path();
+  if (!Downloads(early_, errors_).Download(Link(), path)) return std::nullopt;
   std::optional<std::string> content;
   const auto failure = base::Caught([&] { content = platform_.Texts().ReadBytes(path); });
   if (failure) {

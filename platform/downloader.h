@@ -25,6 +25,9 @@ class Downloader {
  public:
   virtual ~Downloader() = default;
 
+  // Loads what downloads need, beside whatever the program does. Nothing is asked of the web.
+  virtual void Prepare() = 0;
+
   // Begins to download what `link` has now, not an older copy, to the file `path`. More than
   // `most_bytes` are a failure, and so are any answer but success and everything that the service
   // would ask the user about. No call throws.

@@ -127,6 +127,7 @@ class Processes {
   virtual void StartProgram(const std::string& program, const std::string& arguments) = 0;
 
   // Ends this process at once. No handler, trap or destructor of the program runs after it.
+  // Downloads that are not over are given up.
   [[noreturn]] virtual void EndProcess() = 0;
 };
 

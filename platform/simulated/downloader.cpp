@@ -8,24 +8,20 @@
 namespace platform::simulated {
 namespace {
 
-struct State {
-  bool over = false;
-  std::optional<std::string> content;
-};
+using State = FakeDownloader::State;
+
+void GiveUp(Journal& journal, State& state) {
+  if (state.over || state.given_up) return;
+  state.given_up = true;
+  journal.Add(Kind::kDownload, "give up " + state.link);
+}
 
 class FakeDownload : public RunningDownload {
  public:
-  FakeDownload(Journal& journal, Files& files, std::string link, std::string path,
-               std::shared_ptr<State> state)
-      : journal_(journal),
-        files_(files),
-        link_(std::move(link)),
-        path_(std::move(path)),
-        state_(std::move(state)) {}
+  FakeDownload(Journal& journal, Files& files, std::string path, std::shared_ptr<State> state)
+      : journal_(journal), files_(files), path_(std::move(path)), state_(std::move(state)) {}
 
-  ~FakeDownload() override {
-    if (!state_->over) journal_.Add(Kind::kDownload, "give up " + link_);
-  }
+  ~FakeDownload() override { GiveUp(journal_, *state_); }
 
   bool Over() const override { return state_->over; }
 
@@ -44,7 +40,6 @@ class FakeDownload : public RunningDownload {
  private:
   Journal& journal_;
   Files& files_;
-  std::string link_;
   std::string path_;
   std::shared_ptr<State> state_;
 };
@@ -60,6 +55,8 @@ std::unique_ptr<RunningDownload> FakeDownloader::Begin(const std::string& link,
   const std::size_t size = answer.content ? answer.content->size() : 0;
   if (size > most_bytes) answer.content.reset();
   const auto state = std::make_shared<State>();
+  state->link = link;
+  begun_.push_back(state);
   const auto finish = [state, content = std::move(answer.content)] {
     state->over = true;
     state->content = content;
@@ -69,7 +66,22 @@ std::unique_ptr<RunningDownload> FakeDownloader::Begin(const std::string& link,
   } else if (!answer.never) {
     pump_.At(pump_.now_ms() + answer.after.count(), finish);
   }
-  return std::make_unique<FakeDownload>(journal_, files_, link, path, state);
+  return std::make_unique<FakeDownload>(journal_, files_, path, state);
+}
+
+std::vector<std::string> FakeDownloader::Running() const {
+  std::vector<std::string> links;
+  for (const auto& begun : begun_) {
+    const auto state = begun.lock();
+    if (state && !state->over && !state->given_up) links.push_back(state->link);
+  }
+  return links;
+}
+
+void FakeDownloader::GiveUpAll() {
+  for (const auto& begun : begun_) {
+    if (const auto state = begun.lock()) GiveUp(journal_, *state);
+  }
 }
 
 }  // namespace platform::simulated

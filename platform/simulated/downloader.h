@@ -5,8 +5,10 @@
 
 #include <chrono>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/downloader.h"
 #include "platform/simulated/files.h"
@@ -29,13 +31,30 @@ class FakeDownloader : public Downloader {
   std::map<std::string, Answer> answers;  // by address
   bool can_begin = true;                  // false: no download can even begin
 
+  int prepared = 0;  // how often
+
+  // Those that are not over and not given up, by address.
+  std::vector<std::string> Running() const;
+
+  void GiveUpAll();
+
+  void Prepare() override { ++prepared; }
   std::unique_ptr<RunningDownload> Begin(const std::string& link, const std::string& path,
                                          std::size_t most_bytes) override;
+
+  // What a download and its web share.
+  struct State {
+    std::string link;
+    bool over = false;
+    bool given_up = false;
+    std::optional<std::string> content;
+  };
 
  private:
   Journal& journal_;
   Files& files_;
   VirtualPump& pump_;
+  std::vector<std::weak_ptr<State>> begun_;
 };
 
 }  // namespace platform::simulated

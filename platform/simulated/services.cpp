@@ -80,6 +80,7 @@ void FakeProcesses::StartProgram(const std::string& program, const std::string& 
 }
 
 void FakeProcesses::EndProcess() {
+  at_end_();
   journal_.Add(Kind::kProcess, "end");
   throw ProcessEnded{};
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/files.h"
@@ -60,7 +61,9 @@ class ScriptedRandom : public Random {
 
 class FakeProcesses : public Processes {
  public:
-  explicit FakeProcesses(Journal& journal) : journal_(journal) {}
+  // `at_end` happens when the process ends itself.
+  FakeProcesses(Journal& journal, std::function<void()> at_end)
+      : journal_(journal), at_end_(std::move(at_end)) {}
 
   std::vector<ProcessEntry> running;
   std::set<std::uint32_t> protected_ids;      // may not be ended
@@ -82,6 +85,7 @@ class FakeProcesses : public Processes {
   void Begin(const std::string& command, const std::string& how);
 
   Journal& journal_;
+  std::function<void()> at_end_;
 };
 
 // A file that is not there is silence.

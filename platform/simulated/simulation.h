@@ -40,7 +40,7 @@ class Simulation {
   ScriptedRandom random;
   Windows windows{journal};
   VirtualPump pump{journal, [this] { return windows.AnyVisible(); }};
-  FakeProcesses processes{journal};
+  FakeProcesses processes{journal, [this] { downloader.GiveUpAll(); }};
   FakeWavePlayer waves{journal, files};
   FakeDirectSound direct_sound{journal};
   FakeSoundCapture sound_capture{journal, pump};

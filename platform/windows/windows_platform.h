@@ -48,7 +48,7 @@ class WindowsPlatform {
   WindowsClock clock_;
   WindowsRandom random_;
   WindowsMessagePump pump_{open_, multimedia_};
-  WindowsProcesses processes_;
+  WindowsProcesses processes_{[this] { downloader_.GiveUpAll(); }};
   MultimediaPlayer waves_{multimedia_};
   WindowsDirectSound direct_sound_;
   SystemBeeper beeper_;

@@ -47,9 +47,10 @@ class ProgramTest : public testing::Test {
   // Calls Terminate with a state of its own. True when it ended the program.
   bool RunTerminate(settings::MainState& state) {
     const Context& all = main().Services();
-    const Context context{all.platform, state,        all.errors,    all.languages,
-                          main(),       main(),       all.sine,      all.update_dialog,
-                          all.texts,    all.captions, all.show_mode, all.windows};
+    const Context context{
+        all.platform, state,         all.errors,          all.languages,     main(),
+        main(),       all.sine,      all.early_downloads, all.update_dialog, all.texts,
+        all.captions, all.show_mode, all.windows};
     return sim.Run([&] { Program(context).Terminate(); });
   }
 

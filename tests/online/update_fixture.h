@@ -35,7 +35,8 @@ class UpdateTest : public OnlineTest {
       [this](const lang::LanguageFile& file, std::int16_t) { texts.Take(file); }};
   lang::LanguageLoader languages{sim.services, captions, errors};
   Form7 dialog{sim.services, errors};
-  UpdateChecker updates{sim.services, dialog, texts, log, errors};
+  EarlyDownloads early{sim.services};
+  UpdateChecker updates{sim.services, early, dialog, texts, log, errors};
 };
 
 }  // namespace online

@@ -7,8 +7,8 @@ import pytest
 
 from rig import bad_hosts
 from rig.bad_hosts import closed_port, host, make_certificate
-from rig.online import PATIENCE_S, good_site, nothing_is_left
-from rig.program import MAIN_TITLE, Tonmira
+from rig.online import PATIENCE_S, good_site, nothing_is_left, opened
+from rig.program import MAIN_TITLE, Folders, Tonmira
 from rig.rig import Rig
 from rig.waiting import wait_for
 
@@ -88,6 +88,46 @@ def test_the_program_answers_while_it_waits_for_a_silent_host(
         program = begin(bad.site)
         program.window("Starting Tonmira")
         assert answers_until_main_window(program) >= 10
+
+
+def test_a_silent_host_is_asked_for_both_files_before_either_is_given_up(
+        begin: Callable[..., Tonmira]) -> None:
+    with host(bad_hosts.silent) as bad:
+        program = begin(bad.site)
+        status = program.window("Starting Tonmira")
+        wait_for(lambda: len(bad.visits) == 2, "both requests", 2.5)
+        assert MAIN_TITLE not in program.titles()
+        assert sorted(v.path for v in bad.visits) == ["/testcon.dat", "/updatetonmira.txt"]
+        wait_for(lambda: "Waiting for the web site..." in status.texts(), "a word about it", 2)
+        program.window(seconds=PATIENCE_S)
+
+
+def test_with_updates_off_a_silent_host_is_asked_for_the_test_file_alone(
+        begin: Callable[..., Tonmira]) -> None:
+    with host(bad_hosts.silent) as bad:
+        program = begin(bad.site, update="n")
+        program.window(seconds=PATIENCE_S)
+        assert [v.path for v in bad.visits] == ["/testcon.dat"]
+
+
+def test_an_update_that_is_accepted_while_the_test_file_arrives_leaves_nothing_of_that(
+        begin: Callable[..., Tonmira], browser: str, folders: Folders) -> None:
+    def serve(visit: bad_hosts.Visit) -> None:
+        if visit.path == "/updatetonmira.txt":
+            bad_hosts.answering(bad_hosts.UPDATE)(visit)
+        else:
+            visit.answer("200 OK", "Content-Type: text/plain", "Content-Length: 1000", body=b"9")
+            visit.over.wait()
+
+    with host(serve) as slow:
+        program = begin(slow.site)
+        dialog = program.window("Update found", seconds=PATIENCE_S)
+        wait_for(lambda: any(name.startswith("testcon.dat.") for name in folders.names()),
+                 "the beginning of the test file")
+        dialog.press("Update")
+        program.wait_for_end()
+        wait_for(lambda: opened(folders), "the browser")
+        assert folders.names() == ["links.txt", "tonmira.ini", "userdata.txt"]
 
 
 def test_the_program_can_be_ended_while_a_download_that_it_gave_up_goes_on(

@@ -10,6 +10,7 @@
 
 #include "base/errors.h"
 #include "platform/windows/api/com_owner.h"
+#include "platform/windows/api/handles.h"
 #include "platform/windows/api/system_library.h"
 #include "platform/windows/sound/capture_event.h"
 
@@ -51,6 +52,16 @@ GUID GuidOf(const std::string& identifier) {
   std::memcpy(&guid, bytes, sizeof(guid));
   return guid;
 }
+
+// The functions of the system that find and open devices.
+struct Library {
+  const HMODULE library = LoadSystemLibrary(L"dsound.dll");
+  CreateCapture create = FunctionOf<CreateCapture>(library, "DirectSoundCaptureCreate8");
+  EnumerateFunction enumerate =
+      FunctionOf<EnumerateFunction>(library, "DirectSoundCaptureEnumerateW");
+
+  bool complete() const { return create != nullptr && enumerate != nullptr; }
+};
 
 BOOL CALLBACK TakeDevice(GUID* guid, LPCWSTR, LPCWSTR, LPVOID devices) {
   static_cast<std::vector<std::string>*>(devices)->push_back(IdentifierOf(guid));
@@ -148,16 +159,26 @@ class Microphones final : public CaptureRoot {
   std::int32_t last_event_ = 0;
 };
 
+BOOL CALLBACK PassDevice(GUID*, LPCWSTR, LPCWSTR, LPVOID) {
+  return TRUE;
+}
+
+// Nearly all of what opening a device takes is the system's own preparation for the first question.
+DWORD WINAPI AskForDevices(void*) noexcept {
+  const Library library;
+  return library.complete() && SUCCEEDED(library.enumerate(PassDevice, nullptr)) ? 1 : 0;
+}
+
 }  // namespace
 
+void WindowsSoundCapture::Prepare() {
+  Own(CreateThread(nullptr, 0, AskForDevices, nullptr, 0, nullptr));
+}
+
 std::unique_ptr<CaptureRoot> WindowsSoundCapture::Create() {
-  const HMODULE library = LoadSystemLibrary(L"dsound.dll");
-  const auto create = FunctionOf<CreateCapture>(library, "DirectSoundCaptureCreate8");
-  const auto enumerate = FunctionOf<EnumerateFunction>(library, "DirectSoundCaptureEnumerateW");
-  if (create == nullptr || enumerate == nullptr) {
-    throw base::RuntimeError(base::ErrorCode::kDeviceError);
-  }
-  return std::make_unique<Microphones>(create, enumerate);
+  const Library library;
+  if (!library.complete()) throw base::RuntimeError(base::ErrorCode::kDeviceError);
+  return std::make_unique<Microphones>(library.create, library.enumerate);
 }
 
 }  // namespace platform::windows

@@ -1,5 +1,7 @@
 #include "platform/windows/system/processes.h"
 
+#include <utility>
+
 #include "base/errors.h"
 #include "base/owner_text.h"
 #include "platform/start_errors.h"
@@ -43,7 +45,7 @@ base::Owner ThisProcess() {
 
 }  // namespace
 
-WindowsProcesses::WindowsProcesses() {
+WindowsProcesses::WindowsProcesses(std::function<void()> at_end) : at_end_(std::move(at_end)) {
   SetEnvironmentVariableA(base::kOwner, base::OwnerText(ThisProcess()).c_str());
 }
 
@@ -78,6 +80,7 @@ void WindowsProcesses::StartProgram(const std::string& program, const std::strin
 }
 
 void WindowsProcesses::EndProcess() {
+  at_end_();
   ExitProcess(0);
 }
 

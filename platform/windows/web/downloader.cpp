@@ -15,27 +15,34 @@
 #include "platform/windows/web/unsized_answer.h"
 
 namespace platform::windows {
+
+namespace {
+enum class Stage { kRunning, kArrived, kFailed };
+}
+
+// What the thread and whoever waits for it share.
+struct DownloadJob {
+  std::wstring link;
+  std::wstring arrival;  // the name that the file arrives under
+  std::wstring path;
+  std::size_t most_bytes = 0;
+  DWORD thread = 0;  // that downloads
+  DWORD waiter = 0;  // thread
+  std::atomic<Stage> stage{Stage::kRunning};
+  std::atomic<bool> given_up{false};
+  std::atomic<HWND> ear{nullptr};  // kEnd to this window of the thread ends the download
+};
+
 namespace {
 
 using InitializeFunction = HRESULT(WINAPI*)(LPVOID, DWORD);
 using UninitializeFunction = void(WINAPI*)();
 using DownloadFunction = HRESULT(WINAPI*)(LPUNKNOWN, LPCWSTR, LPCWSTR, DWORD, LPBINDSTATUSCALLBACK);
 
-enum class Stage { kRunning, kArrived, kFailed };
-
 constexpr UINT kEnd = WM_APP;
+constexpr DWORD kLongestEndMs = 200;
 
-// What the thread and whoever waits for it share.
-struct Job {
-  std::wstring link;
-  std::wstring arrival;  // the name that the file arrives under
-  std::wstring path;
-  std::size_t most_bytes = 0;
-  DWORD waiter = 0;  // thread
-  std::atomic<Stage> stage{Stage::kRunning};
-  std::atomic<bool> given_up{false};
-  std::atomic<HWND> ear{nullptr};  // kEnd to this window of the thread ends the download
-};
+using Job = DownloadJob;
 using JobPointer = std::shared_ptr<Job>;
 
 LRESULT CALLBACK EarProcedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
@@ -145,19 +152,31 @@ DWORD WINAPI RunJob(void* parameter) noexcept {
   return 0;
 }
 
+DWORD WINAPI LoadService(void*) noexcept {
+  const Service service;
+  return service.complete() ? 1 : 0;
+}
+
+// What is over is nobody's any more.
+void GiveUp(Job& job) {
+  job.given_up = true;
+  if (const HWND ear = job.ear) {
+    SendNotifyMessageW(ear, kEnd, 0, 0);
+    // The service may sleep until a message is posted.
+    PostThreadMessageW(job.thread, WM_NULL, 0, 0);
+  }
+  if (job.stage == Stage::kArrived) DeleteFileW(job.arrival.c_str());
+}
+
+bool IsOver(HANDLE thread, DWORD patience_ms) {
+  return WaitForSingleObject(thread, patience_ms) != WAIT_TIMEOUT;
+}
+
 class ThreadDownload final : public RunningDownload {
  public:
-  ThreadDownload(JobPointer job, DWORD thread) : job_(std::move(job)), thread_(thread) {}
+  explicit ThreadDownload(JobPointer job) : job_(std::move(job)) {}
 
-  ~ThreadDownload() override {
-    job_->given_up = true;
-    if (const HWND ear = job_->ear) {
-      SendNotifyMessageW(ear, kEnd, 0, 0);
-      // The service may sleep until a message is posted.
-      PostThreadMessageW(thread_, WM_NULL, 0, 0);
-    }
-    if (job_->stage == Stage::kArrived) DeleteFileW(job_->arrival.c_str());
-  }
+  ~ThreadDownload() override { GiveUp(*job_); }
 
   bool Over() const override { return job_->stage != Stage::kRunning; }
 
@@ -168,14 +187,20 @@ class ThreadDownload final : public RunningDownload {
 
  private:
   JobPointer job_;
-  DWORD thread_;
 };
 
 }  // namespace
 
+void WindowsDownloader::Prepare() {
+  Own(CreateThread(nullptr, 0, LoadService, nullptr, 0, nullptr));
+}
+
 std::unique_ptr<RunningDownload> WindowsDownloader::Begin(const std::string& link,
                                                           const std::string& path,
                                                           std::size_t most_bytes) {
+  std::erase_if(begun_, [](const Begun& begun) {
+    return begun.job.use_count() == 1 && IsOver(begun.thread.get(), 0);
+  });
   const auto job = std::make_shared<Job>();
   job->link = Widen(link);
   job->path = Widen(path);
@@ -184,13 +209,25 @@ std::unique_ptr<RunningDownload> WindowsDownloader::Begin(const std::string& lin
   job->waiter = GetCurrentThreadId();
   auto owner = std::make_unique<JobPointer>(job);
   DWORD thread_id = 0;
-  const KernelHandle thread = Own(CreateThread(nullptr, 0, RunJob, owner.get(), 0, &thread_id));
+  KernelHandle thread = Own(CreateThread(nullptr, 0, RunJob, owner.get(), 0, &thread_id));
   if (thread) {
     static_cast<void>(owner.release());
+    job->thread = thread_id;
+    begun_.push_back({job, std::move(thread)});
   } else {
     job->stage = Stage::kFailed;
   }
-  return std::make_unique<ThreadDownload>(job, thread_id);
+  return std::make_unique<ThreadDownload>(job);
+}
+
+void WindowsDownloader::GiveUpAll() {
+  for (const Begun& begun : begun_) GiveUp(*begun.job);
+  const DWORD begin = GetTickCount();
+  for (const Begun& begun : begun_) {
+    const DWORD passed = GetTickCount() - begin;
+    IsOver(begun.thread.get(), passed < kLongestEndMs ? kLongestEndMs - passed : 0);
+    DeleteFileW(begun.job->arrival.c_str());
+  }
 }
 
 }  // namespace platform::windows
