@@ -51,7 +51,7 @@ void Form1::EndCapture() {
 void Form1::DirectSoundRecord_GotWaveData(std::span<const std::uint8_t> block,
                                           std::int16_t bits_per_sample, std::int16_t channels) {
   // Nobody sees it; and a drawing that fails is not tried again while its error is shown.
-  if (!Visible()) return;
+  if (!Visible() || !picWave.CanBeSeen()) return;
   base::TrapErrors(context_.errors, base::ErrorValue::kGotWaveData, [&] {
     const bool stereo = channels == 2;
     if (bits_per_sample == 8) Draw8(block, stereo);

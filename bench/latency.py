@@ -57,28 +57,30 @@ def one_round(recorder: Recorder, play: Callable[[], None],
     return 1000 * begun, 1000 * max(0.0, (ended or pressed) - pressed)
 
 
-def medians(recorder: Recorder, play: Callable[[], None],
-            stop: Callable[[], None]) -> tuple[float, float]:
+def medians(recorder: Recorder, play: Callable[[], None], stop: Callable[[], None],
+            count: int = ROUNDS) -> tuple[float, float]:
     one_round(recorder, play, stop)
-    rounds = [one_round(recorder, play, stop) for _ in range(ROUNDS)]
+    rounds = [one_round(recorder, play, stop) for _ in range(count)]
     begun, ended = zip(*rounds)
     return statistics.median(begun), statistics.median(ended)
 
 
-def of_the_bare_player(rig: Rig, driver: Driver, recorder: Recorder) -> tuple[float, float]:
+def of_the_bare_player(rig: Rig, driver: Driver, recorder: Recorder,
+                       count: int = ROUNDS) -> tuple[float, float]:
     folders = Folders(rig)
     wave = (30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(RATE))).astype(np.int16)
     save_wav(folders.temp / "tone.wav", np.column_stack((wave, wave)))
     program = Tonmira(rig, driver, folders, exe=BARE)
     try:
         window = wait_for_window(driver, "Bare player", program.process)
-        return medians(recorder, lambda: window.press("Play"), lambda: window.press("Stop"))
+        return medians(recorder, lambda: window.press("Play"), lambda: window.press("Stop"),
+                       count)
     finally:
         program.finish()
 
 
 def of_tonmira(rig: Rig, driver: Driver, recorder: Recorder,
-               sound_mode: str) -> tuple[float, float]:
+               sound_mode: str, count: int = ROUNDS) -> tuple[float, float]:
     program = start(rig, driver, sound_mode)
     try:
         window = program.window()
@@ -89,7 +91,7 @@ def of_tonmira(rig: Rig, driver: Driver, recorder: Recorder,
             window.press("Stop Sound")
             program.wait_for_buttons(window, playing=False)
 
-        return medians(recorder, lambda: window.press("Play Sound"), stop)
+        return medians(recorder, lambda: window.press("Play Sound"), stop, count)
     finally:
         program.finish()
 

@@ -14,8 +14,8 @@ import numpy as np
 PROJECT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(PROJECT / "tests"))
 
-from rig.measuring import CHUNK, RATE, loud_stretches  # noqa: E402
-from rig.morse import CODES, MESSAGE, open_tool, symbols, write  # noqa: E402
+from rig.measuring import RATE, loud_stretches  # noqa: E402
+from rig.morse import CHUNK, CODES, MESSAGE, open_tool, symbols, write  # noqa: E402
 from rig.playing import start  # noqa: E402
 from rig.rig import Rig  # noqa: E402
 from rig.sound import Recorder  # noqa: E402
@@ -26,22 +26,20 @@ TEXTBOOK = {**CODES, "O": "---"}
 Tones = list[tuple[float, float]]  # beginning and length in seconds
 
 
-def of_the_tool() -> Tones:
-    with Rig() as rig:
-        user, recorder = User(rig), Recorder(rig)
-        program = start(rig, Driver(rig), "256")
-        try:
-            tool = open_tool(program, user)
-            write(user, tool, MESSAGE)
-            first = recorder.frames()
-            user.click_button(tool, "Play sound")
-            count = sum(len(CODES[c]) for c in MESSAGE if c != " ")
-            wait_for(lambda: len(symbols(recorder, first)) >= count, "the message", 40)
-            recorder.record(0.5)
-            return symbols(recorder, first)
-        finally:
-            program.finish()
-            recorder.stop()
+def of_the_tool(rig: Rig, driver: Driver, recorder: Recorder) -> Tones:
+    user = User(rig)
+    program = start(rig, driver, "256")
+    try:
+        tool = open_tool(program, user)
+        write(user, tool, MESSAGE)
+        first = recorder.frames()
+        user.click_button(tool, "Play sound")
+        count = sum(len(CODES[c]) for c in MESSAGE if c != " ")
+        wait_for(lambda: len(symbols(recorder, first)) >= count, "the message", 40)
+        recorder.record(0.5)
+        return symbols(recorder, first)
+    finally:
+        program.finish()
 
 
 def of_ebook2cw() -> Tones:
@@ -70,14 +68,19 @@ def nominal_lengths(codes: dict[str, str], dash_ms: int, within_ms: int, between
     return lengths
 
 
-def report(name: str, tones: Tones, nominal: list[int]) -> None:
+def measured_with_nominal(tones: Tones, nominal: list[int]) -> list[tuple[float, int]]:
+    """Every symbol and the pause after it, in ms."""
     measured: list[float] = []
     for (begin, length), following in zip(tones, [*tones[1:], None]):
         measured.append(1000 * length)
         if following:
             measured.append(1000 * (following[0] - begin - length))
+    return list(zip(measured, nominal))
+
+
+def report(name: str, tones: Tones, nominal: list[int]) -> None:
     print(f"{name}: measured minus nominal, in ms")
-    pairs = list(zip(measured, nominal))
+    pairs = measured_with_nominal(tones, nominal)
     symbols_by_length = {length: [m - n for m, n in pairs[::2] if n == length]
                          for length in sorted(set(nominal[::2]))}
     pauses_by_length = {length: [m - n for m, n in pairs[1::2] if n == length]
@@ -88,10 +91,16 @@ def report(name: str, tones: Tones, nominal: list[int]) -> None:
                   f"{max(errors, key=abs):+.1f} (of {len(errors)})")
 
 
+NOMINAL_OF_THE_TOOL = nominal_lengths(CODES, 200, 0, 95, 690)
+NOMINAL_OF_EBOOK2CW = nominal_lengths(TEXTBOOK, 300, 100, 300, 700)
+
+
 def main() -> None:
-    report("Morse tool, speed 0", of_the_tool(), nominal_lengths(CODES, 200, 0, 95, 690))
-    report("ebook2cw, 12 words a minute", of_ebook2cw(),
-           nominal_lengths(TEXTBOOK, 300, 100, 300, 700))
+    with Rig() as rig:
+        recorder = Recorder(rig)
+        report("Morse tool, speed 0", of_the_tool(rig, Driver(rig), recorder), NOMINAL_OF_THE_TOOL)
+        recorder.stop()
+    report("ebook2cw, 12 words a minute", of_ebook2cw(), NOMINAL_OF_EBOOK2CW)
 
 
 if __name__ == "__main__":

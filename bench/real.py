@@ -18,7 +18,7 @@ from pathlib import Path
 PROJECT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(PROJECT / "tests"))
 
-from rig.measuring import RATE, loud_stretches  # noqa: E402
+from rig.measuring import CHUNK, RATE, loud_stretches  # noqa: E402
 from rig.paths import PROGRAM  # noqa: E402
 from rig.playing import press_play, start, stop  # noqa: E402
 from rig.program import GOOD_SETTINGS, Folders, Tonmira, play_once  # noqa: E402
@@ -27,6 +27,7 @@ from rig.sound import Recorder  # noqa: E402
 from rig.waiting import wait_for  # noqa: E402
 from rig.window import Driver, User, wait_for_window  # noqa: E402
 
+BARE_SWEEP = PROJECT / "build" / "windows" / "rig" / "bare_sweep.exe"
 BARE = PROJECT / "build" / "windows" / "rig" / "bare_window.exe"
 PAIRS = 20
 WATCHED_S = 10
@@ -97,22 +98,44 @@ def processor_time(rig: Rig, driver: Driver, folders: Folders) -> None:
         recorder.stop()
 
 
-def sweep_steps(rig: Rig, driver: Driver) -> None:
-    user, recorder = User(rig), Recorder(rig)
+def steps_ms(recorder: Recorder, seconds: float, chunk: int = CHUNK) -> list[float]:
+    """From the beginning of one tone to that of the next, over so long from now, sorted. The pause
+    between two is longer than `chunk` samples."""
+    first = recorder.frames()
+    recorder.wait_for_tone()
+    recorder.record(seconds)
+    begins = [begin / RATE for begin, _ in loud_stretches(recorder.samples(first), chunk)]
+    return sorted(1000 * (b - a) for a, b in zip(begins, begins[1:]))
+
+
+def steps_of_the_sweep(rig: Rig, driver: Driver, recorder: Recorder,
+                       seconds: float = 8) -> list[float]:
+    user = User(rig)
     program = start(rig, driver, "256")
     try:
         window = program.window()
-        first = recorder.frames()
         press_play(user, window, "Low to high")
-        recorder.wait_for_tone()
-        recorder.record(8)
-        stretches = loud_stretches(recorder.samples(first))
+        steps = steps_ms(recorder, seconds)
         stop(program, user, window, recorder)
+        return steps
     finally:
         program.finish()
-        recorder.stop()
-    begins = [begin / RATE for begin, _ in stretches]
-    steps = sorted(1000 * (b - a) for a, b in zip(begins, begins[1:]))
+
+
+def steps_of_the_bare_sweep(rig: Rig, driver: Driver, recorder: Recorder,
+                            seconds: float = 8) -> list[float]:
+    program = Tonmira(rig, driver, Folders(rig), exe=BARE_SWEEP)
+    try:
+        return steps_ms(recorder, seconds, CHUNK // 5)
+    finally:
+        program.finish()
+        recorder.wait_for_silence()
+
+
+def sweep_steps(rig: Rig, driver: Driver) -> None:
+    recorder = Recorder(rig)
+    steps = steps_of_the_sweep(rig, driver, recorder)
+    recorder.stop()
     print(f"Low to high, {len(steps)} steps from one beginning to the next: median "
           f"{statistics.median(steps) / NOMINAL_STEP_MS:.2f}, worst "
           f"{steps[-1] / NOMINAL_STEP_MS:.2f} of the nominal {NOMINAL_STEP_MS} ms")

@@ -41,7 +41,7 @@ void SineAnimation::Tick() {
     return;
   }
   phase_ = NextPhase(phase_);
-  DrawFrame(angular_step_, phase_);
+  if (picture_.CanBeSeen()) DrawFrame(angular_step_, phase_);
 }
 
 void SineAnimation::DrawFrame(float angular_step, std::int32_t phase) {

@@ -25,6 +25,9 @@ float AngularStep(std::int16_t pitch);
 // The phase of the frame after one with `phase`, in radians: 100, 200, ... 100000, 100, ...
 std::int32_t NextPhase(std::int32_t phase);
 
+// At x the sine of `angular_step` times x + `phase`, rounded to the nearest twip. Few sines are
+// computed: a point is the one before it, turned by `angular_step` (the angle sum formulas), and
+// where rounding might differ for that it has a sine of its own.
 std::vector<TwipPoint> SineFrame(float angular_step, std::int32_t phase, TwipSize size);
 
 }  // namespace display

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 namespace ui {
 namespace {
@@ -48,6 +49,29 @@ Canvas Canvas::ScaledTo(int width, int height) const {
 
 void Canvas::Clear() {
   std::fill(pixels_.begin(), pixels_.end(), kBackground);
+}
+
+Canvas::Area Canvas::DifferenceFrom(const Canvas& other) const {
+  if (width_ != other.width_ || height_ != other.height_) return {0, 0, width_, height_};
+  int left = width_;
+  int right = 0;
+  int top = height_;
+  int bottom = 0;
+  for (int y = 0; y < height_; ++y) {
+    const auto row = pixels_.begin() + static_cast<std::ptrdiff_t>(Index(0, y));
+    const auto row_end = row + width_;
+    const auto other_row = other.pixels_.begin() + (row - pixels_.begin());
+    const auto first = std::mismatch(row, row_end, other_row).first;
+    if (first == row_end) continue;
+    top = std::min(top, y);
+    bottom = y + 1;
+    left = std::min(left, static_cast<int>(first - row));
+    const auto last = std::mismatch(std::reverse_iterator(row_end), std::reverse_iterator(first),
+                                    std::reverse_iterator(other_row + width_));
+    right = std::max(right, static_cast<int>(last.first.base() - row));
+  }
+  if (bottom == 0) return {};
+  return {left, top, right - left, bottom - top};
 }
 
 void Canvas::DrawPoint(Point point) {

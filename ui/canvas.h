@@ -21,6 +21,17 @@ class Canvas {
     double y = 0;
   };
 
+  // Some of the pixels: a rectangle, which may be empty.
+  struct Area {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+
+    bool Empty() const { return width == 0 || height == 0; }
+    bool operator==(const Area&) const = default;
+  };
+
   Canvas(int width, int height)
       : width_(width),
         height_(height),
@@ -30,8 +41,13 @@ class Canvas {
   int height() const { return height_; }
   const std::vector<std::uint32_t>& pixels() const { return pixels_; }
   std::uint32_t At(int x, int y) const { return pixels_[Index(x, y)]; }
+  const std::uint32_t* Row(int y) const { return pixels_.data() + Index(0, y); }
 
   void Clear();
+
+  // The smallest area that holds every pixel in which the two differ; all of it when their sizes
+  // do.
+  Area DifferenceFrom(const Canvas& other) const;
 
   // The same picture in another size, each pixel taken from the nearest one.
   Canvas ScaledTo(int width, int height) const;

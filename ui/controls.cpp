@@ -23,9 +23,16 @@ void OptionButton::Click() {
 }
 
 void PictureBox::Draw(const std::function<void(Canvas&)>& draw) {
-  canvas_.Clear();
-  draw(canvas_);
+  next_.Clear();
+  draw(next_);
+  changed_ = next_.DifferenceFrom(canvas_);
+  std::swap(canvas_, next_);
   Tell(Property::kPicture);
+}
+
+bool PictureBox::CanBeSeen() const {
+  const WindowView* const view = Owner().View();
+  return view != nullptr && view->CanBeSeen(*this);
 }
 
 void PictureBox::Clear() {
@@ -34,11 +41,13 @@ void PictureBox::Clear() {
 
 void PictureBox::SetResolution(int width, int height) {
   canvas_ = Canvas(width, height);
+  next_ = canvas_;
 }
 
 void PictureBox::ChangeResolution(int width, int height) {
   if (width == canvas_.width() && height == canvas_.height()) return;
   canvas_ = canvas_.ScaledTo(width, height);
+  next_ = Canvas(width, height);
 }
 
 void PictureBox::Reset() {

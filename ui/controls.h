@@ -74,10 +74,17 @@ class PictureBox : public Control {
              Content content = Content::kCanvas)
       : Control(window, id, ControlKind::kPictureBox, std::move(name), bounds, ""),
         content_(content),
-        canvas_(bounds.width, bounds.height) {}
+        canvas_(bounds.width, bounds.height),
+        next_(canvas_) {}
 
   Content content() const { return content_; }
   const Canvas& Picture() const { return canvas_; }
+
+  // What the last drawing changed of the picture before it.
+  const Canvas::Area& Changed() const { return changed_; }
+
+  // Whether a new picture would be seen by anybody.
+  bool CanBeSeen() const;
 
   // Draws a new picture, beginning with an empty canvas. It is shown when it is finished.
   void Draw(const std::function<void(Canvas&)>& draw);
@@ -95,6 +102,8 @@ class PictureBox : public Control {
  private:
   Content content_;
   Canvas canvas_;
+  Canvas next_;  // of the same size: the place for the next picture
+  Canvas::Area changed_;
 };
 
 class LineControl : public Control {

@@ -34,6 +34,10 @@ class WindowView {
 
   // Whether it is shown now: other programs can hide a window, too.
   virtual bool IsShown() const = 0;
+
+  // Whether any of a control would be seen: its window is neither minimized nor wholly covered, as
+  // far as the system tells.
+  virtual bool CanBeSeen(const Control& control) const = 0;
   virtual void CaptionChanged() = 0;
   virtual void Changed(const Control& control, Property property) = 0;
   virtual void Changed(const MenuItem& item, Property property) = 0;

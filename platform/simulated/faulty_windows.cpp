@@ -19,6 +19,8 @@ class FaultyView : public ui::WindowView {
   bool IsShown() const override {
     return !calls_.Next("windows.IsShown", name_) && real_->IsShown();
   }
+  // Not counted: it cannot fail.
+  bool CanBeSeen(const ui::Control& control) const override { return real_->CanBeSeen(control); }
   void CaptionChanged() override {
     calls_.Enter("windows.CaptionChanged", name_);
     real_->CaptionChanged();

@@ -95,6 +95,10 @@ class JournalView : public ui::WindowView {
            !windows_.hidden_by_others.contains(window_.Name());
   }
 
+  bool CanBeSeen(const ui::Control& control) const override {
+    return IsShown() && control.Visible() && !windows_.out_of_sight.contains(window_.Name());
+  }
+
   void CaptionChanged() override { Note(" caption: " + window_.Caption()); }
 
   void Changed(const ui::Control& control, ui::Property property) override {

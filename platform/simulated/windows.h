@@ -18,6 +18,7 @@ class Windows : public ui::WindowSystem {
   std::unique_ptr<ui::WindowView> Open(ui::Window& window) override;
 
   std::set<std::string> hidden_by_others;  // names of windows that another program has hidden
+  std::set<std::string> out_of_sight;      // names of windows that are covered or minimized
 
   // What other programs have put into fields, unnoticed: by name ("Form4.Text1") the text, "yes" or
   // "no" of a check box, the index of a drop-down list's item.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 namespace display {
@@ -67,6 +68,21 @@ TEST(SinePreview, PointsAreDrawnOnTheWholeCanvasWhateverItsResolution) {
     EXPECT_EQ(canvas.At(2 * scale, scale), ui::Canvas::kForeground);
     EXPECT_EQ(canvas.At(4 * scale - 1, 2 * scale - 1), ui::Canvas::kForeground);
     EXPECT_EQ(canvas.At(4 * scale - 1, 0), ui::Canvas::kBackground);
+  }
+}
+
+TEST(SinePreview, EveryPointIsThePlainFormulasAtAllPitchesAndPhases) {
+  for (const int pitch : {4, 5, 440, 1000, 4500, 10000, 15000, 21000, 31999, 32000}) {
+    const double step = static_cast<double>(static_cast<float>(pitch / 500.0 * 0.001));
+    for (const int phase : {0, 100, 1000, 31400, 99900, 100000}) {
+      const auto points = SineFrame(AngularStep(static_cast<std::int16_t>(pitch)), phase, kBox);
+      for (std::int32_t x = 0; x <= kBox.width; ++x) {
+        const double y = std::nearbyint(std::sin(step * x + phase) * 560);
+        ASSERT_EQ(points[static_cast<std::size_t>(x)],
+                  (TwipPoint{x, 660 + static_cast<std::int32_t>(y)}))
+            << pitch << " " << phase;
+      }
+    }
   }
 }
 

@@ -116,7 +116,8 @@ def test_an_update_that_is_accepted_while_the_test_file_arrives_leaves_nothing_o
         if visit.path == "/updatetonmira.txt":
             bad_hosts.answering(bad_hosts.UPDATE)(visit)
         else:
-            visit.answer("200 OK", "Content-Type: text/plain", "Content-Length: 1000", body=b"9")
+            visit.answer("200 OK", "Content-Type: text/plain", "Content-Length: 100000",
+                         body=b"9" * 70000)
             visit.over.wait()
 
     with host(serve) as slow:

@@ -2,6 +2,7 @@
 
 import time
 from collections.abc import Callable
+from pathlib import Path
 
 import numpy as np
 import pytest
@@ -39,6 +40,18 @@ def start(launch: Callable[..., Tonmira], folders: Folders, user: User, *,
     window = program.window()
     user.activate(window)
     return program, window
+
+
+def work_of_a_second(program: Tonmira) -> float:
+    """Processor seconds that the program's own thread takes in one."""
+    schedule = Path(f"/proc/{program.linux_process()}/schedstat")
+
+    def spent() -> float:
+        return int(schedule.read_text().split()[0]) / 1e9
+
+    before = spent()
+    time.sleep(1)
+    return spent() - before
 
 
 def halves(marks: np.ndarray) -> tuple[np.ndarray, np.ndarray]:
@@ -115,6 +128,26 @@ def test_the_menu_turns_it_off_and_on(launch: Callable[..., Tonmira], folders: F
     wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces again", 15)
     assert window.button("+").enabled and window.button("-").enabled
     assert folders.settings_file.read_text().split("\n")[5] == "MicrophoneON=y"
+
+
+def test_minimized_it_stands_still_and_restored_it_moves_again(
+        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen,
+        microphone: Microphone) -> None:
+    microphone.feed(503, 1508)
+    program, window = start(launch, folders, user)
+    window.press("High pitch")
+    places = [inside(window, picture) for picture in PICTURES]
+    for place in places:
+        wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a moving picture", 15)
+    moving = work_of_a_second(program)
+    user.xdotool("windowminimize", "--sync", user.x_window(window))
+    still = wait_for(lambda: (work := work_of_a_second(program)) < moving / 2 and (work or 1e-6),
+                     "a program that does not draw", 10)
+    print(f"the program's thread: {moving:.4f} s a second, minimized {still:.4f} s")
+    user.xdotool("windowmap", user.x_window(window))
+    user.activate(window)
+    for place in places:
+        wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a picture that moves again", 15)
 
 
 def test_turning_it_on_and_off_a_hundred_times_leaves_no_handles(

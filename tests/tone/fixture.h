@@ -29,6 +29,7 @@ class NoView : public ui::WindowView {
  public:
   void ShowWindow(bool) override {}
   bool IsShown() const override { return true; }
+  bool CanBeSeen(const ui::Control&) const override { return true; }
   void CaptionChanged() override {}
   void Changed(const ui::Control&, ui::Property) override {}
   void Changed(const ui::MenuItem&, ui::Property) override {}

@@ -94,5 +94,26 @@ TEST(Canvas, OneWithoutPixelsTakesEverything) {
   EXPECT_TRUE(canvas.pixels().empty());
 }
 
+TEST(Canvas, TheDifferenceIsTheSmallestAreaWithEveryOtherPixel) {
+  Canvas before(6, 4);
+  Canvas after(6, 4);
+  EXPECT_TRUE(after.DifferenceFrom(before).Empty());
+  after.DrawPoint({2, 1});
+  EXPECT_EQ(after.DifferenceFrom(before), (Canvas::Area{2, 1, 1, 1}));
+  after.DrawPoint({4, 3});
+  EXPECT_EQ(after.DifferenceFrom(before), (Canvas::Area{2, 1, 3, 3}));
+  before.DrawPoint({2, 1});  // the same in both
+  EXPECT_EQ(after.DifferenceFrom(before), (Canvas::Area{4, 3, 1, 1}));
+  before.DrawPoint({0, 0});  // what is gone counts, too
+  EXPECT_EQ(after.DifferenceFrom(before), (Canvas::Area{0, 0, 5, 4}));
+  after.DrawPoint({5, 0});
+  EXPECT_EQ(after.DifferenceFrom(before), (Canvas::Area{0, 0, 6, 4}));
+}
+
+TEST(Canvas, OfAnotherSizeAllIsDifferent) {
+  EXPECT_EQ(Canvas(6, 4).DifferenceFrom(Canvas(4, 6)), (Canvas::Area{0, 0, 6, 4}));
+  EXPECT_TRUE(Canvas(0, 0).DifferenceFrom(Canvas(0, 0)).Empty());
+}
+
 }  // namespace
 }  // namespace ui

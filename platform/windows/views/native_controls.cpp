@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/windows/api/handles.h"
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/views/control_layout.h"
 #include "platform/windows/views/control_shape.h"
@@ -172,7 +173,7 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
       ShowItems(handles_[*index], control, appearance_);
       break;
     case ui::Property::kPicture:
-      InvalidateRect(handles_[*index], nullptr, FALSE);
+      ShowChange(handles_[*index], static_cast<const ui::PictureBox&>(control));
       break;
     case ui::Property::kSilent:
     case ui::Property::kAddress:
@@ -187,6 +188,14 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
     case ui::Property::kChecked:
       break;
   }
+}
+
+bool NativeControls::IsUncovered(const ui::Control& control) const {
+  const auto index = IndexOf(&control);
+  if (!index || *index >= handles_.size()) return false;
+  const DeviceContext context(handles_[*index]);
+  RECT seen{};
+  return GetClipBox(context.get(), &seen) > NULLREGION;
 }
 
 void NativeControls::ReadFields() const {

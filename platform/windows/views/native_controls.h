@@ -52,6 +52,9 @@ class NativeControls {
 
   void Changed(const ui::Control& control, ui::Property property);
 
+  // Whether any of a control is not covered by what stands before it.
+  bool IsUncovered(const ui::Control& control) const;
+
   // ui::WindowView::ReadFields for all of them.
   void ReadFields() const;
 

@@ -86,6 +86,10 @@ void NativeWindow::ShowWindow(bool visible) {
   if (visible) open_.ForgetLeft();
 }
 
+bool NativeWindow::CanBeSeen(const ui::Control& control) const {
+  return IsShown() && !IsIconic(handle_) && controls_.IsUncovered(control);
+}
+
 void NativeWindow::CaptionChanged() {
   SetWindowTextW(handle_, Widen(window_.Caption()).c_str());
   controls_.WindowCaptionChanged();

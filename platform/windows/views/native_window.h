@@ -32,6 +32,7 @@ class NativeWindow final : public ui::WindowView {
 
   void ShowWindow(bool visible) override;
   bool IsShown() const override { return IsWindowVisible(handle_) != FALSE; }
+  bool CanBeSeen(const ui::Control& control) const override;
   void CaptionChanged() override;
   void Changed(const ui::Control& control, ui::Property property) override;
   void Changed(const ui::MenuItem& item, ui::Property property) override;

@@ -1,5 +1,6 @@
 #include "platform/windows/views/picture_view.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -17,42 +18,68 @@ std::uint32_t SystemColor(int index) {
          static_cast<std::uint32_t>(GetGValue(color)) << 8 | GetBValue(color);
 }
 
-std::vector<std::uint32_t> ScreenPixels(const ui::Canvas& canvas) {
+std::vector<std::uint32_t> ScreenPixels(const ui::Canvas& canvas, const ui::Canvas::Area& part) {
   const std::uint32_t background = SystemColor(COLOR_WINDOW);
   const std::uint32_t foreground = SystemColor(COLOR_WINDOWTEXT);
-  std::vector<std::uint32_t> pixels = canvas.pixels();
-  for (std::uint32_t& pixel : pixels) {
-    if (pixel == ui::Canvas::kBackground) pixel = background;
-    if (pixel == ui::Canvas::kForeground) pixel = foreground;
+  const auto shown = [=](std::uint32_t pixel) {
+    if (pixel == ui::Canvas::kBackground) return background;
+    return pixel == ui::Canvas::kForeground ? foreground : pixel;
+  };
+  const auto width = static_cast<std::size_t>(part.width);
+  std::vector<std::uint32_t> pixels(width * static_cast<std::size_t>(part.height));
+  std::uint32_t* to = pixels.data();
+  for (int y = part.top; y < part.top + part.height; ++y, to += width) {
+    const std::uint32_t* const row = canvas.Row(y) + part.left;
+    std::transform(row, row + width, to, shown);
   }
   return pixels;
 }
 
+// The context is of the window's own: what is left out once is left out until it is painted anew,
+// which whatever moves or shows a line brings about.
 void LeaveOutLines(HWND handle, HDC context, const ui::PictureBox& picture) {
-  const HWND parent = GetParent(handle);
+  SelectClipRgn(context, nullptr);
+  RECT own{};
+  GetWindowRect(handle, &own);
   for (const ui::Control* control : picture.Owner().Controls()) {
     if (control->kind() != ui::ControlKind::kLine || !control->Visible()) continue;
     RECT line{};
-    GetWindowRect(GetDlgItem(parent, control->Id()), &line);
-    MapWindowPoints(nullptr, handle, reinterpret_cast<POINT*>(&line), 2);
+    GetWindowRect(GetDlgItem(GetParent(handle), control->Id()), &line);
+    OffsetRect(&line, -own.left, -own.top);
     ExcludeClipRect(context, line.left, line.top, line.right, line.bottom);
   }
 }
 
-void DrawCanvas(HDC context, const RECT& area, const ui::Canvas& canvas) {
-  FrameRect(context, &area, GetSysColorBrush(COLOR_3DSHADOW));
+// Where a part of the canvas is in a window whose client area is `area`.
+RECT PlaceOf(const ui::Canvas::Area& part, const ui::Canvas& canvas, const RECT& area) {
+  const int width = area.right - 2 * kBorder;
+  const int height = area.bottom - 2 * kBorder;
+  return {kBorder + MulDiv(part.left, width, canvas.width()),
+          kBorder + MulDiv(part.top, height, canvas.height()),
+          kBorder + MulDiv(part.left + part.width, width, canvas.width()),
+          kBorder + MulDiv(part.top + part.height, height, canvas.height())};
+}
+
+void CopyPart(HDC context, const RECT& area, const ui::Canvas& canvas,
+              const ui::Canvas::Area& part) {
+  if (part.Empty()) return;
   BITMAPINFO format{};
   format.bmiHeader.biSize = sizeof(format.bmiHeader);
-  format.bmiHeader.biWidth = canvas.width();
-  format.bmiHeader.biHeight = -canvas.height();  // from the top
+  format.bmiHeader.biWidth = part.width;
+  format.bmiHeader.biHeight = -part.height;  // from the top
   format.bmiHeader.biPlanes = 1;
   format.bmiHeader.biBitCount = 32;
   format.bmiHeader.biCompression = BI_RGB;
-  const std::vector<std::uint32_t> pixels = ScreenPixels(canvas);
+  const std::vector<std::uint32_t> pixels = ScreenPixels(canvas, part);
+  const RECT place = PlaceOf(part, canvas, area);
   SetStretchBltMode(context, COLORONCOLOR);
-  StretchDIBits(context, kBorder, kBorder, area.right - 2 * kBorder, area.bottom - 2 * kBorder, 0,
-                0, canvas.width(), canvas.height(), pixels.data(), &format, DIB_RGB_COLORS,
-                SRCCOPY);
+  StretchDIBits(context, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                0, 0, part.width, part.height, pixels.data(), &format, DIB_RGB_COLORS, SRCCOPY);
+}
+
+void DrawCanvas(HDC context, const RECT& area, const ui::Canvas& canvas) {
+  FrameRect(context, &area, GetSysColorBrush(COLOR_3DSHADOW));
+  CopyPart(context, area, canvas, {0, 0, canvas.width(), canvas.height()});
 }
 
 void DrawProgramIcon(HWND handle, HDC context, const RECT& area) {
@@ -111,11 +138,20 @@ int PictureBorder(const ui::PictureBox& picture) {
 
 void RegisterPictureClass(HINSTANCE instance) {
   WNDCLASSW window_class{};
+  window_class.style = CS_OWNDC;
   window_class.lpfnWndProc = PictureProcedure;
   window_class.hInstance = instance;
   window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   window_class.lpszClassName = kPictureClass;
   RegisterClassW(&window_class);
+}
+
+void ShowChange(HWND handle, const ui::PictureBox& picture) {
+  if (picture.Changed().Empty()) return;
+  const DeviceContext context(handle);
+  RECT area{};
+  GetClientRect(handle, &area);
+  CopyPart(context.get(), area, picture.Picture(), picture.Changed());
 }
 
 void DetachPicture(HWND handle) {
