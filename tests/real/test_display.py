@@ -42,16 +42,20 @@ def start(launch: Callable[..., Tonmira], folders: Folders, user: User, *,
     return program, window
 
 
-def work_of_a_second(program: Tonmira) -> float:
-    """Processor seconds that the program's own thread takes in one."""
+def least_work_of_a_second(program: Tonmira) -> float:
+    """Processor seconds that the program's own thread takes in one, of five: what else the machine
+    does adds to some of them."""
     schedule = Path(f"/proc/{program.linux_process()}/schedstat")
 
     def spent() -> float:
         return int(schedule.read_text().split()[0]) / 1e9
 
-    before = spent()
-    time.sleep(1)
-    return spent() - before
+    work = []
+    for _ in range(5):
+        before = spent()
+        time.sleep(1)
+        work.append(spent() - before)
+    return min(work)
 
 
 def halves(marks: np.ndarray) -> tuple[np.ndarray, np.ndarray]:
@@ -139,11 +143,11 @@ def test_minimized_it_stands_still_and_restored_it_moves_again(
     places = [inside(window, picture) for picture in PICTURES]
     for place in places:
         wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a moving picture", 15)
-    moving = work_of_a_second(program)
+    moving = least_work_of_a_second(program)
     user.xdotool("windowminimize", "--sync", user.x_window(window))
-    still = wait_for(lambda: (work := work_of_a_second(program)) < moving / 2 and (work or 1e-6),
-                     "a program that does not draw", 10)
+    still = least_work_of_a_second(program)
     print(f"the program's thread: {moving:.4f} s a second, minimized {still:.4f} s")
+    assert still < 0.8 * moving
     user.xdotool("windowmap", user.x_window(window))
     user.activate(window)
     for place in places:

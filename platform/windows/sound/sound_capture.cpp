@@ -54,7 +54,7 @@ GUID GuidOf(const std::string& identifier) {
 }
 
 // The functions of the system that find and open devices.
-struct Library {
+struct CaptureLibrary {
   const HMODULE library = LoadSystemLibrary(L"dsound.dll");
   CreateCapture create = FunctionOf<CreateCapture>(library, "DirectSoundCaptureCreate8");
   EnumerateFunction enumerate =
@@ -165,7 +165,7 @@ BOOL CALLBACK PassDevice(GUID*, LPCWSTR, LPCWSTR, LPVOID) {
 
 // Nearly all of what opening a device takes is the system's own preparation for the first question.
 DWORD WINAPI AskForDevices(void*) noexcept {
-  const Library library;
+  const CaptureLibrary library;
   return library.complete() && SUCCEEDED(library.enumerate(PassDevice, nullptr)) ? 1 : 0;
 }
 
@@ -176,7 +176,7 @@ void WindowsSoundCapture::Prepare() {
 }
 
 std::unique_ptr<CaptureRoot> WindowsSoundCapture::Create() {
-  const Library library;
+  const CaptureLibrary library;
   if (!library.complete()) throw base::RuntimeError(base::ErrorCode::kDeviceError);
   return std::make_unique<Microphones>(library.create, library.enumerate);
 }
