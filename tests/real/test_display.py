@@ -144,11 +144,12 @@ def test_minimized_it_stands_still_and_restored_it_moves_again(
     for place in places:
         wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a moving picture", 15)
     moving = least_work_of_a_second(program)
-    user.xdotool("windowminimize", "--sync", user.x_window(window))
+    own = user.x_window(window)  # a minimized one is not found
+    user.xdotool("windowminimize", "--sync", own)
     still = least_work_of_a_second(program)
     print(f"the program's thread: {moving:.4f} s a second, minimized {still:.4f} s")
     assert still < 0.8 * moving
-    user.xdotool("windowmap", user.x_window(window))
+    user.xdotool("windowmap", own)
     user.activate(window)
     for place in places:
         wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a picture that moves again", 15)
