@@ -289,33 +289,5 @@ TEST_F(MicrophoneTest, WithAFileOnTheCommandLineCaptureStartsAllTheSame) {
   EXPECT_NE(std::find(calls.begin(), calls.end(), "capture start 1"), calls.end());
 }
 
-TEST_F(MicrophoneTest, WhileTheWindowIsCoveredOrMinimizedNothingIsDrawn) {
-  Feed(503, 1508, 8000);
-  At(1050ms, [this](Form1&) {
-    sim.journal.Clear();
-    sim.windows.out_of_sight = {"Form1"};
-  });
-  At(3050ms, [this](Form1&) {
-    EXPECT_EQ(Pictures(), Lines{});
-    EXPECT_EQ(sim.sound_capture.running_buffers, 1);
-    sim.windows.out_of_sight.clear();
-  });
-  At(4050ms, [this](Form1&) { EXPECT_EQ(Pictures(), Lines(10, "Form1.picWave picture")); });
-  Run();
-}
-
-TEST_F(MicrophoneTest, OnlyWhatABlockChangesIsNewInThePicture) {
-  At(1050ms, [this](Form1& form1) {
-    EXPECT_TRUE(form1.picWave.Changed().Empty());  // silence after silence
-    Feed(500, 0, 8000);
-  });
-  At(1150ms, [](Form1& form1) {
-    const ui::Canvas::Area changed = form1.picWave.Changed();
-    EXPECT_FALSE(changed.Empty());
-    EXPECT_LE(changed.top + changed.height, 44);  // the trace of the right channel is the same
-  });
-  Run();
-}
-
 }  // namespace
 }  // namespace app

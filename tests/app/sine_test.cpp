@@ -286,22 +286,5 @@ TEST_F(SineTest, TenThousandChoicesNeitherDeepenTheStackNorLeaveASecondAnimation
   EXPECT_EQ(choices, 10000u);
 }
 
-TEST_F(SineTest, WhileTheWindowIsCoveredOrMinimizedTheWaveMovesOnUndrawn) {
-  std::vector<std::uint32_t> seen;
-  At(1s, [](Form1& form1) { form1.Option3.Click(); });
-  At(2010ms, [this, &seen](Form1&) {
-    seen = Picture();
-    sim.windows.out_of_sight = {"Form1"};
-    sim.journal.Clear();
-  });
-  At(12010ms, [this, &seen](Form1&) {
-    EXPECT_EQ(Frames(), 0u);
-    EXPECT_EQ(Picture(), seen);
-    sim.windows.out_of_sight.clear();
-  });
-  ExpectMoving(13s, 23s);
-  Run();
-}
-
 }  // namespace
 }  // namespace app

@@ -2,7 +2,6 @@
 
 import time
 from collections.abc import Callable
-from pathlib import Path
 
 import numpy as np
 import pytest
@@ -40,22 +39,6 @@ def start(launch: Callable[..., Tonmira], folders: Folders, user: User, *,
     window = program.window()
     user.activate(window)
     return program, window
-
-
-def least_work_of_a_second(program: Tonmira) -> float:
-    """Processor seconds that the program's own thread takes in one, of five: what else the machine
-    does adds to some of them."""
-    schedule = Path(f"/proc/{program.linux_process()}/schedstat")
-
-    def spent() -> float:
-        return int(schedule.read_text().split()[0]) / 1e9
-
-    work = []
-    for _ in range(5):
-        before = spent()
-        time.sleep(1)
-        work.append(spent() - before)
-    return min(work)
 
 
 def halves(marks: np.ndarray) -> tuple[np.ndarray, np.ndarray]:
@@ -132,27 +115,6 @@ def test_the_menu_turns_it_off_and_on(launch: Callable[..., Tonmira], folders: F
     wait_for(lambda: shows_tones(marks_of(screen, window, "picWave")), "both traces again", 15)
     assert window.button("+").enabled and window.button("-").enabled
     assert folders.settings_file.read_text().split("\n")[5] == "MicrophoneON=y"
-
-
-def test_minimized_it_stands_still_and_restored_it_moves_again(
-        launch: Callable[..., Tonmira], folders: Folders, user: User, screen: Screen,
-        microphone: Microphone) -> None:
-    microphone.feed(503, 1508)
-    program, window = start(launch, folders, user)
-    window.press("High pitch")
-    places = [inside(window, picture) for picture in PICTURES]
-    for place in places:
-        wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a moving picture", 15)
-    moving = least_work_of_a_second(program)
-    own = user.x_window(window)  # a minimized one is not found
-    user.xdotool("windowminimize", "--sync", own)
-    still = least_work_of_a_second(program)
-    print(f"the program's thread: {moving:.4f} s a second, minimized {still:.4f} s")
-    assert still < 0.8 * moving
-    user.xdotool("windowmap", own)
-    user.activate(window)
-    for place in places:
-        wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a picture that moves again", 15)
 
 
 def test_turning_it_on_and_off_a_hundred_times_leaves_no_handles(
