@@ -32,8 +32,8 @@ Owned<IAudioClient> DefaultDevice(const OleFunctions& ole) {
 
 }  // namespace
 
-Mixer::Mixer()
-    : com_(ole_.complete() && SUCCEEDED(ole_.initialize(nullptr, COINIT_MULTITHREADED))) {}
+Mixer::Mixer(DWORD apartment)
+    : com_(ole_.complete() && SUCCEEDED(ole_.initialize(nullptr, apartment))) {}
 
 Mixer::~Mixer() {
   if (com_) ole_.uninitialize();

@@ -32,7 +32,8 @@ struct OleFunctions {
 // with the last use of COM the system would unload its sound components, only to load them again.
 class Mixer {
  public:
-  Mixer();
+  // `apartment` as for CoInitializeEx: a thread with windows has one of its own.
+  explicit Mixer(DWORD apartment = COINIT_MULTITHREADED);
   ~Mixer();
   Mixer(const Mixer&) = delete;
   Mixer& operator=(const Mixer&) = delete;

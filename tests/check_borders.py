@@ -38,6 +38,7 @@ TESTED = {
     "platform": {"base", "ui"},
     **{room: SERVICES | below for room, below in SUBSYSTEMS.items()},
     "app": APP,
+    "hearing": SERVICES,
     "helpers": {"base", "tone"},
     "tools": {"base", "tone", "morse", "program_files"},
 }
@@ -51,8 +52,10 @@ ALLOWED = {
     "platform/simulated": SERVICES,
     **{room: SERVICES | below for room, below in SUBSYSTEMS.items()},
     "app": APP,
+    "hearing": SERVICES,
     "main.cpp": APP | {"app", "platform/windows"},
     "helpers": {"base", "tone", "platform/windows/api"},
+    "helpers/hearage": SERVICES | NATIVE | {"helpers", "hearing", "platform/windows"},
     "tools": {"base", "tone", "morse", "program_files"},
     **{room: {"tools"} for room in COMPANION},
     **{f"tests/{room}": {room} | below | {f"tests/{other}" for other in below} | SIMULATION
@@ -69,7 +72,7 @@ ALLOWED = {
 SHARED_HEADERS = {"helpers": {"online/addresses.h"}}
 
 # Where the Windows API may be used.
-WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "tools/windows", "tests/rig",
+WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "helpers/hearage", "tools/windows", "tests/rig",
                     "tests/rig/bare"}
 
 # Beside the C++ standard library's headers.

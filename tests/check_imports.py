@@ -11,7 +11,8 @@ from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[1]
 FOLDER = PROJECT / "build" / "windows-x86" / "tonmira"
-PROGRAMS = ["tonmira.exe", "play16.exe", "tone16.dll", "tone32.dll", "upsend.exe", "tnf.exe"]
+PROGRAMS = ["tonmira.exe", "play16.exe", "tone16.dll", "tone32.dll", "upsend.exe", "hearage.dll",
+            "tnf.exe"]
 LIST = PROJECT / "tests" / "nt5_imports.txt"
 OBJDUMP = "i686-w64-mingw32-objdump"
 

@@ -1,0 +1,156 @@
+#include "hearing/texts.h"
+
+namespace hearing {
+namespace {
+
+constexpr Texts kEnglish{
+    .title = "Hearing age",
+    .start = "Start",
+    .yes = "Yes",
+    .no = "No",
+    .close = "Close",
+    .first_page =
+        "This finds the highest pitch that you can hear. Go to a quiet place and set a low "
+        "volume: high tones can harm your ears even if you do not hear them. Start plays "
+        "1000 Hz first; then higher tones follow, and sometimes none.",
+    .listen = "Listen...",
+    .question = "Did you hear it?",
+    .answering = "After each trial, say whether you heard a tone. In some trials there is none.",
+    .louder = "Turn the volume up a little. The tone comes once more.",
+    .limit = "This sound device allows tones up to ",
+    .after_limit = ".",
+    .no_device =
+        "No sound device was found, or it is in use by another program. Connect "
+        "loudspeakers or headphones and press Start.",
+    .device_lost =
+        "The test ended: the sound device does not play any more. Connect it again and "
+        "press Start.",
+    .device_too_low =
+        "This sound device plays no tones from 8000 Hz on: the test cannot be done "
+        "with it.",
+    .no_check_tone =
+        "The test ended: you did not hear 1000 Hz three times. Look whether "
+        "loudspeakers or headphones are connected and not muted, and press Start.",
+    .nothing_heard = "None of the high tones was heard",
+    .nothing_heard_reason =
+        "The lowest of them is 8000 Hz. Perhaps your loudspeakers do not play "
+        "them.",
+    .highest_heard = "Highest pitch heard: ",
+    .not_reliable = "Not reliable",
+    .silence_heard =
+        "You said Yes more than once when nothing was played. Take your time, and "
+        "say No when you are not sure.",
+    .contradictory =
+        "Your answers contradict each other too often. Perhaps it is not quiet enough "
+        "around you.",
+    .ages_between = "That is typical of ages between ",
+    .ages_and = " and ",
+    .ages_up_to = "That is typical of ages up to ",
+    .ages_from = "That is typical of ages from ",
+    .ages_end = ".",
+    .again = "Start tests again. F1 tells where the ages come from.",
+    .age = "Age ",
+    .scale = "Pitches that each age typically hears at most, and yours",
+    .caution =
+        "This is no medical test: many loudspeakers play high tones softly or not at all, and "
+        "how loud they are at your ear is not known.",
+    .help =
+        "How the ages are found\n\n"
+        "A study of 411 people of 16 to 70 years with healthy ears (Jilek, Suta and Syka, "
+        "Journal of the Acoustical Society of America 136, 2014, page 1821) tells how much "
+        "louder a high tone must be as people get older, up to 16000 Hz.\n\n"
+        "How loud your tones are is not known. So the ages that a pitch is typical of are those "
+        "at which it must be 20 to 60 dB louder than at 18. Above 16000 Hz there is no lowest "
+        "age, below 9000 Hz no highest.\n\n"
+        "Keys: Y and N answer, Esc closes.",
+};
+
+constexpr Texts kDutch{
+    .title = "Gehoorleeftijd",
+    .start = "Start",
+    .yes = "Ja",
+    .no = "Nee",
+    .close = "Sluiten",
+    .first_page =
+        "Dit zoekt de hoogste toon die u kunt horen. Zoek een stille plek en zet het "
+        "volume laag: hoge tonen kunnen uw gehoor ook beschadigen als u ze niet hoort. "
+        "Start speelt eerst 1000 Hz; dan volgen hogere tonen, en soms geen.",
+    .listen = "Luister...",
+    .question = "Heeft u het gehoord?",
+    .answering = "Zeg na elke keer of u een toon hoorde. Soms is er geen toon.",
+    .louder = "Zet het volume iets hoger. De toon komt nog een keer.",
+    .limit = "Dit geluidsapparaat laat tonen toe tot ",
+    .after_limit = ".",
+    .no_device =
+        "Er is geen geluidsapparaat gevonden, of een ander programma gebruikt het. Sluit "
+        "luidsprekers of een koptelefoon aan en druk op Start.",
+    .device_lost =
+        "De test is gestopt: het geluidsapparaat speelt niet meer. Sluit het weer aan en "
+        "druk op Start.",
+    .device_too_low =
+        "Dit geluidsapparaat speelt geen tonen vanaf 8000 Hz: de test kan er niet mee "
+        "worden gedaan.",
+    .no_check_tone =
+        "De test is gestopt: u hoorde drie keer geen 1000 Hz. Kijk of luidsprekers of "
+        "koptelefoon zijn aangesloten en aan staan, en druk op Start.",
+    .nothing_heard = "Geen van de hoge tonen gehoord",
+    .nothing_heard_reason = "De laagste is 8000 Hz. Misschien spelen uw luidsprekers ze niet.",
+    .highest_heard = "Hoogste toon gehoord: ",
+    .not_reliable = "Niet betrouwbaar",
+    .silence_heard =
+        "U zei meer dan eens Ja terwijl er niets werd gespeeld. Neem de tijd, en zeg "
+        "Nee als u niet zeker bent.",
+    .contradictory =
+        "Uw antwoorden spreken elkaar te vaak tegen. Misschien is het om u heen niet "
+        "stil genoeg.",
+    .ages_between = "Dat past bij leeftijden tussen ",
+    .ages_and = " en ",
+    .ages_up_to = "Dat past bij leeftijden tot ",
+    .ages_from = "Dat past bij leeftijden vanaf ",
+    .ages_end = " jaar.",
+    .again = "Start test opnieuw. F1 zegt waar de leeftijden vandaan komen.",
+    .age = "Leeftijd ",
+    .scale = "Tonen die elke leeftijd meestal hoogstens hoort, en de uwe",
+    .caution =
+        "Dit is geen medische test: veel luidsprekers spelen hoge tonen zacht of niet, en hoe "
+        "hard ze bij uw oor zijn is niet bekend.",
+    .help =
+        "Hoe de leeftijden worden gevonden\n\n"
+        "Een onderzoek met 411 mensen van 16 tot 70 jaar met gezonde oren (Jilek, Suta en Syka, "
+        "Journal of the Acoustical Society of America 136, 2014, bladzijde 1821) zegt hoeveel "
+        "harder een hoge toon moet zijn als mensen ouder worden, tot 16000 Hz.\n\n"
+        "Hoe hard uw tonen zijn is niet bekend. Een toon past daarom bij de leeftijden waarop "
+        "hij 20 tot 60 dB harder moet zijn dan op 18. Boven 16000 Hz is er geen laagste "
+        "leeftijd, onder 9000 Hz geen hoogste.\n\n"
+        "Toetsen: J en N antwoorden, Esc sluit.",
+};
+
+}  // namespace
+
+const Texts& TextsOf(Language language) {
+  return language == Language::kDutch ? kDutch : kEnglish;
+}
+
+std::string PitchText(int pitch_hz) {
+  return std::to_string(pitch_hz) + " Hz";
+}
+
+std::string AgesText(const Texts& texts, const AgeRange& range) {
+  std::string text;
+  if (range.from && range.to) {
+    text = std::string(texts.ages_between) + std::to_string(*range.from) +
+           std::string(texts.ages_and) + std::to_string(*range.to);
+  } else if (range.to) {
+    text = std::string(texts.ages_up_to) + std::to_string(*range.to);
+  } else {
+    text = std::string(texts.ages_from) + std::to_string(range.from.value_or(0));
+  }
+  return text + std::string(texts.ages_end);
+}
+
+std::string LimitText(const Texts& texts, int highest_hz) {
+  if (highest_hz >= kHighestPitch) return "";
+  return std::string(texts.limit) + PitchText(highest_hz) + std::string(texts.after_limit);
+}
+
+}  // namespace hearing
