@@ -13,7 +13,7 @@ constexpr double kSeeds = 2147483646;  // of the random numbers that a procedure
 }  // namespace
 
 HearingWindow::HearingWindow(const Services& services, Language language)
-    : ui::Window(services.windows, {"HearingAge", std::string(TextsOf(language).title), 472, 394}),
+    : ui::Window(services.windows, {"HearingAge", std::string(TextsOf(language).title), 472, 396}),
       services_(services),
       texts_(TextsOf(language)) {
   cmdStart.OnClick = [this] { Start(); };

@@ -29,7 +29,14 @@ hearing::Language TakeLanguage() {
   return hearing::TakeHandOver(files, environment.Get("TEMP"));
 }
 
-void Run(HINSTANCE instance, hearing::Language language) {
+// Where the system lets no window take the focus from another program's, it can still be seen.
+void ComeToTop(HWND window) {
+  for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST}) {
+    SetWindowPos(window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  }
+}
+
+void Run(HINSTANCE instance, hearing::Language language, helpers::OnlyOne& only_one) {
   platform::windows::OpenWindows open;
   platform::windows::MultimediaLibrary multimedia;
   platform::windows::WindowsMessagePump pump(open, multimedia);
@@ -40,6 +47,10 @@ void Run(HINSTANCE instance, hearing::Language language) {
   helpers::WaveOutput output;
   hearing::HearingWindow window({windows, timers, random, messages, output}, language);
   window.Show();
+  only_one.OnCall([&] {
+    window.Show();
+    ComeToTop(open.MessageOwner());
+  });
   pump.Run();
 }
 
@@ -57,11 +68,11 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
   platform::windows::LoadFromSystemFolderOnly();
   SetErrorMode(SEM_FAILCRITICALERRORS);
   const hearing::Language language = TakeLanguage();
-  const helpers::OnlyOne only_one;
+  helpers::OnlyOne only_one;
   if (only_one.Taken()) {
-    helpers::OnlyOne::BringToFront();
+    helpers::OnlyOne::Call();
     return 0;
   }
-  Run(instance, language);
+  Run(instance, language, only_one);
   return 0;
 }

@@ -6,6 +6,7 @@ import numpy as np
 import pytest
 
 from rig.contrast import best_contrast
+from rig.hearing import Listener, start_hearing_test
 from rig.paths import SCREENS
 from rig.program import FIRST_RUN_TITLE, GOOD_SETTINGS, MENU_ABOUT, Folders, Tonmira
 from rig.rig import Rig
@@ -132,6 +133,18 @@ def test_the_first_run_dialog_is_readable(
     dialog = program.window(FIRST_RUN_TITLE)
     program.wait_for_log(">> Program starting finished")
     look_at(user, screen, dialog, "first-run")
+
+
+def test_the_hearing_test_is_readable(
+        high_contrast: None, rig: Rig, driver: Driver, folders: Folders, user: User,
+        screen: Screen) -> None:
+    program, window = start_hearing_test(rig, driver, folders)
+    try:
+        look_at(user, screen, window, "hearing")
+        Listener(window, None, 0).press_start()
+        look_at(user, screen, window, "hearing-listen")
+    finally:
+        program.finish()
 
 
 def test_the_pictures_take_the_systems_colours(
