@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -118,6 +119,17 @@ TEST_F(HearingWindowTest, ItsFirstPageAsksForALowVolumeAndNothingSounds) {
   EXPECT_TRUE(output.played.empty());
   EXPECT_FALSE(output.open);
   EXPECT_EQ(sim.pump.running_timers(), 0U);
+}
+
+TEST_F(HearingWindowTest, NoTwoControlsHaveOneId) {
+  Open();
+  std::set<int> ids;
+  for (const ui::Control* const control : window().Controls()) {
+    EXPECT_TRUE(ids.insert(control->Id()).second) << control->Name();
+    EXPECT_GE(control->Id(), 100);
+    EXPECT_LT(control->Id(), 1000);
+  }
+  EXPECT_EQ(ids.size(), 19U);
 }
 
 TEST_F(HearingWindowTest, SpeaksDutch) {

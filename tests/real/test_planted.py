@@ -128,6 +128,23 @@ def test_playing_takes_nothing_from_the_programs_folder(
     assert ran(portable) == []
 
 
+def test_the_hearing_test_takes_nothing_from_the_programs_folder(
+        run: Callable[..., Tonmira], portable: Path, recorder: Recorder) -> None:
+    recorder.wait_for_silence()
+    program = run()
+    window = program.window(seconds=60)
+    program.wait_for_log(">> Program starting finished", 60)
+    window.press("Hearing age")
+    wait_for(lambda: "Start" in window.texts(), "the mode's caption")
+    window.press("Start")
+    hearing_test = wait_for_window(program.driver, "Hearing age", seconds=60)
+    hearing_test.press("Start")
+    recorder.wait_for_tone(30)
+    hearing_test.press("Close")
+    wait_for(lambda: not hearing_test.is_open(), "its end")
+    assert ran(portable) == []
+
+
 @pytest.mark.parametrize("sound_bit", ["256", "32", "16"])
 def test_a_tone_program_takes_nothing_from_the_programs_folder(
         rig: Rig, run: Callable[..., Tonmira], portable: Path, recorder: Recorder,
@@ -190,7 +207,7 @@ def test_a_tone_program_is_heard_whatever_the_folder_of_the_program_is_called(
 
 
 @pytest.mark.parametrize(("prepare", "number"), [
-    (lambda path: None, 53),
+    (lambda path: path.unlink(), 53),
     (lambda path: path.write_bytes(b"no program"), 5),
 ], ids=["missing", "no-program"])
 def test_a_program_that_does_not_start_is_reported_with_its_cause(
