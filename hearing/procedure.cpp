@@ -8,7 +8,7 @@ namespace hearing {
 namespace {
 
 constexpr int kNear = 2;             // steps of the grid: as good as the result itself
-constexpr double kWrong = 1.0 / 16;  // how much an answer that contradicts it leaves of a weight
+constexpr int kWrongBits = 4;        // an answer that contradicts it leaves a 16th of a weight
 constexpr int kTrialsPerSilent = 5;  // at most
 constexpr int kGroup = 4;            // trials, of which one is silent
 constexpr int kNoPlace = 0;
@@ -86,7 +86,7 @@ int Procedure::ParsingPlace() const {
   weights.reserve(contradictions_.size());
   double all = 0;
   for (const int count : contradictions_) {
-    weights.push_back(std::pow(kWrong, count));
+    weights.push_back(std::ldexp(1.0, -kWrongBits * count));
     all += weights.back();
   }
   int chosen = 1;
