@@ -206,7 +206,8 @@ TEST(Procedure, AForgetfulListenersLastStepsWereAnsweredTwiceAsTheResultSays) {
       if (procedure.verdict() != Verdict::kHeard) continue;
       ++results;
       ASSERT_GE(heard[result], 2) << end << " " << seed;
-      if (result < kHighestPitch) ASSERT_GE(missed[result + 100], 2) << end << " " << seed;
+      if (result == kHighestPitch) continue;
+      ASSERT_GE(missed[result + 100], 2) << end << " " << seed;
     }
   }
   EXPECT_GT(results, 2000);
