@@ -72,8 +72,8 @@ ALLOWED = {
 SHARED_HEADERS = {"helpers": {"online/addresses.h"}}
 
 # Where the Windows API may be used.
-WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "helpers/hearage", "tools/windows", "tests/rig",
-                    "tests/rig/bare"}
+WINDOWS = NATIVE | {"platform/windows", "main.cpp", "helpers", "helpers/hearage", "tools/windows",
+                    "tests/rig", "tests/rig/bare"}
 
 # Beside the C++ standard library's headers.
 FURTHER_HEADERS = {

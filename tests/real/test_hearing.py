@@ -7,8 +7,8 @@ import numpy as np
 import pytest
 
 from rig.hearing import (
-    AGES, CLOSE, HEARING_TEST, NO, PAGE, RESULT, SCALE, START, STATE, TITLES, YES, Listener, edge_ms,
-    hand_over, start_hearing_test, text_of)
+    AGES, CLOSE, HEARING_TEST, NO, PAGE, RESULT, SCALE, START, STATE, TITLES, YES, Listener,
+    edge_ms, hand_over, start_hearing_test, text_of)
 from rig.paths import SCREENS
 from rig.program import GOOD_SETTINGS, Folders, Tonmira
 from rig.resolution import cut_off, set_dpi, use_wide_fonts
@@ -171,8 +171,8 @@ def test_a_second_start_brings_the_first_to_the_front(
     try:
         second.wait_for_end()
         wait_for(lambda: np.array_equal(screen.look(text), shown), "the first test in front")
-        assert [w.process for w in driver.windows() if w.visible and w.title in TITLES.values()] == [
-            first.process]
+        assert [w.process for w in driver.windows()
+                if w.visible and w.title in TITLES.values()] == [first.process]
         assert "testhearing.ini" not in folders.names()
     finally:
         second.finish()

@@ -17,7 +17,8 @@ HEARING_TEST = PROGRAM.parent / "hearage.dll"
 TITLES = {"en": "Hearing age", "nl": "Gehoorleeftijd"}
 QUESTIONS = {"en": "Did you hear it?", "nl": "Heeft u het gehoord?"}
 # Ids of its controls.
-PAGE, STATE, START, YES, NO, CLOSE, RESULT, AGES, SCALE = 100, 101, 102, 103, 104, 105, 106, 107, 113
+PAGE, STATE, START, YES, NO, CLOSE, RESULT, AGES = range(100, 108)
+SCALE = 113
 
 
 def hand_over(folders: Folders, text: bytes) -> Path:
