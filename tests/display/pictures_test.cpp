@@ -1,17 +1,15 @@
-// What is drawn, as pictures: portable bitmaps (P4) that were looked at before they were checked
-// in. A picture that differs is left in the build folder, beside the others' names.
+// What is drawn, as pictures.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
+#include <vector>
 
 #include "display/pictures.h"
 #include "display/sine_preview.h"
 #include "display/waveform.h"
+#include "tests/ui/checked_picture.h"
 
 namespace display {
 namespace {
@@ -20,30 +18,6 @@ constexpr double kTwoPi = 6.283185307179586;
 constexpr int kMicrophoneWidth = 242;  // pixels at 96 DPI, as in the main window
 constexpr int kSineWidth = 278;
 constexpr int kHeight = 88;
-
-std::string Bitmap(const ui::Canvas& canvas) {
-  std::string bitmap =
-      "P4\n" + std::to_string(canvas.width()) + " " + std::to_string(canvas.height()) + "\n";
-  for (int y = 0; y < canvas.height(); ++y) {
-    for (int x = 0; x < canvas.width(); ++x) {
-      if (x % 8 == 0) bitmap += '\0';
-      if (canvas.At(x, y) != ui::Canvas::kForeground) continue;
-      bitmap.back() = static_cast<char>(bitmap.back() | 0x80 >> x % 8);
-    }
-  }
-  return bitmap;
-}
-
-void ExpectPicture(const std::string& name, const ui::Canvas& canvas) {
-  const std::string file_name = name + ".pbm";
-  std::ifstream file(std::filesystem::path(TONMIRA_PICTURES) / file_name, std::ios::binary);
-  const std::string wanted((std::istreambuf_iterator<char>(file)), {});
-  const std::string bitmap = Bitmap(canvas);
-  if (bitmap == wanted) return;
-  std::ofstream(file_name, std::ios::binary) << bitmap;
-  ADD_FAILURE() << "another picture than " << name << ": see "
-                << std::filesystem::absolute(file_name);
-}
 
 // 100 ms of stereo with a tone on each channel.
 std::vector<std::int16_t> Block(double left_hz, double right_hz, double amplitude) {
@@ -62,14 +36,14 @@ void ExpectWave(const std::string& name, const std::vector<std::int16_t>& sample
   ui::Canvas canvas(static_cast<int>(kMicrophoneWidth * scale), static_cast<int>(kHeight * scale));
   const WaveView view{kMicrophoneWidth * kTwipsPerPixel, sensitivity, stereo};
   Draw(DrawSamples(samples, view), canvas);
-  ExpectPicture(name, canvas);
+  ui::ExpectPicture(canvas, TONMIRA_PICTURES, name);
 }
 
 void ExpectSine(const std::string& name, std::int16_t pitch, std::int32_t phase, double scale = 1) {
   ui::Canvas canvas(static_cast<int>(kSineWidth * scale), static_cast<int>(kHeight * scale));
   const TwipSize size{kSineWidth * kTwipsPerPixel, kHeight * kTwipsPerPixel};
   Draw(SineFrame(AngularStep(pitch), phase, size), size, canvas);
-  ExpectPicture(name, canvas);
+  ui::ExpectPicture(canvas, TONMIRA_PICTURES, name);
 }
 
 TEST(Pictures, TwoTonesOneAboveTheOther) {

@@ -1,22 +1,14 @@
 // The one call and the player agree on every file: its messages, its tones, whether it is played.
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "program_files/program_reader.h"
 #include "tests/program_files/bytes_file.h"
+#include "tests/program_files/made_files.h"
 #include "tests/program_files/player_fixture.h"
 
 namespace program_files {
 namespace {
-
-std::string Content(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream content;
-  content << file.rdbuf();
-  return content.str();
-}
 
 class AgreementTest : public PlayerTest {
  protected:
@@ -85,37 +77,19 @@ TEST_F(AgreementTest, OnTheFilesOfTheFuzzingCorpusAndTheSamples) {
   for (const char* folder : {TONMIRA_TONE_PROGRAMS, TONMIRA_SAMPLES}) {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
       SCOPED_TRACE(entry.path().filename().string());
-      ExpectAgreement(Content(entry.path()));
-      ExpectStepsToAgree(Content(entry.path()));
+      ExpectAgreement(ContentOf(entry.path()));
+      ExpectStepsToAgree(ContentOf(entry.path()));
       ++files;
     }
   }
   EXPECT_GE(files, 47);
 }
 
-// Lines of a legal program, any of which may be missing, doubled or another one.
 TEST_F(AgreementTest, OnGeneratedFiles) {
-  const Lines others{"",      "%valid%", "[info]", "{237}", "{invisible}", "{VISIBLE}", "{0}",
-                     "<440>", "<1>",     "<1.5>",  "\\500", "\\0",         "500",       "x"};
-  const Lines ends{"\r\n", "\r", "\n", "\r\n\r\n", ""};
   std::mt19937 random(20240229);
-  const auto one_of = [&](const Lines& texts) { return texts[random() % texts.size()]; };
   int legal = 0;
   for (int n = 0; n < 300; ++n) {
-    Lines lines = ProgramWith({{440, 10}, {880, 20}, {220, 30}});
-    for (unsigned changes = random() % 4; changes > 0; --changes) {
-      const auto at = lines.begin() + static_cast<std::ptrdiff_t>(random() % lines.size());
-      if (random() % 3 == 0) {
-        lines.erase(at);
-      } else if (random() % 2 == 0) {
-        lines.insert(at, one_of(others));
-      } else {
-        *at = one_of(others);
-      }
-    }
-    std::string bytes;
-    for (const std::string& line : lines)
-      bytes += line + (random() % 50 == 0 ? one_of(ends) : "\r\n");
+    const std::string bytes = ChangedFile(random, {{440, 10}, {880, 20}, {220, 30}}, 3);
     SCOPED_TRACE(testing::PrintToString(bytes));
     ExpectAgreement(bytes);
     ExpectStepsToAgree(bytes);

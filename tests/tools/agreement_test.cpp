@@ -3,12 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <random>
-#include <sstream>
 #include <string>
 
+#include "tests/program_files/made_files.h"
 #include "tests/program_files/player_fixture.h"
 #include "tests/tools/fake_surroundings.h"
 
@@ -18,7 +17,6 @@ namespace {
 using program_files::kFile;
 using program_files::kIllegal;
 using program_files::kIncompatible;
-using program_files::Lines;
 
 class CheckAgreementTest : public program_files::PlayerTest {
  protected:
@@ -55,52 +53,20 @@ class CheckAgreementTest : public program_files::PlayerTest {
   FakeSurroundings around;
 };
 
-std::string ContentOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream content;
-  content << file.rdbuf();
-  return content.str();
-}
-
 TEST_F(CheckAgreementTest, OnTheFilesOfTheFuzzingCorpusAndTheSamples) {
   for (const char* folder : {TONMIRA_TONE_PROGRAMS, TONMIRA_SAMPLES}) {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
       SCOPED_TRACE(entry.path().filename().string());
-      ExpectAgreement(ContentOf(entry.path()));
+      ExpectAgreement(program_files::ContentOf(entry.path()));
     }
   }
   EXPECT_GE(files, 47);
 }
 
-// Two short tones, of which up to five lines are missing, doubled, or other ones.
-std::string GeneratedFile(std::mt19937& random) {
-  static const Lines others{"",      "%valid%",   "[info]",      "{237}",   "{invisible}",
-                            "{0}",   "<440>",     "<1>",         "<1.5>",   "\\500",
-                            "\\0",   "500",       "x",           "[sound]", "<32001>",
-                            "\\1e9", "{visible}", "; a comment", " <440>",  "{50"};
-  static const Lines ends{"\r\n", "\r", "\n", "\r\n\r\n", ""};
-  const auto one_of = [&](const Lines& texts) { return texts[random() % texts.size()]; };
-  Lines lines = program_files::ProgramWith({{440, 10}, {880, 20}});
-  for (auto changes = random() % 6; changes > 0 && !lines.empty(); --changes) {
-    const auto at = lines.begin() + static_cast<std::ptrdiff_t>(random() % lines.size());
-    if (random() % 3 == 0) {
-      lines.erase(at);
-    } else if (random() % 2 == 0) {
-      lines.insert(at, one_of(others));
-    } else {
-      *at = one_of(others);
-    }
-  }
-  std::string bytes;
-  for (const std::string& line : lines)
-    bytes += line + (random() % 40 == 0 ? one_of(ends) : "\r\n");
-  return bytes;
-}
-
 TEST_F(CheckAgreementTest, OnTenThousandGeneratedFiles) {
   std::mt19937 random(20260214);
   for (int n = 0; n < 10000 && !HasFailure(); ++n) {
-    const std::string bytes = GeneratedFile(random);
+    const std::string bytes = program_files::ChangedFile(random, {{440, 10}, {880, 20}}, 5);
     SCOPED_TRACE(testing::PrintToString(bytes));
     ExpectAgreement(bytes);
   }
