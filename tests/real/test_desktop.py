@@ -36,6 +36,16 @@ def resolution_of(window: Window, design_width: int) -> int:
     return round(window.client().width * 96 / design_width)
 
 
+def assert_inside(window: Window, client: Place) -> None:
+    for control in window.controls():
+        if not control.visible:
+            continue
+        inner = control.place
+        assert inner.x >= client.x and inner.y >= client.y, control
+        assert inner.x + inner.width <= client.x + client.width, control
+        assert inner.y + inner.height <= client.y + client.height, control
+
+
 class Mover:
     """Moves windows from one screen to another, and looks at what they make of it there."""
 
@@ -72,12 +82,7 @@ class Mover:
         assert 0 <= outer.x and outer.x + outer.width <= SCREEN_WIDTH
         assert 0 <= outer.y and outer.y + outer.height <= SCREEN_HEIGHT
         assert cut_off(self._driver, window, own) == [], (name, dpi)
-        for control in window.controls():
-            inner = control.place
-            if not control.visible:
-                continue
-            assert inner.x >= client.x and inner.y >= client.y, (name, dpi, control)
-            assert inner.x + inner.width <= client.x + client.width, (name, dpi, control)
+        assert_inside(window, client)
         if dpi == 144:
             self._user.activate(window)
             self._user.screenshot(window, SCREENS / f"moved-{name}-{self._language.lower()}.png",
@@ -173,6 +178,7 @@ def test_no_window_is_larger_than_the_screen_and_other_resolutions_are_warned_of
             assert 0 <= place.x and place.x + place.width <= SCREEN_WIDTH
             assert 0 <= place.y and place.y + place.height <= SCREEN_HEIGHT
             assert cut_off(driver, main, own) == []
+            assert_inside(main, main.client())
         finally:
             program.finish()
     finally:

@@ -232,16 +232,26 @@ def test_a_program_that_does_not_start_is_reported_with_its_cause(
 
 
 def test_a_file_that_a_link_leads_to_is_not_written(
-        rig: Rig, driver: Driver, folders: Folders) -> None:
+        rig: Rig, driver: Driver, folders: Folders, recorder: Recorder) -> None:
     """A second name of a file is the link that needs no rights."""
     mine = folders.temp.parent / "letter.txt"
     mine.write_bytes(b"Dear Ann")
     for name in ("userdata.txt", "test.txt"):
         (folders.temp / name).hardlink_to(mine)
-    folders.write_settings(GOOD_SETTINGS)
+    settings = list(GOOD_SETTINGS)
+    settings[1] = "Soundbit=32"
+    folders.write_settings(settings)
     program = Tonmira(rig, driver, folders)
     try:
         program.wait_for_log(">> Program starting finished", 60)
+        # What the start has not deleted: it comes after it.
+        (folders.temp / "sound.ini").hardlink_to(mine)
+        window = program.window()
+        window.press("Low pitch")
+        window.press("Play Sound")
+        recorder.wait_for_tone(30)
+        window.press("Stop Sound")
+        program.wait_for_log("#Sound stopped")
         assert mine.read_bytes() == b"Dear Ann"
         assert mine.stat().st_nlink == 1
     finally:
