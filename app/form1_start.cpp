@@ -104,7 +104,6 @@ void Form1::ReadSettings(Program& program) {
 void Form1::BeginAhead(Program& program) {
   if (state_.AutoUpdate == 1) program.BeginUpdateCheck();
   early_downloads_.Begin(Site().ConnectionTest(), TestFile());
-  if (state_.MicrophoneON == 1) platform_.sound_capture.Prepare();
 }
 
 void Form1::ShowSoundMode() {

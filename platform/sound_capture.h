@@ -77,10 +77,6 @@ class SoundCapture {
  public:
   virtual ~SoundCapture() = default;
 
-  // Finds out, beside whatever the program does, which devices there are, so that the calls that
-  // set capture up need not. Nothing is recorded. Does not throw: what fails fails in those calls.
-  virtual void Prepare() = 0;
-
   virtual std::unique_ptr<CaptureRoot> Create() = 0;
 };
 

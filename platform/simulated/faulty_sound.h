@@ -63,8 +63,6 @@ class FaultyCapture : public SoundCapture {
  public:
   FaultyCapture(SoundCapture& real, Calls& calls) : real_(real), calls_(calls) {}
 
-  void Prepare() override { real_.Prepare(); }  // not counted: it cannot fail
-
   std::unique_ptr<CaptureRoot> Create() override;
 
  private:

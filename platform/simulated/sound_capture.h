@@ -27,7 +27,6 @@ class FakeSoundCapture : public SoundCapture {
   bool delivers = true;    // false: capture starts, but never tells of anything
   int live_objects = 0;    // made and not yet dropped
   int running_buffers = 0;
-  int prepared = 0;  // how often
 
   // What the buffer holds at a byte offset.
   std::function<std::uint8_t(std::uint32_t)> sound = [](std::uint32_t) { return std::uint8_t{0}; };
@@ -41,7 +40,6 @@ class FakeSoundCapture : public SoundCapture {
   // Runs the callback of event `id`, as a notification that was under way does.
   void Notify(std::int32_t id);
 
-  void Prepare() override { ++prepared; }
   std::unique_ptr<CaptureRoot> Create() override;
 
   // For the objects made.

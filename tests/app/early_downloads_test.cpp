@@ -94,7 +94,6 @@ TEST_F(EarlyDownloadsTest, WithoutSettingsOnlyWhetherTheSiteIsThereIsAsked) {
   sim.files.Delete(kSettings);
   Run();
   EXPECT_EQ(Asked(), Lines{kBothBegun[1]});
-  EXPECT_EQ(sim.sound_capture.prepared, 0);
 }
 
 TEST_F(EarlyDownloadsTest, WithoutConsentNothingIsHandedOver) {
@@ -151,16 +150,6 @@ TEST_F(EarlyDownloadsTest, ASiteThatAnswersSoonIsNotMentioned) {
   Answer(kTestAddress, "ok", 450ms);
   Run();
   EXPECT_EQ(StatusTexts("Label3"), Lines{});
-}
-
-TEST_F(EarlyDownloadsTest, TheMicrophoneIsLookedForEarlyOnlyWhereItIsWanted) {
-  Run();
-  EXPECT_EQ(sim.sound_capture.prepared, 0);
-  sim.files.Put(kSettings,
-                "AutoUpdate=n\r\nSoundBit=128\r\nLanguage=EN\r\nSendData=n\r\n"
-                "Microphone=1\r\nMicrophoneON=y\r\n");
-  Run();
-  EXPECT_EQ(sim.sound_capture.prepared, 1);
 }
 
 TEST_F(EarlyDownloadsTest, WhatDownloadsNeedIsLoadedFirstOfAll) {

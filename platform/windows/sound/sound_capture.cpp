@@ -10,7 +10,6 @@
 
 #include "base/errors.h"
 #include "platform/windows/api/com_owner.h"
-#include "platform/windows/api/handles.h"
 #include "platform/windows/api/system_library.h"
 #include "platform/windows/sound/capture_event.h"
 
@@ -159,21 +158,7 @@ class Microphones final : public CaptureRoot {
   std::int32_t last_event_ = 0;
 };
 
-BOOL CALLBACK PassDevice(GUID*, LPCWSTR, LPCWSTR, LPVOID) {
-  return TRUE;
-}
-
-// Nearly all of what opening a device takes is the system's own preparation for the first question.
-DWORD WINAPI AskForDevices(void*) noexcept {
-  const CaptureLibrary library;
-  return library.complete() && SUCCEEDED(library.enumerate(PassDevice, nullptr)) ? 1 : 0;
-}
-
 }  // namespace
-
-void WindowsSoundCapture::Prepare() {
-  Own(CreateThread(nullptr, 0, AskForDevices, nullptr, 0, nullptr));
-}
 
 std::unique_ptr<CaptureRoot> WindowsSoundCapture::Create() {
   const CaptureLibrary library;

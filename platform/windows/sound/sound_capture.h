@@ -7,7 +7,6 @@ namespace platform::windows {
 
 class WindowsSoundCapture final : public SoundCapture {
  public:
-  void Prepare() override;
   std::unique_ptr<CaptureRoot> Create() override;
 };
 
