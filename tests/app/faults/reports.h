@@ -164,6 +164,9 @@ inline std::string WrongReport(const Scenario& scenario, const Outcome& outcome,
     const int dialogs = outcome.error_dialogs;
     return dialogs == 1 || dialogs == 2 ? "" : std::to_string(dialogs) + " dialogs";
   }
+  if (outcome.hit == scenario.ahead) {
+    return value == 0 && outcome.error_dialogs == 0 ? "" : "told of what nobody waits for";
+  }
   if (scenario.silent) return outcome.error_dialogs == 0 ? "" : "an error dialog";
   if (outcome.error_dialogs > 1) return "two error dialogs";
   if (last_word && telling != kLastWord && telling != kEither) return "an untrapped error";

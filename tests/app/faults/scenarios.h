@@ -108,6 +108,8 @@ inline std::vector<Scenario> Starts() {
   all[1].values = {14, 702, 301};
   all[2].values = {14, 701, 301};
   all[3].values = {14, 701, 301};
+  // The program ends before it looks whether the site is there.
+  all[2].ahead = "downloader.Begin https://www.tonmira.example/testcon.dat";
   return all;
 }
 

@@ -33,6 +33,7 @@ struct Scenario {
   bool reports = false;  // an error is reported even when nothing goes wrong beside it
   bool silent = false;   // nobody is told of anything
   std::chrono::milliseconds from{990};
+  std::string ahead{};  // a call made ahead of a step that never comes: nobody is told of it
 };
 
 struct Outcome {
