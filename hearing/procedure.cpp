@@ -63,7 +63,7 @@ void Procedure::Judge() {
 }
 
 void Procedure::Next() {
-  const int uncertain = Parted() ? UncertainPlace() : ParsingPlace();
+  const int uncertain = Parted() ? UncertainPlace() : PartingPlace();
   // Only silent trials are missing then.
   if (SilentNow() || uncertain == kNoPlace) {
     current_hz_ = kSilence;
@@ -81,7 +81,7 @@ bool Procedure::SilentNow() {
 }
 
 // The place that parts the weights of the results most evenly.
-int Procedure::ParsingPlace() const {
+int Procedure::PartingPlace() const {
   std::vector<double> weights;
   weights.reserve(contradictions_.size());
   double all = 0;

@@ -72,7 +72,7 @@ class Procedure {
   void Judge();
   void Next();
   bool SilentNow();
-  int ParsingPlace() const;
+  int PartingPlace() const;
   int UncertainPlace() const;
   bool Parted() const;
   int Below(int bound);
