@@ -80,6 +80,8 @@ def test_the_window_tells_what_is_played(opened: Opener, user: User) -> None:
     wait_until_played(player)
     assert (label(player, PITCH), label(player, TIME)) == ("", "")
     assert label(player, PLAYED) == "2"
+    # The start goes on when the file has been played.
+    program.wait_for_log(">> Program starting finished")
     assert program.titles() == ["Tonmira"]
     assert program.folders.log()[-2:] == ["> Starting tnf file", ">> Program starting finished"]
 
