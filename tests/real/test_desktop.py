@@ -61,21 +61,26 @@ class Mover:
         after = window.client()
         assert (after.width, after.height) == (before.width, before.height), name
 
+    @staticmethod
+    def _wait_for(holds: Callable[[], bool], what: str) -> None:
+        """The window manager has its say, too, and may be late with it: so it holds five times."""
+        wait_for(lambda: all(holds() for _ in range(5)), what)
+
     def _move_to(self, program: Tonmira, name: str, window: Window, before: Place,
                  dpi: int) -> None:
         scale = dpi / 96
         place = Place(40, 30, round(before.width * scale) + 10, round(before.height * scale) + 40)
+        # A late answer of the window manager to what was before would undo what comes now.
+        self._wait_for(lambda: self._user.has_its_size(window), f"{name} at rest")
         tell_resolution(program, window, dpi, place)
 
-        # The window manager has its say, too, and may be late with it.
         def follows() -> bool:
             own = resolution_of(window, before.width)
             # The screen of the rig is too small for the main window at 192 DPI.
             limited = own < dpi and window.place().width > SCREEN_WIDTH - 20
             return (own == dpi or limited) and self._user.has_its_size(window)
 
-        # An answer to what was before may come in between.
-        wait_for(lambda: all(follows() for _ in range(5)), f"{name} at {dpi} DPI")
+        self._wait_for(follows, f"{name} at {dpi} DPI")
         client, outer = window.client(), window.place()
         own = resolution_of(window, before.width)
         assert client.height == pytest.approx(before.height * own / 96, abs=1)

@@ -50,6 +50,12 @@ def captions(dialog: Window) -> list[str]:
     return [c.text for c in dialog.controls() if c.kind in ("Static", "Button")]
 
 
+def shows_list(program: Tonmira) -> bool:
+    """Whether the list of languages is open below its field."""
+    return any(w.kind == "ComboLBox" and w.visible and w.process == program.process
+               for w in program.driver.windows())
+
+
 def assert_main_window(program: Tonmira, language: str) -> None:
     """The main window is the one window and shows the texts of the language."""
     window = program.window()
@@ -69,10 +75,13 @@ def test_accepting_in_dutch_with_the_mouse_brings_up_the_main_window_in_dutch(
     user.screenshot(dialog, SCREENS / "first-run.png")
     assert_shows_something(SCREENS / "first-run.png", 500, 250)
     user.click(dialog, "ComboBox", "")
+    wait_for(lambda: shows_list(program), "the list")
     user.type_keys("Down", "Down", "Return")
     wait_for(lambda: captions(dialog) == DUTCH, "the Dutch texts")
     assert dialog.chosen() == "Dutch"
     assert not folders.settings_file.exists()
+    # A click beside an open list closes the list and no more.
+    wait_for(lambda: not shows_list(program), "the end of the list")
     user.click_button(dialog, "Accepteren")
 
     restarted = program.successor()
@@ -111,7 +120,8 @@ def test_the_keyboard_alone_is_enough(
         launch: Callable[..., Tonmira], folders: Folders, user: User) -> None:
     program = launch(folders)
     dialog = first_run(program)
-    # The dialog has the keyboard, and in it the list of languages; Enter there accepts nothing.
+    # The dialog gets the keyboard, and in it the list of languages; Enter there accepts nothing.
+    user.wait_for_keyboard(dialog)
     user.type_keys("Return")
     user.type_keys("Down", "Down")
     wait_for(lambda: dialog.chosen() == "Dutch", "the second language")
@@ -130,6 +140,7 @@ def test_the_keyboard_alone_is_enough(
     assert folders.settings_file.read_bytes() == settings("NL", "n")
     assert_main_window(restarted, "NL")
     window = restarted.window()
+    user.wait_for_keyboard(window)
     user.type_keys("alt+" + window.button("Hoge toon").access_key)
     wait_for(lambda: window.is_checked("Hoge toon"), "a mode, chosen in the new main window")
 

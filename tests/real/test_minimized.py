@@ -3,6 +3,7 @@
 import time
 from collections.abc import Callable
 from pathlib import Path
+from statistics import median
 
 from rig.microphone import Microphone
 from rig.program import Folders, Tonmira
@@ -12,9 +13,8 @@ from rig.window import User
 from test_display import PICTURES, inside, start
 
 
-def least_work_of_a_second(program: Tonmira) -> float:
-    """Processor seconds that the program's own thread takes in one, of five: what else the machine
-    does adds to some of them."""
+def work_of_seconds(program: Tonmira) -> list[float]:
+    """Processor seconds that the program's own thread takes in each of five."""
     schedule = Path(f"/proc/{program.linux_process()}/schedstat")
 
     def spent() -> float:
@@ -25,7 +25,7 @@ def least_work_of_a_second(program: Tonmira) -> float:
         before = spent()
         time.sleep(1)
         work.append(spent() - before)
-    return min(work)
+    return work
 
 
 def test_minimized_it_stands_still_and_restored_it_moves_again(
@@ -37,10 +37,11 @@ def test_minimized_it_stands_still_and_restored_it_moves_again(
     places = [inside(window, picture) for picture in PICTURES]
     for place in places:
         wait_for(lambda place=place: screen.frames(place, 1) >= 5, "a moving picture", 15)
-    moving = least_work_of_a_second(program)
+    # What else the machine does adds to some seconds, and takes from others what was to be drawn.
+    moving = median(work_of_seconds(program))
     own = user.x_window(window)  # a minimized one is not found
     user.xdotool("windowminimize", "--sync", own)
-    still = least_work_of_a_second(program)
+    still = min(work_of_seconds(program))
     print(f"the program's thread: {moving:.4f} s a second, minimized {still:.4f} s")
     assert still < 0.8 * moving
     user.xdotool("windowmap", own)

@@ -214,6 +214,11 @@ class User:
         found = re.search(r"Geometry: (\d+)x", geometry)
         return bool(found) and int(found[1]) == window.client().width
 
+    def wait_for_keyboard(self, window: Window) -> None:
+        """Until what is typed goes to a window that nobody activated."""
+        own = self.x_window(window)
+        wait_for(lambda: self.xdotool("getwindowfocus") == own, f"{window.title!r} at the keyboard")
+
     def activate(self, window: Window) -> None:
         self.xdotool("windowactivate", "--sync", self.x_window(window))
 
