@@ -4,7 +4,7 @@ stand."""
 import signal
 import time
 import xml.etree.ElementTree as ET
-from collections.abc import Callable
+from collections.abc import Callable, Iterator
 
 import numpy as np
 import pytest
@@ -197,8 +197,16 @@ def inside(program: Tonmira, function: str, number: int) -> None:
     program.driver.ask("inside", str(program.process), function, str(number))
 
 
+@pytest.fixture
+def passing_settings(rig: Rig) -> Iterator[None]:
+    """What programs tell the system of colours and fonts without writing it down is forgotten: it
+    would go before what is written down, for the tests to come."""
+    yield
+    rig.run("wine", "reg", "delete", r"HKCU\Software\Wine\Temporary System Parameters", "/f")
+
+
 def test_new_colours_of_the_system_are_shown_at_once(
-        name_service: None, launch: Launch, folders: Folders, driver: Driver, screen: Screen,
+        name_service: None, passing_settings: None, launch: Launch, folders: Folders, driver: Driver, screen: Screen,
         user: User) -> None:
     program = start(launch, folders)
     main = program.window()
@@ -230,7 +238,8 @@ def test_new_colours_of_the_system_are_shown_at_once(
 
 
 def test_a_larger_font_of_the_system_makes_open_windows_larger(
-        name_service: None, launch: Launch, folders: Folders, user: User) -> None:
+        name_service: None, passing_settings: None, launch: Launch, folders: Folders,
+        user: User) -> None:
     program = start(launch, folders)
     windows = open_windows(program, "EN")
     try:
