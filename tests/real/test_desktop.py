@@ -206,8 +206,8 @@ def passing_settings(rig: Rig) -> Iterator[None]:
 
 
 def test_new_colours_of_the_system_are_shown_at_once(
-        name_service: None, passing_settings: None, launch: Launch, folders: Folders, driver: Driver, screen: Screen,
-        user: User) -> None:
+        name_service: None, passing_settings: None, launch: Launch, folders: Folders,
+        driver: Driver, screen: Screen, user: User) -> None:
     program = start(launch, folders)
     main = program.window()
     user.activate(main)

@@ -220,7 +220,17 @@ class User:
         wait_for(lambda: self.xdotool("getwindowfocus") == own, f"{window.title!r} at the keyboard")
 
     def activate(self, window: Window) -> None:
-        self.xdotool("windowactivate", "--sync", self.x_window(window))
+        own = self.x_window(window)
+        wait_for(lambda: self._has_desktop(own), f"{window.title!r} in the window manager's hands")
+        self.xdotool("windowactivate", "--sync", own)
+
+    def _has_desktop(self, x_window: str) -> bool:
+        """The window manager gives a window its desktop when it first sees it."""
+        try:
+            self.rig.run("xdotool", "get_desktop_for_window", x_window, stderr=subprocess.DEVNULL)
+        except subprocess.CalledProcessError:
+            return False
+        return True
 
     def point_at(self, control: Control) -> None:
         x, y = control.place.middle
