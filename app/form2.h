@@ -38,7 +38,7 @@ class Form2 : public ui::Window {
                    "Label4",
                    {16, 134, 528, 36},
                    "Low to high climbs from 200 Hz to 32000 Hz in steps of 200 Hz and then starts "
-                   "again from the bottom."};
+                   "again. Above 22050 Hz most sound modes sound a lower pitch."};
   ui::Label Label5{*this,
                    104,
                    "Label5",
@@ -54,13 +54,14 @@ class Form2 : public ui::Window {
                    "highest pitch that you can hear."};
   ui::Label Label7{
       *this, 106, "Label7", {16, 290, 528, 24}, "Sound modes", ui::Label::Style::kHeading};
-  ui::Label Label8{*this,
-                   107,
-                   "Label8",
-                   {16, 318, 528, 52},
-                   "The menu Settings, Sound mode says how the tone leaves the program. Automatic "
-                   "suits every PC. Winmm is the multimedia player of Windows, DirectSound the way "
-                   "of games; Classic and Sound32 use a small helper program."};
+  ui::Label Label8{
+      *this,
+      107,
+      "Label8",
+      {16, 318, 528, 52},
+      "The menu Settings, Sound mode says what plays the tone. Automatic is right for "
+      "nearly every PC. Winmm is the multimedia player of Windows, DirectSound is what "
+      "games use, Classic and Sound32 use a small helper program."};
   ui::Label Label9{*this,
                    108,
                    "Label9",

@@ -72,14 +72,14 @@ constexpr Texts kDutch{
     .no = "Nee",
     .close = "Sluiten",
     .first_page =
-        "Dit zoekt de hoogste toon die u kunt horen. Zoek een stille plek en zet het "
+        "Deze test zoekt de hoogste toon die u kunt horen. Zoek een stille plek en zet het "
         "volume laag: hoge tonen kunnen uw gehoor ook beschadigen als u ze niet hoort. "
-        "Start speelt eerst 1000 Hz; dan volgen hogere tonen, en soms geen.",
+        "Na Start klinkt eerst 1000 Hz, dan hogere tonen en soms niets.",
     .listen = "Luister...",
-    .question = "Heeft u het gehoord?",
-    .answering = "Zeg na elke keer of u een toon hoorde. Soms is er geen toon.",
+    .question = "Hebt u een toon gehoord?",
+    .answering = "Geef telkens aan of u een toon hoorde. Soms blijft het stil.",
     .louder = "Zet het volume iets hoger. De toon komt nog een keer.",
-    .limit = "Dit geluidsapparaat laat tonen toe tot ",
+    .limit = "Dit geluidsapparaat speelt tonen tot ",
     .after_limit = ".",
     .no_device =
         "Er is geen geluidsapparaat gevonden, of een ander programma gebruikt het. Sluit "
@@ -88,18 +88,20 @@ constexpr Texts kDutch{
         "De test is gestopt: het geluidsapparaat speelt niet meer. Sluit het weer aan en "
         "druk op Start.",
     .device_too_low =
-        "Dit geluidsapparaat speelt geen tonen vanaf 8000 Hz: de test kan er niet mee "
-        "worden gedaan.",
+        "Dit geluidsapparaat speelt geen tonen van 8000 Hz en hoger: de test kan er niet "
+        "mee worden gedaan.",
     .no_check_tone =
-        "De test is gestopt: u hoorde drie keer geen 1000 Hz. Kijk of luidsprekers of "
-        "koptelefoon zijn aangesloten en aan staan, en druk op Start.",
+        "De test is gestopt: u hebt de toon van 1000 Hz drie keer niet gehoord. Kijk of "
+        "luidsprekers of een koptelefoon zijn aangesloten en niet zijn gedempt, en druk op "
+        "Start.",
     .nothing_heard = "Geen van de hoge tonen gehoord",
-    .nothing_heard_reason = "De laagste is 8000 Hz. Misschien spelen uw luidsprekers ze niet.",
+    .nothing_heard_reason =
+        "De laagste is 8000 Hz. Misschien kunnen uw luidsprekers ze niet weergeven.",
     .highest_heard = "Hoogste toon gehoord: ",
     .not_reliable = "Niet betrouwbaar",
     .silence_heard =
-        "U zei meer dan eens Ja terwijl er niets werd gespeeld. Neem de tijd, en zeg "
-        "Nee als u niet zeker bent.",
+        "U zei meer dan eens Ja terwijl het stil was. Neem de tijd, en zeg Nee als u het "
+        "niet zeker weet.",
     .contradictory =
         "Uw antwoorden spreken elkaar te vaak tegen. Misschien is het om u heen niet "
         "stil genoeg.",
@@ -108,21 +110,21 @@ constexpr Texts kDutch{
     .ages_up_to = "Dat past bij leeftijden tot ",
     .ages_from = "Dat past bij leeftijden vanaf ",
     .ages_end = " jaar.",
-    .again = "Start test opnieuw. F1 zegt waar de leeftijden vandaan komen.",
+    .again = "Met Start test u opnieuw. F1 vertelt waar de leeftijden vandaan komen.",
     .age = "Leeftijd ",
-    .scale = "Tonen die elke leeftijd meestal hoogstens hoort, en de uwe",
+    .scale = "De hoogste tonen die elke leeftijd meestal hoort, en de uwe",
     .caution =
         "Dit is geen medische test: veel luidsprekers spelen hoge tonen zacht of niet, en hoe "
-        "hard ze bij uw oor zijn is niet bekend.",
+        "hard ze bij uw oor klinken, is niet bekend.",
     .help =
         "Hoe de leeftijden worden gevonden\n\n"
-        "Een onderzoek met 411 mensen van 16 tot 70 jaar met gezonde oren (Jilek, Suta en Syka, "
-        "Journal of the Acoustical Society of America 136, 2014, bladzijde 1821) zegt hoeveel "
-        "harder een hoge toon moet zijn als mensen ouder worden, tot 16000 Hz.\n\n"
-        "Hoe hard uw tonen zijn is niet bekend. Een toon past daarom bij de leeftijden waarop "
-        "hij 20 tot 60 dB harder moet zijn dan op 18. Boven 16000 Hz is er geen laagste "
-        "leeftijd, onder 9000 Hz geen hoogste.\n\n"
-        "Toetsen: J en N antwoorden, Esc sluit.",
+        "Een onderzoek onder 411 mensen van 16 tot 70 jaar met gezonde oren (Jilek, Suta en Syka, "
+        "Journal of the Acoustical Society of America 136, 2014, pagina 1821) laat zien hoeveel "
+        "harder een hoge toon moet zijn naarmate mensen ouder worden, tot 16000 Hz.\n\n"
+        "Hoe hard uw tonen klinken, is niet bekend. Een toon past daarom bij de leeftijden waarop "
+        "hij 20 tot 60 dB harder moet zijn dan op 18-jarige leeftijd. Boven 16000 Hz is er geen "
+        "laagste leeftijd, onder 9000 Hz geen hoogste.\n\n"
+        "Toetsen: met J en N antwoordt u, Esc sluit de test.",
 };
 
 }  // namespace

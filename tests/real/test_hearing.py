@@ -200,7 +200,7 @@ NAMES = {
     "en": {START: "Start", YES: "Yes", NO: "No", CLOSE: "Close",
            SCALE: "Pitches that each age typically hears at most, and yours"},
     "nl": {START: "Start", YES: "Ja", NO: "Nee", CLOSE: "Sluiten",
-           SCALE: "Tonen die elke leeftijd meestal hoogstens hoort, en de uwe"},
+           SCALE: "De hoogste tonen die elke leeftijd meestal hoort, en de uwe"},
 }
 
 

@@ -15,7 +15,7 @@ from rig.window import Driver, Window
 
 HEARING_TEST = PROGRAM.parent / "hearage.dll"
 TITLES = {"en": "Hearing age", "nl": "Gehoorleeftijd"}
-QUESTIONS = {"en": "Did you hear it?", "nl": "Heeft u het gehoord?"}
+QUESTIONS = {"en": "Did you hear it?", "nl": "Hebt u een toon gehoord?"}
 # Ids of its controls.
 PAGE, STATE, START, YES, NO, CLOSE, RESULT, AGES = range(100, 108)
 SCALE = 113

@@ -42,7 +42,7 @@ class NotingPlayScene : public PlayScene {
 
   bool visible = true;
   std::string status;
-  std::string caption = "Huidige toonhoogte (Hertz):";
+  std::string caption = "Huidige toonhoogte (hertz):";
 
   bool MainWindowVisible() const override { return visible; }
   ui::WindowView& MainWindowView() override { return view_; }

@@ -120,7 +120,7 @@ TEST_F(HelpersTest, TheSweepOf16ShowsOnlyTheCaptionAndRestartsWithoutEndingItsHe
   const Lines all = Journal({Kind::kControl, Kind::kProcess});
   EXPECT_EQ(Lines(all.begin(), all.begin() + 3),
             (Lines{"Actual pitch (Hertz): ", "start hidden cmd /c play16.exe",
-                   "Huidige toonhoogte (Hertz):"}));
+                   "Huidige toonhoogte (hertz):"}));
   EXPECT_EQ(std::count(all.begin(), all.end(), "start hidden cmd /c play16.exe"), 2);
   EXPECT_EQ(std::count(all.begin(), all.end(), "Resetting..."), 0);
   // Both copies of the helper are ended by Stop, none before.
@@ -154,8 +154,8 @@ TEST_F(HelpersTest, TheSweepOf32InDutchShowsTheLoadedCaptionAndThePitch) {
   StopAt(0ms);
   helpers.LowToHigh(base::SoundMode::kSound32);
   EXPECT_EQ(Journal({Kind::kControl}),
-            (Lines{"Huidige toonhoogte (Hertz): ", "Huidige toonhoogte (Hertz): 200",
-                   "Huidige toonhoogte (Hertz): "}));
+            (Lines{"Huidige toonhoogte (hertz): ", "Huidige toonhoogte (hertz): 200",
+                   "Huidige toonhoogte (hertz): "}));
 }
 
 }  // namespace

@@ -70,9 +70,9 @@ TEST_F(WinmmTest, InDutchTheLoadedCaptionStandsBeforeThePitch) {
   support.setLang("nl");
   StopAt(100ms);
   winmm.SoundWinmmRND(440);
-  EXPECT_EQ(scene.status, "Huidige toonhoogte (Hertz): 440");
+  EXPECT_EQ(scene.status, "Huidige toonhoogte (hertz): 440");
   support.KillAll();
-  EXPECT_EQ(scene.status, "Huidige toonhoogte (Hertz): ");
+  EXPECT_EQ(scene.status, "Huidige toonhoogte (hertz): ");
 }
 
 TEST_F(WinmmTest, AFullDiskIsSilentAndTheToneStillStops) {
