@@ -20,6 +20,9 @@ readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw
 readonly rig_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
   python3-numpy python3-pytest python3-pytest-xdist wine wine64 xdotool xvfb)
 
+# What makes pictures of it small.
+readonly picture_packages=(pngquant zopfli)
+
 # What is measured besides, and beside it.
 readonly bench_packages=(ebook2cw libbenchmark-dev libsox-fmt-mp3 sox)
 
