@@ -17,8 +17,13 @@ PAGES = {
     "/contact-us": "Contact",
     "/donate": "Donate",
     "/information.html": "Tonmira news",
+    "/download": "Download",
+    "/guide": "Guide",
+    "/handleiding": "Handleiding",
 }
-FILES = ["index.html", "information.html", "contact-us/index.html", "donate/index.html"]
+DUTCH = ["/handleiding"]
+FILES = ["index.html", "information.html", "contact-us/index.html", "donate/index.html",
+         "download/index.html", "guide/index.html", "handleiding/index.html"]
 SCREENS = PROJECT / "out" / "screens"
 DESKTOP, PHONE = (1280, 800), (360, 740)
 CURRENT_VERSION = "2.3.6"
@@ -41,23 +46,31 @@ def test_the_paths_that_the_program_opens_are_pages(
         heading]
     assert f"Tonmira {CURRENT_VERSION}" in str(browser.ask("return document.body.innerText"))
     assert "Tonmira" in browser.driver.title
-    assert browser.ask("return document.documentElement.lang") == "en"
+    language = "nl" if path in DUTCH else "en"
+    assert browser.ask("return document.documentElement.lang") == language
 
 
 def test_every_link_leads_to_a_page_of_the_site_and_every_page_is_reached(
         site: ServedSite, browser: Browser) -> None:
     seen, waiting, elsewhere = set(), {site.base_url + "/"}, set()
+    places: set[str] = set()
+    wanted_places: set[str] = set()
     while waiting:
         page = waiting.pop()
         browser.open(page)
         assert browser.driver.current_url == page
         assert browser.ask("return document.querySelectorAll('h1').length") == 1
         seen.add(page)
+        places |= {f"{page}#{name}" for name in browser.addresses("[id]", "id")}
         links = set(browser.addresses("a", "href"))
+        wanted_places |= {link for link in links if "#" in link}
+        links = {link.split("#")[0] for link in links}
         elsewhere |= {link for link in links if not link.startswith(site.base_url + "/")}
         waiting |= links - elsewhere - seen
+    assert wanted_places <= places
     assert {page.removeprefix(site.base_url) for page in seen} == {
-        "/", "/contact-us/", "/donate/", "/information.html"}
+        "/", "/contact-us/", "/donate/", "/information.html", "/download/", "/guide/",
+        "/handleiding/"}
     assert elsewhere == {"mailto:support@tonmira.example"}
     # 304: the browser asked whether a page that it had kept is still the same.
     assert {status for _, _, status in site.requests()} <= {200, 304}
