@@ -18,8 +18,8 @@ FILES = {
                          "<code>tonmira.exe</code>."),
 }
 
-NONE_OFFERED = """<p>This copy of the site offers no files. They are made from the program's sources, by
-  <code>./release</code> there; <code>README.md</code> says how.</p>"""
+NONE_OFFERED = """<p>This copy of the site offers no files. They are made from the program's
+  sources, by <code>./release</code> there; <code>README.md</code> says how.</p>"""
 
 
 def names(version: str) -> list[str]:

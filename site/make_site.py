@@ -1,10 +1,10 @@
 """Makes the site that is hosted: site/make_site.py FOLDER [--downloads DIST] writes it into a new
 folder.
 
-A page is frame.html around a text: of pages/, or of the guide. In both, ${version} is the program's,
-an address within the site begins with ${root}, the way from the page's folder to the site's, and
-one of a picture with ${pictures}. The update file is made of the version, too. DIST is what
-./release has left: its files are offered on the download page, with size and sum, and copied.
+A page is frame.html around a text: of pages/, or of the guide. In both, ${version} is the
+program's, an address within the site begins with ${root}, the way from the page's folder to the
+site's, and one of a picture with ${pictures}. The update file is made of the version, too. DIST is
+what ./release has left: its files are offered on the download page, with size and sum, and copied.
 Without it that page offers none.
 """
 

@@ -1,5 +1,5 @@
-"""How the build encodes the texts of a language: what a single-byte file can hold, and a refusal of the
-rest."""
+"""How the build encodes the texts of a language: what a single-byte file can hold, and a refusal of
+the rest."""
 
 import subprocess
 from pathlib import Path

@@ -156,6 +156,10 @@ class Window:
     def slide(self, value: int) -> None:
         self.driver.ask("slide", self.control("ScrollBar").handle, str(value))
 
+    def focused(self) -> int:
+        """The id of the control that has the keyboard, or 0."""
+        return int(self.driver.ask("focus", self.handle)[0][0])
+
     def close(self) -> None:
         self.driver.ask("close", self.handle)
 

@@ -18,8 +18,8 @@ GUIDE = PROJECT / "guide"
 SCREENS = PROJECT / "out" / "screens"
 LANGUAGES = ["en", "nl"]
 DESKTOP, PHONE = (1280, 800), (360, 740)
-CHAPTERS = ["start", "modes", "high", "sound", "slider", "microphone", "morse", "programs", "hearing",
-            "settings", "commands", "files", "privacy", "problems", "removal"]
+CHAPTERS = ["start", "modes", "high", "sound", "slider", "microphone", "morse", "programs",
+            "hearing", "settings", "commands", "files", "privacy", "problems", "removal"]
 PICTURES = ["about", "custom", "error", "first-run", "hearing-first", "hearing-question",
             "hearing-result", "help", "main", "morse", "player", "playing", "update"]
 # What the guide sets in bold and Windows says, or nobody.
@@ -158,7 +158,8 @@ def test_the_contents_are_reached_by_the_keyboard(helps: Path, browser: Browser)
     for chapter in CHAPTERS:
         browser.driver.switch_to.active_element.send_keys(Keys.TAB)
         assert browser.ask("return document.activeElement.hash") == "#" + chapter
-        assert browser.ask("return getComputedStyle(document.activeElement).outlineStyle") == "solid"
+        outline = browser.ask("return getComputedStyle(document.activeElement).outlineStyle")
+        assert outline == "solid"
     browser.driver.switch_to.active_element.send_keys(Keys.ENTER)
     assert browser.ask("return location.hash") == "#removal"
 

@@ -23,6 +23,10 @@ LRESULT CALLBACK TextEntryView::Procedure(HWND handle, UINT message, WPARAM wpar
     return 0;
   }
   const LRESULT result = CallWindowProcW(self->system_procedure_, handle, message, wparam, lparam);
+  // A field of several lines would keep the Tab key, and with it everybody who has no mouse.
+  if (message == WM_GETDLGCODE && wparam == VK_TAB) {
+    return result & ~static_cast<LRESULT>(DLGC_WANTALLKEYS | DLGC_WANTTAB);
+  }
   if (message == WM_SETFOCUS && self->text_box_.Enter()) SendMessageW(handle, EM_SETSEL, 0, -1);
   return result;
 }

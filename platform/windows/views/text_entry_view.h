@@ -1,5 +1,5 @@
-// The native window of a text box whose first text is selected when the box is entered first, by
-// the keyboard or by a click.
+// The native window of a text box: its first text is selected when the box is entered first, by the
+// keyboard or by a click, and the Tab key leaves it.
 #pragma once
 
 #include "platform/windows/api/windows_api.h"

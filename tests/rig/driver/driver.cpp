@@ -38,6 +38,7 @@
 //                                     name_service.dll
 //   colour INDEX                      a colour of the system, 0x00BBGGRR
 //   selection FIELD                   first and last place that are selected in a text field
+//   focus WINDOW                      id of the control that has the keyboard in its program, or 0
 #include <windows.h>
 
 #include <algorithm>
@@ -126,6 +127,7 @@ std::map<std::string, std::function<void(const Fields&)>> Commands(Programs& pro
          const auto selected = static_cast<DWORD>(Ask(Window(f.at(1)), EM_GETSEL));
          std::cout << LOWORD(selected) << '\t' << HIWORD(selected) << '\n';
        }},
+      {"focus", [](const Fields& f) { PrintFocus(Window(f.at(1))); }},
       {"close", [](const Fields& f) { Post(Window(f.at(1)), WM_CLOSE); }},
       {"logoff", [](const Fields& f) { EndSession(Window(f.at(1))); }},
       {"put", [](const Fields& f) { PutText(Window(f.at(1)), Wide(f.at(2))); }},

@@ -102,6 +102,16 @@ void PrintItems(HWND list) {
   }
 }
 
+void PrintFocus(HWND window) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof(info);
+  if (!GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info)) {
+    throw std::runtime_error("no such window");
+  }
+  const bool inside = info.hwndFocus && IsChild(window, info.hwndFocus);
+  std::cout << (inside ? GetDlgCtrlID(info.hwndFocus) : 0) << '\n';
+}
+
 void Clicks(const Fields& fields) {
   const std::size_t buttons = fields.size() - 2;
   const unsigned long count = std::stoul(fields.at(1));

@@ -24,6 +24,7 @@ void PrintWindows();
 void PrintControls(HWND parent);
 void PrintStyles(HWND parent);
 void PrintItems(HWND list);
+void PrintFocus(HWND window);
 void Clicks(const Fields& fields);
 void Slide(const Fields& fields);
 void Select(const Fields& fields);
