@@ -111,6 +111,11 @@ def test_the_morse_tool(started: Tonmira, user: User) -> None:
                if control.kind == "Button" and control.enabled]
     assert_goes_around(user, tool, [101, 103, 105, *playing])
     assert {107, 109} <= set(playing)
+    # The field was entered once; a tool that is opened anew has the same order.
+    tool.close()
+    wait_for(lambda: not tool.is_open(), "its end")
+    started.window().press("Start")
+    assert_goes_around(user, started.window("Morse tool"), [101, 103, 105, *playing])
 
 
 def test_the_first_run_dialog(launch: Launch, folders: Folders, user: User) -> None:

@@ -86,6 +86,24 @@ def test_a_tone_is_heard_at_its_pitch_without_a_hole_and_ends_with_stop(
     expect_nothing_left(rig, program)
 
 
+@pytest.mark.parametrize("sound_bit", ["128", "256", "16", "32"])
+def test_above_half_the_rate_the_default_sounds_lower_and_the_helpers_are_silent(
+        program: Tonmira, user: User, recorder: Recorder, sound_bit: str) -> None:
+    window = program.window()
+    recorder.wait_for_silence()
+    pick(user, window, "Custom pitch", 32000)
+    user.click_button(window, "Play Sound")
+    program.wait_for_buttons(window, playing=True)
+    if sound_bit in WITH_STATUS:
+        recorder.wait_for_tone()
+        # 44100 samples a second hold 44100 - 32000 Hz in the place of 32000 Hz.
+        assert_one_steady_tone(recorder.record(HEARD_S), 12100)
+        assert window.status() == "Actual pitch (Hertz): 32000"
+    else:
+        # The rig's card takes 44100, too.
+        assert np.abs(recorder.record(3)).max() < 10
+
+
 @pytest.mark.parametrize("sound_bit", ["64", "128", "256"])
 def test_only_the_directsound_mode_plays_through_directsound_too(
         rig: Rig, program: Tonmira, user: User, recorder: Recorder, sound_bit: str) -> None:

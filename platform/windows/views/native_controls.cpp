@@ -86,8 +86,7 @@ void NativeControls::AddView(HWND parent, std::size_t index) {
   } else if (made.kind() == ControlKind::kWebBrowser) {
     browser_views_.push_back(
         std::make_unique<WebBrowserView>(handle, static_cast<ui::WebBrowser&>(made)));
-  } else if (made.kind() == ControlKind::kTextBox &&
-             static_cast<ui::TextBox&>(made).SelectsAtEntry()) {
+  } else if (made.kind() == ControlKind::kTextBox) {
     entry_views_.push_back(
         std::make_unique<TextEntryView>(handle, static_cast<ui::TextBox&>(made)));
   }
