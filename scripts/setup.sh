@@ -27,7 +27,7 @@ readonly picture_packages=(pngquant zopfli)
 readonly bench_packages=(ebook2cw libbenchmark-dev libsox-fmt-mp3 sox)
 
 # What serves the site and looks at it.
-readonly site_packages=(chromium chromium-driver fonts-liberation nginx openssl python3-pytest
+readonly site_packages=(chromium chromium-driver cmake fonts-liberation nginx openssl python3-pytest
   python3-selenium tidy)
 
 # What looks at the sources without running them.
