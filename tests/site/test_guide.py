@@ -94,6 +94,20 @@ def test_names_in_bold_are_the_programs(language: str) -> None:
 
 
 @pytest.mark.parametrize("language", LANGUAGES)
+def test_messages_in_quotation_marks_are_the_programs(language: str) -> None:
+    sources = "".join(path.read_text() for folder in ("app", "display", "online", "program_files",
+                                                      "settings")
+                      for path in sorted((PROJECT / folder).iterdir())
+                      if path.suffix in (".cpp", ".h"))
+    # A literal of several lines is one text; the quotation marks in texts are escaped.
+    sources = re.sub(r'"\s+"', "", sources).replace('\\"', '"')
+    text = re.sub("<pre>.*?</pre>|<code>.*?</code>", "", text_of(language), flags=re.DOTALL)
+    quoted = {plain(message) for message in re.findall("&quot;(.*?)&quot;", text, re.DOTALL)}
+    assert len(quoted) >= 8
+    assert {message for message in quoted - {"ANSI"} if message not in sources} == set()
+
+
+@pytest.mark.parametrize("language", LANGUAGES)
 def test_pictures_are_there_as_large_as_the_text_says_and_described(language: str) -> None:
     found = re.findall(r'<img src="\${pictures}(.*?)" width="(\d+)" height="(\d+)"\s+alt="(.*?)">',
                        text_of(language))
