@@ -20,6 +20,8 @@ if(WIN32 AND NOT MSVC)
   # Small, self-contained executables that need nothing beyond what Windows 2000 has.
   target_compile_options(build_settings INTERFACE -Os -ffunction-sections -fdata-sections)
   target_link_options(build_settings INTERFACE -static -Wl,--gc-sections)
+  # The same sources give the same bytes, whenever they are built.
+  target_link_options(build_settings INTERFACE -Wl,--no-insert-timestamp)
   # Every program is loaded at an address of the system's choice, runs nothing that is data and ends
   # when its stack is overwritten (tests/check_hardening.py).
   add_library(stack_guard STATIC ${PROJECT_SOURCE_DIR}/platform/windows/api/stack_guard.cpp)
