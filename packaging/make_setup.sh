@@ -18,15 +18,11 @@ if (($# < 3 || $# > 4)) || [[ $1 != x64 && $1 != x86 ]]; then
   echo 'usage: packaging/make_setup.sh x64|x86 FOLDER OUT [SIGN]' >&2
   exit 2
 fi
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# shellcheck source=packaging/facts.sh
+. "$(dirname "${BASH_SOURCE[0]}")/facts.sh"
 arch=$1
 folder=$(realpath "$2")
 out=$(realpath "$3")
-version=$(sed -nE 's/^project\(Tonmira VERSION ([0-9.]+) .*/\1/p' "$root/CMakeLists.txt")
-if [[ -z ${SOURCE_DATE_EPOCH:-} ]]; then
-  SOURCE_DATE_EPOCH=$(git -C "$root" log -1 --format=%ct)
-fi
-export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C.UTF-8
 
 # The installer stores the times of its files.
 copy=$(mktemp -d)

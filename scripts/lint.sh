@@ -88,7 +88,7 @@ python() {
 }
 
 shell() {
-  sources run test .ci/run bench/run '*.sh' '*.bash' | xargs shellcheck
+  sources release run test .ci/run bench/run '*.sh' '*.bash' | xargs shellcheck
 }
 
 case ${1:-} in

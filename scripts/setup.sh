@@ -16,6 +16,10 @@ readonly fuzz_packages=(clang cmake libclang-rt-dev make)
 readonly windows_packages=(cmake g++-multilib g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32
   libcli11-dev make)
 
+# What packs and signs it for those who use it, and looks at the result.
+readonly release_packages=(7zip git gnutls-bin nsis openssl osslsigncode python3 python3-pytest
+  python3-yaml)
+
 # What runs it, listens to it and looks at it.
 readonly rig_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
   python3-numpy python3-pytest python3-pytest-xdist wine wine64 xdotool xvfb)
