@@ -24,7 +24,8 @@ arch=$1
 folder=$(realpath "$2")
 out=$(realpath "$3")
 
-# The installer stores the times of its files.
+# The installer stores the times of FOLDER's files; that of anything else, as a picture, is the time
+# of the checkout, and stays out.
 copy=$(mktemp -d)
 trap 'rm -rf "$copy"' EXIT
 cp -R "$folder/." "$copy"
@@ -34,4 +35,4 @@ definitions=("-DFOLDER=$copy" "-DARCH=$arch" "-DVERSION=$version" "-DOUT=$out")
 if (($# == 4)); then
   definitions+=("-DSIGN=$(realpath "$4")")
 fi
-makensis -V2 -WX "${definitions[@]}" "$root/packaging/setup.nsi"
+makensis -V2 -WX "-XSetDateSave off" "${definitions[@]}" "$root/packaging/setup.nsi"
