@@ -1,4 +1,5 @@
-"""What the tests of a release stand on: dist/, which ./release has made, and what it was made of."""
+"""What the tests of a release stand on: dist/, which ./release has made, and the builds that it was
+made of."""
 
 import os
 import subprocess
@@ -13,6 +14,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 sys.path.append(str(PROJECT / "tests"))
 
 DIST = PROJECT / "dist"
+VERSION = "2.3.6"
 PACKAGING = PROJECT / "packaging"
 TEST_CERTIFICATE = PROJECT / "build" / "test-certificate" / "certificate.pem"
 OWN_PLUGINS = "$PLUGINSDIR"  # what the installer unpacks for itself while it runs
@@ -27,11 +29,11 @@ class Kind:
 
     @property
     def archive(self) -> str:
-        return f"tonmira-2.3.6-portable{self.mark}.zip"
+        return f"tonmira-{VERSION}-portable{self.mark}.zip"
 
     @property
     def setup(self) -> str:
-        return f"tonmira-2.3.6-setup{self.mark}.exe"
+        return f"tonmira-{VERSION}-setup{self.mark}.exe"
 
 
 KINDS = {

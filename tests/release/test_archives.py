@@ -8,7 +8,7 @@ import zipfile
 from pathlib import Path
 
 from check_hardening import header_complaints, library_complaints
-from conftest import DIST, PROJECT, Kind, files_of
+from conftest import DIST, PROJECT, VERSION, Kind, files_of
 
 PROGRAMS = {"tonmira.exe", "play16.exe", "tone16.dll", "tone32.dll", "upsend.exe", "hearage.dll",
             "tnf.exe"}
@@ -16,13 +16,13 @@ SAMPLES = {f"samples/{name}.tnf" for name in (
     "auld-lang-syne", "glissando", "hearing-sweep", "ode-to-joy", "scale", "siren", "telephone",
     "westminster-chimes")}
 TEXTS = {"lng_en.dll", "lng_nl.dll", "readme.txt", "changes.txt"}
-RELEASED = {"tonmira-2.3.6-portable.zip", "tonmira-2.3.6-setup.exe",
-            "tonmira-2.3.6-portable-x86.zip", "tonmira-2.3.6-setup-x86.exe"}
+RELEASED = {f"tonmira-{VERSION}-{end}" for end in (
+    "portable.zip", "setup.exe", "portable-x86.zip", "setup-x86.exe")}
 
 
 def without_signature(program: bytes) -> bytes:
     """Its bytes with the two fields of the header blank that a signature changes: the check sum and
-    the place of the certificates. What is after the end of the unsigned program is for the caller."""
+    the place of the certificates, which follow what was there."""
     header = struct.unpack_from("<I", program, 0x3C)[0] + 24  # the optional header
     wide = struct.unpack_from("<H", program, header)[0] == 0x20B
     certificates = header + (112 if wide else 96) + 4 * 8
@@ -96,5 +96,6 @@ def test_the_texts_open_in_any_editor(portable: Path) -> None:
 
 def test_the_changes_begin_with_this_version(portable: Path) -> None:
     lines = (portable / "changes.txt").read_text("utf-8-sig").splitlines()
-    assert re.fullmatch(r"2\.3\.6\b.*", next(line for line in lines[1:] if line[:1].isdigit()))
+    first = next(line for line in lines if line[:1].isdigit())
+    assert re.fullmatch(rf"{re.escape(VERSION)}\b.*", first)
     assert not any("`" in line or line.startswith("#") for line in lines)

@@ -20,8 +20,8 @@ def program(kind: Kind, tmp_path: Path) -> Path:
 
 @pytest.fixture(scope="module")
 def real_certificate(tmp_path_factory: pytest.TempPathFactory) -> Path:
-    """A folder with what stands in for the maker's: an authority in ca.pem, and its certificate with
-    the key in own.p12."""
+    """A folder with what stands in for the maker's: an authority in ca.pem, and its certificate
+    with the key in own.p12."""
     folder = tmp_path_factory.mktemp("certificate")
 
     def openssl(*arguments: str) -> None:

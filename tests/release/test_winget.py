@@ -1,17 +1,16 @@
 """The manifests are what winget's schema 1.12.0 asks for, and describe what is released.
 
-The schema is at https://aka.ms/winget-manifest.installer.1.12.0.schema.json, and so on by type; what
-of it concerns these manifests is written down here.
+The schema is at https://aka.ms/winget-manifest.installer.1.12.0.schema.json, and so on by type;
+what of it concerns these manifests is written down here.
 """
 
 import hashlib
 import re
-from pathlib import Path
 
 import pytest
 import yaml
 
-from conftest import DIST, KINDS
+from conftest import DIST, KINDS, PACKAGING, VERSION
 
 WINGET = DIST / "winget"
 NAME = "ZevrinSoftware.Tonmira"
@@ -41,13 +40,15 @@ MANIFESTS = {
             "InstallModes": "interactive|silent|silentWithProgress",
             "InstallerSwitches": {"Silent": r"/\S.*", "SilentWithProgress": r"/\S.*",
                                   "InstallLocation": r"/D=<INSTALLPATH>"},
-            "UpgradeBehavior": "install|uninstallPrevious|deny", "FileExtensions": r"[^.\\/:]{1,64}",
+            "UpgradeBehavior": "install|uninstallPrevious|deny",
+            "FileExtensions": r"[^.\\/:]{1,64}",
             "ProductCode": r".{1,255}",
             "AppsAndFeaturesEntries": {"DisplayName": TEXT, "Publisher": TEXT,
                                        "DisplayVersion": r"\S{1,128}", "ProductCode": r".{1,255}"},
             "ReleaseDate": r"\d{4}-\d\d-\d\d",
-            "ExpectedReturnCodes": {"InstallerReturnCode": r"[1-9]\d*",
-                                    "ReturnResponse": "packageInUse|fileInUse|cancelledByUser"},
+            "ExpectedReturnCodes": {
+                "InstallerReturnCode": r"[1-9]\d*",
+                "ReturnResponse": "packageInUse|installInProgress|cancelledByUser"},
             "Installers": {"Architecture": "x86|x64", "InstallerUrl": URL,
                            "InstallerSha256": r"[A-Fa-f0-9]{64}"}},
         {*COMMON, "ManifestType", "InstallerType", "Installers"}),
@@ -55,7 +56,8 @@ MANIFESTS = {
         LOCAL | {"ManifestType": "defaultLocale", "Moniker": TAG},
         {*COMMON, "ManifestType", "PackageLocale", "Publisher", "PackageName", "License",
          "ShortDescription"}),
-    ".locale.nl-NL": (LOCAL | {"ManifestType": "locale"}, {*COMMON, "ManifestType", "PackageLocale"}),
+    ".locale.nl-NL": (
+        LOCAL | {"ManifestType": "locale"}, {*COMMON, "ManifestType", "PackageLocale"}),
 }
 
 
@@ -90,7 +92,7 @@ def test_a_manifest_has_the_fields_of_its_type(end: str) -> None:
     manifest = load(end)
     assert complaints(manifest, fields) == []
     assert required - manifest.keys() == set()
-    assert (manifest["PackageIdentifier"], manifest["PackageVersion"]) == (NAME, "2.3.6")
+    assert (manifest["PackageIdentifier"], manifest["PackageVersion"]) == (NAME, VERSION)
 
 
 @pytest.mark.parametrize("end", MANIFESTS)
@@ -117,10 +119,17 @@ def test_a_wrong_field_is_seen(field: str, value: object) -> None:
     assert complaints({field: value}, MANIFESTS[".installer"][0]) != []
 
 
-def test_the_installer_registers_what_the_manifest_says() -> None:
-    """The entry in the list of programs by which winget finds it installed."""
-    entry = load(".installer")["AppsAndFeaturesEntries"][0]
-    script = (Path(__file__).parents[2] / "packaging" / "setup.nsi").read_text("utf-8")
-    assert entry == {"DisplayName": "Tonmira", "Publisher": "Zevrin Software",
-                     "DisplayVersion": "2.3.6", "ProductCode": "Tonmira"}
-    assert "CurrentVersion\\Uninstall\\" in script
+def test_the_installer_does_what_the_manifest_says() -> None:
+    """winget knows the program again by its entry in the list of programs, and what went wrong
+    by the exit code."""
+    texts = "\n".join(path.read_text("utf-8") for path in PACKAGING.glob("*.ns[hi]"))
+    defined = dict(re.findall(r'^!define (\w+) "?([^"\n]*?)"?$', texts, re.MULTILINE))
+    manifest = load(".installer")
+    assert manifest["ProductCode"] == defined["APPS_KEY"].rsplit("\\", 1)[1]
+    assert manifest["AppsAndFeaturesEntries"] == [
+        {"DisplayName": "Tonmira", "Publisher": defined["PUBLISHER"],
+         "DisplayVersion": VERSION, "ProductCode": manifest["ProductCode"]}]
+    assert {code["ReturnResponse"]: code["InstallerReturnCode"]
+            for code in manifest["ExpectedReturnCodes"]} == {
+        "cancelledByUser": "1", "packageInUse": defined["IN_USE"],
+        "installInProgress": defined["OTHER_SETUP"]}
