@@ -24,6 +24,20 @@ programs_of() {
   done
 }
 
+# verify_contents ARCHIVE COUNT: fails unless it holds so many programs, all of them signed.
+verify_contents() {
+  local contents=$work/contents programs
+  rm -rf "$contents"
+  # NSIS's own libraries, which the installer unpacks for itself, are not ours.
+  7zz x -y -bso0 -bsp0 "-o$contents" "-x!\$PLUGINSDIR" "$1"
+  mapfile -t programs < <(programs_of "$contents")
+  if ((${#programs[@]} != $2)); then
+    echo "error: ${#programs[@]} programs in $1, and not $2" >&2
+    exit 1
+  fi
+  "$here/verify.sh" "${programs[@]}"
+}
+
 # pack ARCH FOLDER END_OF_NAMES
 pack() {
   local arch=$1 folder=$work/$1/tonmira name=$work/out/tonmira-$version programs
@@ -34,7 +48,9 @@ pack() {
   /usr/bin/python3 "$here/make_zip.py" "$folder" "$name-portable$3.zip"
   "$here/make_setup.sh" "$arch" "$folder" "$name-setup$3.exe" "$here/sign.sh"
   "$here/sign.sh" "$name-setup$3.exe"
-  echo "$arch: ${#programs[@]} programs and the installer are signed"
+  verify_contents "$name-portable$3.zip" "${#programs[@]}"
+  verify_contents "$name-setup$3.exe" $((${#programs[@]} + 1))
+  echo "$arch: ${#programs[@]} programs, the installer and the uninstaller are signed"
 }
 
 pack x64 "$1" ''
