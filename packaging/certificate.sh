@@ -8,6 +8,8 @@
 #     TONMIRA_SIGN_PKCS11_CERTIFICATE, TONMIRA_SIGN_PKCS11_KEY   what is on it, as PKCS#11 URIs
 # with
 #     TONMIRA_SIGN_PASSWORD_FILE    a file with the password or the PIN
+#     TONMIRA_SIGN_CHAIN            a PEM file of the certificates between it and its authority, where
+#                                   they do not come with it
 #     TONMIRA_SIGN_TIMESTAMP        address of an RFC 3161 time stamp server, where wanted
 #     TONMIRA_SIGN_CA               the authorities that signatures and time stamps must lead to, in one
 #                                   PEM file; by default those of the system
@@ -42,6 +44,9 @@ find_certificate() {
     sign_with+=(-certs "$folder/certificate.pem" -key "$folder/key.pem")
     verify_with+=(-CAfile "$folder/certificate.pem")
     return
+  fi
+  if [[ -n ${TONMIRA_SIGN_CHAIN:-} ]]; then
+    sign_with+=(-ac "$TONMIRA_SIGN_CHAIN")
   fi
   if [[ -n ${TONMIRA_SIGN_TIMESTAMP:-} ]]; then
     sign_with+=(-ts "$TONMIRA_SIGN_TIMESTAMP")
