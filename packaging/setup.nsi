@@ -89,6 +89,7 @@ Var moved   ; the folder of an installation elsewhere, which this one replaces
 Var before  ; the version that is installed, or nothing
 Var what    ; what is going to happen, for the user
 Var purge   ; ${BST_CHECKED}: the uninstaller deletes settings and logs, too
+Var removed ; 1 once nothing is left
 Var box
 
 !include questions.nsh
@@ -210,12 +211,45 @@ Section "un.Tonmira"
   Call un.DeleteRoot
   Delete "$INSTDIR\update.tmp"
   RMDir "$INSTDIR"
+  ${GetParent} "$INSTDIR" $0
+  ${If} $0 == "$LOCALAPPDATA\Programs"
+    RMDir "$0" ; newer systems have it, older got it from us
+  ${EndIf}
   Call un.DeleteTemporaryFiles
   ${If} $purge == ${BST_CHECKED}
     Call un.DeleteSettings
   ${EndIf}
   DeleteRegKey HKCU "${APPS_KEY}"
   ${TellShell}
+  StrCpy $removed 1
 SectionEnd
+
+; What runs cannot delete itself, and without administrator's rights the system deletes nothing at its
+; next start. So the command interpreter does, once this program has ended: it is a copy in a
+; temporary folder, or with _?= the uninstaller itself.
+Function un.DeleteSelf
+  ${If} $removed == 1
+  ${OrIf} $EXEDIR != $INSTDIR
+    ExecShell "open" "$SYSDIR\cmd.exe" '/d /c ping -n 2 127.0.0.1 & del /q "$EXEPATH" & \
+      ping -n 3 127.0.0.1 & del /q "$EXEPATH" & rd "$EXEDIR"' SW_HIDE
+  ${EndIf}
+FunctionEnd
+
+Function un.onGUIEnd
+  Call un.DeleteSelf
+FunctionEnd
+
+; Silently there is no window to end.
+Function un.onUninstSuccess
+  ${If} ${Silent}
+    Call un.DeleteSelf
+  ${EndIf}
+FunctionEnd
+
+Function un.onUninstFailed
+  ${If} ${Silent}
+    Call un.DeleteSelf
+  ${EndIf}
+FunctionEnd
 
 !delfile "${LIST}"

@@ -125,18 +125,23 @@ def as_png(rows):
             chunk(b"IDAT", zlib.compress(filtered, 9)) + chunk(b"IEND", b""))
 
 
-def main():
+def icon_file(draw_one):
+    """An icon of all sizes; `draw_one` draws it at a size."""
     images = []
     for size in SIZES:
-        rows = draw(size)
+        rows = draw_one(size)
         images.append(as_bitmap(rows) if size <= LARGEST_BITMAP else as_png(rows))
     offset = 6 + 16 * len(SIZES)
     entries = b""
     for size, image in zip(SIZES, images):
         entries += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, 1, 32, len(image), offset)
         offset += len(image)
+    return struct.pack("<HHH", 0, 1, len(SIZES)) + entries + b"".join(images)
+
+
+def main():
     with open("tonmira.ico", "wb") as file:
-        file.write(struct.pack("<HHH", 0, 1, len(SIZES)) + entries + b"".join(images))
+        file.write(icon_file(draw))
 
 
 if __name__ == "__main__":
