@@ -21,7 +21,7 @@ readonly release_packages=(7zip git gnutls-bin nsis openssl osslsigncode python3
   python3-yaml)
 
 # What runs it, listens to it and looks at it.
-readonly rig_packages=(fonts-liberation imagemagick openbox pulseaudio pulseaudio-utils
+readonly rig_packages=(fonts-liberation imagemagick locales nsis openbox pulseaudio pulseaudio-utils
   python3-numpy python3-pytest python3-pytest-xdist wine wine64 xdotool xvfb)
 
 # What makes pictures of it small.

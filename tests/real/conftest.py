@@ -14,6 +14,7 @@ import pytest
 sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 
 from rig.bad_hosts import ADDRESS, closed_port  # noqa: E402
+from rig.installing import Desktop, Setups  # noqa: E402
 from rig.microphone import Microphone  # noqa: E402
 from rig.paths import FAILURES, LINK_TAKER, NAME_SERVICE, PROGRAM  # noqa: E402
 from rig.processes import command_of  # noqa: E402
@@ -82,6 +83,20 @@ def microphone(rig: Rig) -> Iterator[Microphone]:
 @pytest.fixture
 def folders(rig: Rig) -> Folders:
     return Folders(rig)
+
+
+@pytest.fixture(scope="session")
+def setups(rig: Rig) -> Setups:
+    return Setups(rig)
+
+
+@pytest.fixture
+def desktop(rig: Rig, driver: Driver, folders: Folders) -> Iterator[Desktop]:
+    """A user's desktop without Tonmira, which is looked at again afterwards."""
+    folders.write_settings(GOOD_SETTINGS)
+    desktop = Desktop(rig, driver, folders)
+    with desktop.left_as_before():
+        yield desktop
 
 
 @pytest.fixture

@@ -1,0 +1,271 @@
+"""The installer on the rig: made for a test, run, and what it leaves in files and registry."""
+
+import contextlib
+import os
+import re
+import shutil
+import signal
+import stat
+import subprocess
+from collections.abc import Callable, Iterator
+from contextlib import contextmanager
+from dataclasses import dataclass
+from functools import cached_property
+from hashlib import sha256
+from pathlib import Path
+
+from rig.paths import PROGRAM, PROJECT
+from rig.processes import command_of
+from rig.program import Folders
+from rig.rig import Rig
+from rig.waiting import wait_for
+from rig.window import Driver, Window
+
+SHARED_COMPILER = "makensis"
+APPS_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Tonmira"
+TYPE_KEY = r"HKCU\Software\Classes\Tonmira.ToneProgram"
+ENDING_KEY = r"HKCU\Software\Classes\.tnf"
+CHOSEN_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\FileExts\.tnf"
+OWN_FILES = {"tnf.ico", "uninstall.exe", "uninstall.lst"}
+VERSION = str(re.findall(r"project\(Tonmira VERSION ([0-9.]+)",
+                         (PROJECT / "CMakeLists.txt").read_text())[0])
+OLD_VERSION = "2.3.5"
+NEWER_VERSION = "2.10.0"
+CANCELLED, FAILED, IN_USE, OTHER_SETUP, CUT_OFF = 1, 2, 3, 4, 77
+
+# What Wine notes for itself at any program's start, or when it looks at the network.
+OWN_TO_WINE = ("Temporary System Parameters", "Internet Settings", "Explorer\\Shell Folders",
+               "Explorer\\User Shell Folders", "Control\\", "Hardware\\", "Cryptography\\RNG",
+               "MountPoints2", "Services\\", "DEVICEMAP", "Session Manager")
+
+
+def architecture() -> str:
+    """What kind of Windows the program under test is for."""
+    image = PROGRAM.read_bytes()
+    header = int.from_bytes(image[60:64], "little")
+    return {0x8664: "x64", 0x14C: "x86"}[int.from_bytes(image[header + 4:header + 6], "little")]
+
+
+def make_setup(rig: Rig, folder: Path, version: str = VERSION, cut: bool = False,
+               sign: Path | None = None) -> Path:
+    """Compiles an installer of a folder, by the script that the release uses. Only the number of the
+    version, and where it can be cut off, are changed on the way to the compiler."""
+    place = rig.new_folder("setup")
+    compiler = place / SHARED_COMPILER
+    real = shutil.which(SHARED_COMPILER)
+    assert real, "nsis is not installed"
+    compiler.write_text(f'#!/bin/bash\nexec {real} {"-DCUT" if cut else ""} '
+                        f'"${{@/#-DVERSION=*/-DVERSION={version}}}"\n')
+    compiler.chmod(compiler.stat().st_mode | stat.S_IXUSR)
+    out = place / f"tonmira-{version}-setup.exe"
+    command = [PROJECT / "packaging" / "make_setup.sh", architecture(), folder, out]
+    subprocess.run(command + ([sign] if sign else []), check=True, timeout=120,
+                   env={**os.environ, "PATH": f"{place}:{os.environ['PATH']}",
+                        "SOURCE_DATE_EPOCH": "1767225600"})
+    return out
+
+
+def contents(folder: Path) -> dict[str, str]:
+    """Every file below a folder, and a digest of it."""
+    return {str(path.relative_to(folder)): sha256(path.read_bytes()).hexdigest()
+            for path in sorted(folder.rglob("*")) if path.is_file()}
+
+
+@dataclass
+class Command:
+    """A program that was started, and how it ended."""
+    driver: Driver
+    process: int
+
+    def code(self, seconds: float = 30) -> int:
+        wait_for(lambda: not self.driver.running(self.process), "the end of a program", seconds)
+        return int(self.driver.ask("exit", str(self.process))[0][0])
+
+
+class Desktop:
+    """The user whose desktop it is: installs, starts from the menu, opens files."""
+
+    def __init__(self, rig: Rig, driver: Driver, folders: Folders):
+        self.rig = rig
+        self.driver = driver
+        self.folders = folders
+        self.drive = rig.prefix / "drive_c"
+        self.user = next(path for path in (self.drive / "users").iterdir()
+                         if path.name != "Public")
+        self.programs = self.user / "AppData" / "Local" / "Programs"
+        self.folder = self.programs / "Tonmira"
+        self.menu = (self.user / "AppData" / "Roaming" / "Microsoft" / "Windows" / "Start Menu"
+                     / "Programs")
+
+    @contextmanager
+    def left_as_before(self) -> Iterator[None]:
+        """Whatever is installed meanwhile is removed, and no file, key or value is left of it."""
+        for key in (r"HKCU\Software\Classes", APPS_KEY.rpartition("\\")[0]):
+            self.rig.run("wine", "reg", "add", key, "/f")  # as on every Windows
+        files, values = self.files(), self.registry("HKEY_CURRENT_USER")
+        try:
+            yield
+            self.close_all()
+            if self.value(APPS_KEY, "UninstallString"):
+                self.uninstall()
+            assert self.files() - self.files_of_the_program() == files
+            assert self.registry("HKEY_CURRENT_USER") == values
+        finally:
+            self.tidy()
+
+    def files_of_the_program(self) -> set[str]:
+        """Settings and logs, which stay."""
+        return {str(self.folders.temp / name) for name in ("userdata.txt", "error.log")}
+
+    def tidy(self) -> None:
+        """By force what a failed test has left."""
+        for process in self.rig.processes():
+            if re.search(r"\\(tonmira|uninstall|Un|tonmira-\S+-setup).exe", command_of(process)):
+                with contextlib.suppress(ProcessLookupError):
+                    os.kill(process, signal.SIGKILL)
+        shutil.rmtree(self.folder, ignore_errors=True)
+        with contextlib.suppress(OSError):
+            self.programs.rmdir()
+        (self.menu / "Tonmira.lnk").unlink(missing_ok=True)
+        for key in (APPS_KEY, TYPE_KEY, ENDING_KEY, CHOSEN_KEY):
+            self.delete(key)
+
+    def windows_path(self, path: Path) -> str:
+        if path.is_relative_to(self.drive):
+            return "C:\\" + str(path.relative_to(self.drive)).replace("/", "\\")
+        return self.rig.windows_path(path)
+
+    def start(self, program: str, arguments: str = "", driver: Driver | None = None) -> Command:
+        driver = driver or self.driver
+        answer = driver.ask("start", program, "C:\\",
+                            self.rig.windows_path(self.folders.temp),
+                            self.rig.windows_path(self.folders.appdata), arguments)
+        return Command(driver, int(answer[0][0]))
+
+    def run(self, program: Path, arguments: str = "/S", seconds: float = 30) -> int:
+        return self.start(self.windows_path(program), arguments).code(seconds)
+
+    def open(self, path: Path, driver: Driver | None = None) -> None:
+        """As by a double click."""
+        self.start(r"C:\windows\system32\start.exe", f'"{self.windows_path(path)}"', driver)
+
+    def open_from_menu(self) -> None:
+        self.open(self.menu / "Tonmira.lnk")
+
+    def uninstall(self, switches: str = "") -> None:
+        """By the line that the system keeps for it, to the end of its last helper."""
+        command = self.value(APPS_KEY, "QuietUninstallString")
+        program, arguments = re.fullmatch(r'"([^"]+)" (.*)', command).groups()
+        self.start(program, f"{arguments} {switches}".strip())
+        self.wait_until_uninstalled()
+
+    def wait_until_uninstalled(self) -> None:
+        wait_for(lambda: not self.value(APPS_KEY, "UninstallString"), "the end of the entry")
+        wait_for(lambda: not list(self.folders.temp.glob("~nsu*")), "the end of the uninstaller")
+
+    def query(self, key: str) -> list[str]:
+        done = subprocess.run(["wine", "reg", "query", key, "/s"], env=self.rig.env, check=False,
+                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, text=True)
+        return [line.strip() for line in done.stdout.splitlines() if line.strip()]
+
+    def value(self, key: str, name: str = "") -> str:
+        """A value of the registry, or nothing."""
+        which = ["/v", name] if name else ["/ve"]
+        done = subprocess.run(["wine", "reg", "query", key, *which], env=self.rig.env, check=False,
+                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, text=True)
+        found = re.search(r"REG_\w+ {4}(.*)", done.stdout)
+        return found[1].strip() if found else ""
+
+    def store(self, key: str, name: str, value: str) -> None:
+        which = ["/v", name] if name else ["/ve"]
+        self.rig.run("wine", "reg", "add", key, *which, "/d", value, "/f")
+
+    def delete(self, key: str) -> None:
+        subprocess.run(["wine", "reg", "delete", key, "/f"], env=self.rig.env, check=False,
+                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL)
+
+    def files(self) -> set[str]:
+        """Names of everything on the drive and in the user's folders, but what Wine keeps of pages
+        that were fetched."""
+        places = (self.drive, self.folders.temp, self.folders.appdata)
+        return {str(path) for place in places for path in place.rglob("*")
+                if "INetC" not in str(path) and "Microsoft/Windows/History" not in str(path)}
+
+    def registry(self, root: str) -> set[tuple[str, str]]:
+        """Every value below a root, as key and line; a key without any as itself."""
+        export = self.rig.new_folder("registry") / "all.reg"
+        self.rig.run("wine", "regedit", "/E", self.rig.windows_path(export), root)
+        text = export.read_text("utf-16").replace("\\\n  ", "")
+        export.unlink()
+        key, values = "", set()
+        for line in text.splitlines()[1:]:
+            if line.startswith("["):
+                key = line[1:-1]
+            if line and not any(own in key for own in OWN_TO_WINE):
+                values.add((key, line))
+        return values
+
+    def main_windows(self) -> list[Window]:
+        return [Window(self.driver, w.handle, w.title) for w in self.driver.windows()
+                if w.visible and w.kind == "TonmiraWindow"]
+
+    def running(self) -> list[str]:
+        """The command lines of the copies of the program that run."""
+        return [command for command in map(command_of, self.rig.processes())
+                if re.match(r"\S.*\\tonmira.exe", command)]
+
+    def close_all(self) -> None:
+        def all_closed() -> bool:
+            for window in self.main_windows():
+                window.close()
+            return not self.main_windows()
+
+        wait_for(all_closed, "the end of all windows")
+        wait_for(lambda: not self.running(), "the end of the program")
+
+
+def old_copy(rig: Rig) -> Path:
+    """The folder of an older version: a file that the new one has not, and not one that it has."""
+    def change(folder: Path) -> None:
+        (folder / "old").mkdir()
+        (folder / "old" / "gone.txt").write_text("only here\r\n")
+        (folder / "samples" / "siren.tnf").unlink()
+        with open(folder / "tonmira.exe", "ab") as program:
+            program.write(OLD_VERSION.encode())  # no other program, but other bytes
+
+    return changed_copy(rig, change)
+
+
+class Setups:
+    """Installers of the program and of an older one, made when they are asked for."""
+
+    def __init__(self, rig: Rig):
+        self.rig = rig
+        self.folder = PROGRAM.parent
+
+    @cached_property
+    def new(self) -> Path:
+        return make_setup(self.rig, self.folder)
+
+    @cached_property
+    def old_folder(self) -> Path:
+        return old_copy(self.rig)
+
+    @cached_property
+    def old(self) -> Path:
+        return make_setup(self.rig, self.old_folder, OLD_VERSION)
+
+    @cached_property
+    def newer(self) -> Path:
+        return make_setup(self.rig, self.old_folder, NEWER_VERSION)
+
+
+def changed_copy(rig: Rig, change: Callable[[Path], None]) -> Path:
+    """A copy of the program's folder with something changed in it."""
+    folder = rig.new_folder("portable") / "Tonmira"
+    shutil.copytree(PROGRAM.parent, folder)
+    change(folder)
+    return folder
