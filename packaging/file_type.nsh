@@ -20,8 +20,10 @@ Function TakeFileType
   WriteRegExpandStr HKCU "${CLASSES}\${TYPE}\shell\edit\command" "" \
     '"%SystemRoot%\system32\notepad.exe" "%1"'
   WriteRegStr HKCU "${CLASSES}\.tnf\OpenWithProgids" "${TYPE}" ""
-  ; HKCR is what the user's and the machine's keys are together.
-  ReadRegStr $0 HKCR ".tnf" ""
+  ReadRegStr $0 HKCU "${CLASSES}\.tnf" ""
+  ${If} $0 == ""
+    ReadRegStr $0 HKCR ".tnf" "" ; the machine's
+  ${EndIf}
   ReadRegStr $1 HKCU "${CHOSEN}\UserChoice" "ProgId"
   ${If} $0 == ""
   ${AndIf} $1 == ""

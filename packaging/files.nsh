@@ -230,6 +230,7 @@ Var answer
       StrCpy $root $stage
       Call DeleteRoot
       RMDir "$INSTDIR" ; if it was made for this
+      StrCpy $stage ""
     ${EndIf}
   FunctionEnd
 !macroend

@@ -21,9 +21,13 @@
     Call ${UN}AreFree
     ${While} $answer != ""
       StrCpy $R5 $answer
-      MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(IsRunning)" /SD IDRETRY IDRETRY +3
-      SetErrorLevel 1
+      MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(IsRunning)" /SD IDRETRY IDRETRY again
+      SetErrorLevel ${CANCELLED}
+      !if "${UN}" == ""
+        Call DropStage
+      !endif
       Abort "$(Cancelled)"
+      again:
       DetailPrint "$(Closing)"
       Call ${UN}AskToClose
       ${If} ${Silent}
@@ -71,6 +75,9 @@
   FunctionEnd
 
   Function ${UN}TestRoot
+    ${IfNot} ${FileExists} "$root\*.*"
+      Return
+    ${EndIf}
     GetFunctionAddress $action ${UN}TestListed
     StrCpy $list "$root\uninstall.lst"
     Call ${UN}EachListed

@@ -50,7 +50,8 @@ XPStyle on
 !define PUBLISHER "Zevrin Software"
 !define SITE "https://www.tonmira.example"
 
-; Exit codes. 0 is success and 1 the user's own end.
+; Exit codes; 0 is success.
+!define CANCELLED 1
 !define FAILED 2
 !define IN_USE 3
 !define OTHER_SETUP 4
@@ -211,10 +212,7 @@ Section "un.Tonmira"
   Call un.DeleteRoot
   Delete "$INSTDIR\update.tmp"
   RMDir "$INSTDIR"
-  ${GetParent} "$INSTDIR" $0
-  ${If} $0 == "$LOCALAPPDATA\Programs"
-    RMDir "$0" ; newer systems have it, older got it from us
-  ${EndIf}
+  RMDir "$LOCALAPPDATA\Programs" ; if nobody else's program is in it
   Call un.DeleteTemporaryFiles
   ${If} $purge == ${BST_CHECKED}
     Call un.DeleteSettings

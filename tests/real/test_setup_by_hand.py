@@ -100,12 +100,8 @@ def test_by_keyboard_alone_from_the_first_installation_to_the_last_trace(
     hands.type("Return")
     assert setup.code() == 0
     wait_for(desktop.main_windows, "the program")
-    wait_for(lambda: desktop.main_windows()[0].button("Play Sound").enabled, "an idle window")
-    window = desktop.main_windows()[0]
-    window.press("High pitch")
-    wait_for(lambda: window.is_checked("High pitch"), "the mode")
-    window.press("Play Sound")
-    wait_for(lambda: window.button("Stop Sound").enabled, "a playing window")
+    desktop.close_all()
+    window = desktop.start_playing()
 
     # An upgrade over the program that plays, first given up, then gone on with.
     files = contents(desktop.folder)

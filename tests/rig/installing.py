@@ -34,9 +34,9 @@ NEWER_VERSION = "2.10.0"
 CANCELLED, FAILED, IN_USE, OTHER_SETUP, CUT_OFF = 1, 2, 3, 4, 77
 
 # What Wine notes for itself at any program's start, or when it looks at the network.
-OWN_TO_WINE = ("Temporary System Parameters", "Internet Settings", "Explorer\\Shell Folders",
-               "Explorer\\User Shell Folders", "Control\\", "Hardware\\", "Cryptography\\RNG",
-               "MountPoints2", "Services\\", "DEVICEMAP", "Session Manager")
+OWN_TO_WINE = ("HKEY_CURRENT_USER\\Console", "Software\\Wine\\", "Internet Settings",
+               "Explorer\\Shell Folders", "Explorer\\User Shell Folders", "MMDevices",
+               "Cryptography\\RNG", "MountPoints2")
 
 
 def architecture() -> str:
@@ -100,7 +100,8 @@ class Desktop:
     @contextmanager
     def left_as_before(self) -> Iterator[None]:
         """Whatever is installed meanwhile is removed, and no file, key or value is left of it."""
-        for key in (r"HKCU\Software\Classes", APPS_KEY.rpartition("\\")[0]):
+        for key in (TYPE_KEY, APPS_KEY, CHOSEN_KEY):
+            key = key.rpartition("\\")[0]
             self.rig.run("wine", "reg", "add", key, "/f")  # as on every Windows
         files, values = self.files(), self.registry("HKEY_CURRENT_USER")
         try:
@@ -108,8 +109,9 @@ class Desktop:
             self.close_all()
             if self.value(APPS_KEY, "UninstallString"):
                 self.uninstall()
-            assert self.files() - self.files_of_the_program() == files
-            assert self.registry("HKEY_CURRENT_USER") == values
+            left = sorted((self.files() - self.files_of_the_program()) ^ files)
+            left += sorted(map(str, self.registry("HKEY_CURRENT_USER") ^ values))
+            assert left == [], left
         finally:
             self.tidy()
 
@@ -149,6 +151,22 @@ class Desktop:
         """As by a double click."""
         self.start(r"C:\windows\system32\start.exe", f'"{self.windows_path(path)}"', driver)
 
+    @contextmanager
+    def users_classes_shown(self) -> Iterator[None]:
+        """While it lasts, the user's file types are among those of the machine: Windows shows the two
+        as one, this Wine only the latter."""
+        export = self.rig.new_folder("classes") / "classes.reg"
+        path = self.rig.windows_path(export)
+        keys = [TYPE_KEY, ENDING_KEY]
+        for key in keys:
+            self.rig.run("wine", "reg", "export", key, path, "/y")
+            text = export.read_text("utf-16").replace("HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE")
+            export.write_text(text, "utf-16")
+            self.rig.run("wine", "reg", "import", path)
+        yield
+        for key in keys:
+            self.delete(key.replace("HKCU", "HKLM"))
+
     def open_from_menu(self) -> None:
         self.open(self.menu / "Tonmira.lnk")
 
@@ -167,7 +185,8 @@ class Desktop:
         done = subprocess.run(["wine", "reg", "query", key, "/s"], env=self.rig.env, check=False,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.DEVNULL, text=True)
-        return [line.strip() for line in done.stdout.splitlines() if line.strip()]
+        return [line.strip() for line in done.stdout.splitlines()
+                if line.strip() and done.returncode == 0]
 
     def value(self, key: str, name: str = "") -> str:
         """A value of the registry, or nothing."""
@@ -176,7 +195,7 @@ class Desktop:
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.DEVNULL, text=True)
         found = re.search(r"REG_\w+ {4}(.*)", done.stdout)
-        return found[1].strip() if found else ""
+        return found[1].strip().replace("(value not set)", "") if found else ""
 
     def store(self, key: str, name: str, value: str) -> None:
         which = ["/v", name] if name else ["/ve"]
@@ -212,19 +231,41 @@ class Desktop:
         return [Window(self.driver, w.handle, w.title) for w in self.driver.windows()
                 if w.visible and w.kind == "TonmiraWindow"]
 
+    def processes(self) -> list[int]:
+        """The copies of the program that run, as Linux numbers them."""
+        return [process for process in self.rig.processes()
+                if re.match(r"\S.*\\tonmira.exe", command_of(process))]
+
     def running(self) -> list[str]:
-        """The command lines of the copies of the program that run."""
-        return [command for command in map(command_of, self.rig.processes())
-                if re.match(r"\S.*\\tonmira.exe", command)]
+        """Their command lines."""
+        return list(map(command_of, self.processes()))
+
+    def start_idle(self) -> Window:
+        """The main window, once the program that the menu started waits for its user."""
+        self.folders.log_file.unlink(missing_ok=True)
+        self.open_from_menu()
+        wait_for(lambda: self.folders.log_file.exists()
+                 and b">> Program starting finished" in self.folders.log_file.read_bytes(),
+                 "a finished start")
+        wait_for(self.main_windows, "the main window")
+        return self.main_windows()[0]
+
+    def start_playing(self) -> Window:
+        window = self.start_idle()
+        window.press("High pitch")
+        wait_for(lambda: window.is_checked("High pitch"), "the mode")
+        window.press("Play Sound")
+        wait_for(lambda: window.button("Stop Sound").enabled, "a playing window")
+        return window
 
     def close_all(self) -> None:
-        def all_closed() -> bool:
+        """A window that comes while another goes is closed, too."""
+        def all_ended() -> bool:
             for window in self.main_windows():
                 window.close()
-            return not self.main_windows()
+            return not self.processes()
 
-        wait_for(all_closed, "the end of all windows")
-        wait_for(lambda: not self.running(), "the end of the program")
+        wait_for(all_ended, "the end of the program")
 
 
 def old_copy(rig: Rig) -> Path:

@@ -22,13 +22,21 @@ std::string PlaceOf(HWND window) {
   return line.str();
 }
 
+// On one line, as an answer is.
+std::string Line(std::wstring text) {
+  for (wchar_t& letter : text) {
+    if (letter < L' ') letter = L' ';
+  }
+  return Utf8(text);
+}
+
 BOOL CALLBACK PrintWindow(HWND window, LPARAM) {
   DWORD pid = 0;
   GetWindowThreadProcessId(window, &pid);
   wchar_t title[256] = {};
   GetWindowTextW(window, title, 256);
   std::cout << Number(window) << '\t' << pid << '\t' << ClassOf(window) << '\t'
-            << IsWindowVisible(window) << '\t' << PlaceOf(window) << '\t' << Utf8(title) << '\n';
+            << IsWindowVisible(window) << '\t' << PlaceOf(window) << '\t' << Line(title) << '\n';
   return TRUE;
 }
 
@@ -40,7 +48,7 @@ BOOL CALLBACK PrintControl(HWND window, LPARAM) {
   }
   std::cout << Number(window) << '\t' << GetDlgCtrlID(window) << '\t' << ClassOf(window) << '\t'
             << IsWindowEnabled(window) << '\t' << IsWindowVisible(window) << '\t' << PlaceOf(window)
-            << '\t' << Utf8(caption) << '\n';
+            << '\t' << Line(caption) << '\n';
   return TRUE;
 }
 
