@@ -130,7 +130,10 @@ Function .onInstFailed
 FunctionEnd
 
 Section
+  AddSize ${SIZE_KB}
   AddSize ${SIZE_KB} ; everything is there twice for a moment
+  ${Trim} $INSTDIR
+  ${Trim} $moved
   ${If} $moved == $INSTDIR
     StrCpy $moved ""
   ${EndIf}
@@ -202,6 +205,7 @@ Function un.onInit
 FunctionEnd
 
 Section "un.Tonmira"
+  ${Trim} $INSTDIR
   SetOutPath "$TEMP"
   Call un.CloseProgram
   Delete "$SMPROGRAMS\Tonmira.lnk"
@@ -228,8 +232,8 @@ SectionEnd
 Function un.DeleteSelf
   ${If} $removed == 1
   ${OrIf} $EXEDIR != $INSTDIR
-    ExecShell "open" "$SYSDIR\cmd.exe" '/d /c ping -n 2 127.0.0.1 & del /q "$EXEPATH" & \
-      ping -n 3 127.0.0.1 & del /q "$EXEPATH" & rd "$EXEDIR"' SW_HIDE
+    ExecShell "open" "$SYSDIR\cmd.exe" '/d /c ping -n 2 127.0.0.1 & del /q "$EXEPATH" & rd "$EXEDIR" & \
+      if exist "$EXEPATH" ping -n 5 127.0.0.1 & del /q "$EXEPATH" & rd "$EXEDIR"' SW_HIDE
   ${EndIf}
 FunctionEnd
 

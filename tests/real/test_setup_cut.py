@@ -5,7 +5,10 @@ import shutil
 import struct
 from pathlib import Path
 
-from rig.installing import CUT_OFF, OWN_FILES, TYPE_KEY, Desktop, contents, make_setup
+import pytest
+
+from rig.installing import (CUT_OFF, OLD_VERSION, OWN_FILES, TYPE_KEY, Desktop, contents,
+                            make_setup)
 from rig.paths import PROGRAM
 from rig.rig import Rig
 from rig.waiting import wait_for
@@ -40,13 +43,26 @@ def target_of(link: Path) -> str:
     return data[start:data.index(b"\0", start)].decode("cp1252")
 
 
+class Versions:
+    """Two versions, and installers of them that can be cut off."""
+
+    def __init__(self, rig: Rig):
+        self.folders = {name: small_version(rig, name) for name in ("old", "new")}
+        self.setups = {"old": make_setup(rig, self.folders["old"], OLD_VERSION, cut=True),
+                       "new": make_setup(rig, self.folders["new"], cut=True)}
+
+
+@pytest.fixture(scope="module")
+def versions(rig: Rig) -> Versions:
+    return Versions(rig)
+
+
 class Cut:
-    def __init__(self, desktop: Desktop, driver: Driver, rig: Rig):
+    def __init__(self, desktop: Desktop, driver: Driver, rig: Rig, versions: Versions):
         self.desktop = desktop
         self.driver = driver
-        self.versions = {name: small_version(rig, name) for name in ("old", "new")}
-        self.setups = {"old": make_setup(rig, self.versions["old"], "2.3.5", cut=True),
-                       "new": make_setup(rig, self.versions["new"], cut=True)}
+        self.versions = versions.folders
+        self.setups = versions.setups
         self.saved = rig.new_folder("saved")
 
     def install(self, name: str, step: int = 0) -> int:
@@ -54,6 +70,8 @@ class Cut:
         self.driver.ask("set", "TONMIRA_CUT", str(step))
         code = self.desktop.run(self.setups[name])
         self.driver.ask("set", "TONMIRA_CUT", "0")
+        for left in self.desktop.folders.temp.glob("ns*.tmp"):
+            shutil.rmtree(left)  # as after any end by force
         return code
 
     def save(self) -> None:
@@ -98,8 +116,8 @@ def expect_start(desktop: Desktop, program: str) -> None:
 
 
 def test_the_old_or_the_new_version_starts_wherever_an_upgrade_is_cut_off(
-        desktop: Desktop, driver: Driver, rig: Rig) -> None:
-    cut = Cut(desktop, driver, rig)
+        desktop: Desktop, driver: Driver, rig: Rig, versions: Versions) -> None:
+    cut = Cut(desktop, driver, rig, versions)
     assert cut.install("old") == 0
     cut.is_whole("old")
     cut.save()
@@ -129,8 +147,8 @@ def test_the_old_or_the_new_version_starts_wherever_an_upgrade_is_cut_off(
 
 
 def test_cut_off_again_and_again_it_still_starts_and_the_next_one_finishes(
-        desktop: Desktop, driver: Driver, rig: Rig) -> None:
-    cut = Cut(desktop, driver, rig)
+        desktop: Desktop, driver: Driver, rig: Rig, versions: Versions) -> None:
+    cut = Cut(desktop, driver, rig, versions)
     assert cut.install("old") == 0
     for step, name in ((12, "new"), (17, "old"), (3, "new"), (14, "old"), (22, "new"), (9, "new")):
         assert cut.install(name, step) == CUT_OFF

@@ -30,7 +30,6 @@ OWN_FILES = {"tnf.ico", "uninstall.exe", "uninstall.lst"}
 VERSION = str(re.findall(r"project\(Tonmira VERSION ([0-9.]+)",
                          (PROJECT / "CMakeLists.txt").read_text())[0])
 OLD_VERSION = "2.3.5"
-NEWER_VERSION = "2.10.0"
 CANCELLED, FAILED, IN_USE, OTHER_SETUP, CUT_OFF = 1, 2, 3, 4, 77
 
 # What Wine notes for itself at any program's start, or when it looks at the network.
@@ -60,6 +59,7 @@ def make_setup(rig: Rig, folder: Path, version: str = VERSION, cut: bool = False
     out = place / f"tonmira-{version}-setup.exe"
     command = [PROJECT / "packaging" / "make_setup.sh", architecture(), folder, out]
     subprocess.run(command + ([sign] if sign else []), check=True, timeout=120,
+                   stdout=subprocess.DEVNULL,
                    env={**os.environ, "PATH": f"{place}:{os.environ['PATH']}",
                         "SOURCE_DATE_EPOCH": "1767225600"})
     return out
@@ -298,10 +298,6 @@ class Setups:
     @cached_property
     def old(self) -> Path:
         return make_setup(self.rig, self.old_folder, OLD_VERSION)
-
-    @cached_property
-    def newer(self) -> Path:
-        return make_setup(self.rig, self.old_folder, NEWER_VERSION)
 
 
 def changed_copy(rig: Rig, change: Callable[[Path], None]) -> Path:
