@@ -14,7 +14,7 @@ import pytest
 sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 
 from rig.bad_hosts import ADDRESS, closed_port  # noqa: E402
-from rig.installing import Desktop, Setups  # noqa: E402
+from rig.installing import Desktop  # noqa: E402
 from rig.microphone import Microphone  # noqa: E402
 from rig.paths import FAILURES, LINK_TAKER, NAME_SERVICE, PROGRAM  # noqa: E402
 from rig.processes import command_of  # noqa: E402
@@ -25,6 +25,7 @@ from rig.retakes import (  # noqa: E402, F401
     pytest_runtest_call, pytest_runtest_protocol, pytest_runtest_setup, pytest_terminal_summary)
 from rig.screen import Screen  # noqa: E402
 from rig.served_site import ServedSite, served_site  # noqa: E402
+from rig.setups import Setups  # noqa: E402
 from rig.sound import Recorder, save_wav  # noqa: E402
 from rig.uploading import ACTIVITY, ERROR, Upsend  # noqa: E402
 from rig.waiting import wait_for  # noqa: E402

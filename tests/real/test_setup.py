@@ -5,11 +5,11 @@ import signal
 import time
 from pathlib import Path
 
-from rig.installing import (APPS_KEY, CHOSEN_KEY, ENDING_KEY, FAILED, IN_USE, OLD_VERSION,
-                            OTHER_SETUP, OWN_FILES, TYPE_KEY, VERSION, Desktop,
-                            Setups, contents, make_setup)
+from rig.installing import (APPS_KEY, CHOSEN_KEY, ENDING_KEY, FAILED, IN_USE, OTHER_SETUP,
+                            OWN_FILES, TYPE_KEY, Desktop, contents)
 from rig.paths import PROGRAM
 from rig.rig import Rig
+from rig.setups import OLD_VERSION, SIGNATURE, VERSION, Setups, make_setup
 from rig.tone_programs import PATH, file_of, label
 from rig.waiting import wait_for
 from rig.window import Driver
@@ -27,7 +27,8 @@ def expect_in_list_of_apps(desktop: Desktop) -> None:
     folder = desktop.windows_path(desktop.folder)
     kilobytes = sum(path.stat().st_size for path in PROGRAM.parent.rglob("*")
                     if path.is_file()) // 1024
-    entry = {line.split("    ")[0]: line.split("    ", 2)[2] for line in desktop.query(APPS_KEY)[1:]}
+    lines = [line.split("    ", 2) for line in desktop.query(APPS_KEY)[1:]]
+    entry = {name: value for name, _, value in lines}
     assert entry == {
         "DisplayName": "Tonmira", "DisplayIcon": folder + r"\tonmira.exe,0",
         "DisplayVersion": VERSION, "Publisher": "Zevrin Software",
@@ -44,6 +45,7 @@ def test_it_installs_starts_opens_and_leaves_nothing(
     assert desktop.run(setups.new) == 0
     is_installed(desktop, PROGRAM.parent)
     expect_in_list_of_apps(desktop)
+    assert (desktop.folder / "uninstall.exe").read_bytes().endswith(SIGNATURE.encode())
     icon = Path(desktop.folder / "tnf.ico").read_bytes()
     assert icon[:4] == b"\0\0\1\0" and icon != (desktop.folder / "tonmira.exe").read_bytes()
 

@@ -5,10 +5,10 @@ from collections.abc import Iterator
 
 import pytest
 
-from rig.installing import (CANCELLED, OLD_VERSION, OWN_FILES, VERSION, Command, Desktop, Setups,
-                            contents)
+from rig.installing import CANCELLED, OWN_FILES, Command, Desktop, contents
 from rig.paths import SCREENS
 from rig.rig import Rig
+from rig.setups import OLD_VERSION, VERSION, Setups
 from rig.waiting import wait_for
 from rig.window import Driver, User, Window
 

@@ -7,10 +7,10 @@ from pathlib import Path
 
 import pytest
 
-from rig.installing import (CUT_OFF, OLD_VERSION, OWN_FILES, TYPE_KEY, Desktop, contents,
-                            make_setup)
+from rig.installing import CUT_OFF, OWN_FILES, TYPE_KEY, Desktop, contents
 from rig.paths import PROGRAM
 from rig.rig import Rig
+from rig.setups import OLD_VERSION, make_setup
 from rig.waiting import wait_for
 from rig.window import Driver
 

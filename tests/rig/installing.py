@@ -1,68 +1,34 @@
-"""The installer on the rig: made for a test, run, and what it leaves in files and registry."""
+"""The installer on the rig: how it is run, and what it leaves in files and registry."""
 
 import contextlib
 import os
 import re
 import shutil
 import signal
-import stat
 import subprocess
-from collections.abc import Callable, Iterator
+from collections.abc import Iterator
 from contextlib import contextmanager
 from dataclasses import dataclass
-from functools import cached_property
 from hashlib import sha256
 from pathlib import Path
 
-from rig.paths import PROGRAM, PROJECT
 from rig.processes import command_of
 from rig.program import Folders
 from rig.rig import Rig
 from rig.waiting import wait_for
 from rig.window import Driver, Window
 
-SHARED_COMPILER = "makensis"
 APPS_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Tonmira"
 TYPE_KEY = r"HKCU\Software\Classes\Tonmira.ToneProgram"
 ENDING_KEY = r"HKCU\Software\Classes\.tnf"
 CHOSEN_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\FileExts\.tnf"
 OWN_FILES = {"tnf.ico", "uninstall.exe", "uninstall.lst"}
-VERSION = str(re.findall(r"project\(Tonmira VERSION ([0-9.]+)",
-                         (PROJECT / "CMakeLists.txt").read_text())[0])
-OLD_VERSION = "2.3.5"
 CANCELLED, FAILED, IN_USE, OTHER_SETUP, CUT_OFF = 1, 2, 3, 4, 77
 
 # What Wine notes for itself at any program's start, or when it looks at the network.
 OWN_TO_WINE = ("HKEY_CURRENT_USER\\Console", "Software\\Wine\\", "Internet Settings",
                "Explorer\\Shell Folders", "Explorer\\User Shell Folders", "MMDevices",
                "Cryptography\\RNG", "MountPoints2")
-
-
-def architecture() -> str:
-    """What kind of Windows the program under test is for."""
-    image = PROGRAM.read_bytes()
-    header = int.from_bytes(image[60:64], "little")
-    return {0x8664: "x64", 0x14C: "x86"}[int.from_bytes(image[header + 4:header + 6], "little")]
-
-
-def make_setup(rig: Rig, folder: Path, version: str = VERSION, cut: bool = False,
-               sign: Path | None = None) -> Path:
-    """Compiles an installer of a folder, by the script that the release uses. Only the number of the
-    version, and where it can be cut off, are changed on the way to the compiler."""
-    place = rig.new_folder("setup")
-    compiler = place / SHARED_COMPILER
-    real = shutil.which(SHARED_COMPILER)
-    assert real, "nsis is not installed"
-    compiler.write_text(f'#!/bin/bash\nexec {real} {"-DCUT" if cut else ""} '
-                        f'"${{@/#-DVERSION=*/-DVERSION={version}}}"\n')
-    compiler.chmod(compiler.stat().st_mode | stat.S_IXUSR)
-    out = place / f"tonmira-{version}-setup.exe"
-    command = [PROJECT / "packaging" / "make_setup.sh", architecture(), folder, out]
-    subprocess.run(command + ([sign] if sign else []), check=True, timeout=120,
-                   stdout=subprocess.DEVNULL,
-                   env={**os.environ, "PATH": f"{place}:{os.environ['PATH']}",
-                        "SOURCE_DATE_EPOCH": "1767225600"})
-    return out
 
 
 def contents(folder: Path) -> dict[str, str]:
@@ -153,8 +119,8 @@ class Desktop:
 
     @contextmanager
     def users_classes_shown(self) -> Iterator[None]:
-        """While it lasts, the user's file types are among those of the machine: Windows shows the two
-        as one, this Wine only the latter."""
+        """While it lasts, the user's file types are among those of the machine: Windows shows the
+        two as one, this Wine only the latter."""
         export = self.rig.new_folder("classes") / "classes.reg"
         path = self.rig.windows_path(export)
         keys = [TYPE_KEY, ENDING_KEY]
@@ -266,43 +232,3 @@ class Desktop:
             return not self.processes()
 
         wait_for(all_ended, "the end of the program")
-
-
-def old_copy(rig: Rig) -> Path:
-    """The folder of an older version: a file that the new one has not, and not one that it has."""
-    def change(folder: Path) -> None:
-        (folder / "old").mkdir()
-        (folder / "old" / "gone.txt").write_text("only here\r\n")
-        (folder / "samples" / "siren.tnf").unlink()
-        with open(folder / "tonmira.exe", "ab") as program:
-            program.write(OLD_VERSION.encode())  # no other program, but other bytes
-
-    return changed_copy(rig, change)
-
-
-class Setups:
-    """Installers of the program and of an older one, made when they are asked for."""
-
-    def __init__(self, rig: Rig):
-        self.rig = rig
-        self.folder = PROGRAM.parent
-
-    @cached_property
-    def new(self) -> Path:
-        return make_setup(self.rig, self.folder)
-
-    @cached_property
-    def old_folder(self) -> Path:
-        return old_copy(self.rig)
-
-    @cached_property
-    def old(self) -> Path:
-        return make_setup(self.rig, self.old_folder, OLD_VERSION)
-
-
-def changed_copy(rig: Rig, change: Callable[[Path], None]) -> Path:
-    """A copy of the program's folder with something changed in it."""
-    folder = rig.new_folder("portable") / "Tonmira"
-    shutil.copytree(PROGRAM.parent, folder)
-    change(folder)
-    return folder
