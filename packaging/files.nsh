@@ -122,7 +122,12 @@ Var answer
   FunctionEnd
 
   Function ${UN}DeleteListed
+    ClearErrors
     Delete "$root\$file"
+    ${If} ${Errors}
+    ${AndIf} $file != "uninstall.exe" ; runs, and is deleted later
+      StrCpy $answer $file
+    ${EndIf}
     ${GetParent} $file $R8
     ${If} $R8 != ""
       RMDir "$root\$R8"
@@ -130,12 +135,16 @@ Var answer
     ${Step}
   FunctionEnd
 
-  ; Deletes what the list in $root names, the list, and the folder if nothing else is in it.
+  ; Deletes what the list in $root names, the list, and the folder if nothing else is in it. The list
+  ; stays with what cannot be deleted now: the next installation tries again.
   Function ${UN}DeleteRoot
+    StrCpy $answer ""
     StrCpy $list "$root\uninstall.lst"
     GetFunctionAddress $action ${UN}DeleteListed
     Call ${UN}EachListed
-    Delete "$list"
+    ${If} $answer == ""
+      Delete "$list"
+    ${EndIf}
     RMDir "$root"
   FunctionEnd
 
@@ -168,11 +177,13 @@ Var answer
     ${Do}
       SetFileAttributes "$INSTDIR\$file" NORMAL
       System::Call 'kernel32::CopyFileW(w "$stage\$file", w "$INSTDIR\update.tmp", i 0) i.R9'
-      ${Flush} "$INSTDIR\update.tmp"
-      ${MoveOver} "$INSTDIR\update.tmp" "$INSTDIR\$file"
-      ${IfNot} ${Errors}
-        ${Step}
-        Return
+      ${If} $R9 <> 0
+        ${Flush} "$INSTDIR\update.tmp"
+        ${MoveOver} "$INSTDIR\update.tmp" "$INSTDIR\$file"
+        ${IfNot} ${Errors}
+          ${Step}
+          Return
+        ${EndIf}
       ${EndIf}
       Sleep 200
       IntOp $R7 $R7 + 1
@@ -195,6 +206,10 @@ Var answer
     FileClose $R6
     ${Flush} "$INSTDIR\update.tmp"
     ${MoveOver} "$INSTDIR\update.tmp" "$INSTDIR\uninstall.lst"
+    ${If} ${Errors}
+      Call DropStage
+      ${Fail} ${FAILED} "$(CannotWrite)"
+    ${EndIf}
     ${Step}
   FunctionEnd
 

@@ -8,6 +8,9 @@ readonly rigs=${TONMIRA_RIGS:-2}
 # These keep a processor busy for a minute, at the priority of a rig: nobody should listen beside them.
 readonly busy=(tests/real/test_random_user.py tests/real/test_samples.py
   tests/real/test_surroundings.py)
+# These compile installers, and listen to nothing.
+readonly installer=(tests/real/test_setup.py tests/real/test_setup_by_hand.py
+  tests/real/test_setup_cut.py)
 readonly no_tests_chosen=5
 
 options=(-q -p no:cacheprovider --durations=5 --dist loadfile)
@@ -34,6 +37,7 @@ tests() {
   fi
 }
 
-tests -n "$rigs" "${busy[@]/#/--ignore=}" tests/rig tests/real "$@"
+tests -n "$rigs" "${busy[@]/#/--ignore=}" "${installer[@]/#/--ignore=}" tests/rig tests/real "$@"
 tests -n "${#busy[@]}" "${busy[@]}" "$@"
+tests -n "$rigs" "${installer[@]}" "$@"
 ((chosen == 1 && failed == 0))
