@@ -45,15 +45,6 @@ Var answer
 !macroend
 !define MoveOver '!insertmacro MoveOver'
 
-; Takes the "\" off the end of a folder's path, so that paths can be compared and put together.
-!macro Trim PATH
-  StrCpy $0 ${PATH} 1 -1
-  ${If} $0 == "\"
-    StrCpy ${PATH} ${PATH} -1
-  ${EndIf}
-!macroend
-!define Trim '!insertmacro Trim'
-
 ; Ends with a code and, where somebody looks, with a message.
 !macro Fail CODE TEXT
   SetErrorLevel ${CODE}

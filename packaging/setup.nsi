@@ -132,12 +132,11 @@ FunctionEnd
 Section
   AddSize ${SIZE_KB}
   AddSize ${SIZE_KB} ; everything is there twice for a moment
-  ${Trim} $INSTDIR
-  ${Trim} $moved
-  ${If} $moved == $INSTDIR
-    StrCpy $moved ""
-  ${EndIf}
   Call UnpackStage
+  ${GetFileName} $stage $0
+  ${If} ${FileExists} "$moved\$0\uninstall.lst"
+    StrCpy $moved "" ; the same folder, under whatever name
+  ${EndIf}
   Call CloseProgram
   Call ListOldAndNew
   ReadRegStr $0 HKCU "${APPS_KEY}" "UninstallString"
@@ -205,7 +204,6 @@ Function un.onInit
 FunctionEnd
 
 Section "un.Tonmira"
-  ${Trim} $INSTDIR
   SetOutPath "$TEMP"
   Call un.CloseProgram
   Delete "$SMPROGRAMS\Tonmira.lnk"

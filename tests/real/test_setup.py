@@ -114,6 +114,14 @@ def test_a_folder_of_the_users_choice_keeps_what_the_user_put_there(
     assert [path.name for path in folder.rglob("*")] == ["diary.txt"]
 
 
+def test_another_name_of_the_same_folder_is_no_other_folder(
+        desktop: Desktop, setups: Setups, rig: Rig) -> None:
+    assert desktop.run(setups.old) == 0
+    for name in (rig.windows_path(desktop.folder), desktop.windows_path(desktop.folder) + "\\"):
+        assert desktop.run(setups.new, "/S /D=" + name) == 0
+        is_installed(desktop, PROGRAM.parent)
+
+
 def test_another_programs_file_type_stays_its_own(desktop: Desktop, setups: Setups) -> None:
     desktop.store(ENDING_KEY, "", "Other.Tones")
     desktop.store(r"HKCU\Software\Classes\Other.Tones", "", "Other tones")
