@@ -34,6 +34,7 @@ Unicode true
   Target x86-unicode
 !endif
 SetCompressor /SOLID lzma
+SetDateSave off ; of a picture it would be the time of the checkout
 RequestExecutionLevel user
 ManifestDPIAware true
 ManifestSupportedOS all
@@ -175,17 +176,17 @@ Function UnpackStage
     ${Fail} ${FAILED} "$(CannotWrite)"
   ${EndIf}
   SetOutPath "$stage"
-  SetDateSave off
   File "/oname=uninstall.lst" "${LIST}"
   ${Flush} "$stage\uninstall.lst"
   ${Step}
   File "tnf.ico"
   ${Flush} "$stage\tnf.ico"
-  SetDateSave on
   WriteUninstaller "$stage\uninstall.exe"
   ${Flush} "$stage\uninstall.exe"
   !insertmacro EachFolder MakeFolder
+  SetDateSave on
   !insertmacro EachFile Unpack
+  SetDateSave off
   ; No folder is the current one while it is renamed or deleted.
   SetOutPath "$INSTDIR"
 FunctionEnd
