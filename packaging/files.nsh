@@ -119,10 +119,14 @@ Var answer
     ${AndIf} $file != "uninstall.exe" ; runs, and is deleted later
       StrCpy $answer $file
     ${EndIf}
-    ${GetParent} $file $R8
-    ${If} $R8 != ""
+    StrCpy $R8 $file
+    ${Do} ; the folders that it was in, from the inside
+      ${GetParent} $R8 $R8
+      ${If} $R8 == ""
+        ${ExitDo}
+      ${EndIf}
       RMDir "$root\$R8"
-    ${EndIf}
+    ${Loop}
     ${Step}
   FunctionEnd
 

@@ -43,9 +43,6 @@ BOOL CALLBACK PrintWindow(HWND window, LPARAM) {
 BOOL CALLBACK PrintControl(HWND window, LPARAM) {
   wchar_t caption[1024] = {};
   InternalGetWindowText(window, caption, 1024);
-  for (wchar_t& letter : caption) {
-    if (letter == L'\r' || letter == L'\n') letter = L' ';  // an answer is one line
-  }
   std::cout << Number(window) << '\t' << GetDlgCtrlID(window) << '\t' << ClassOf(window) << '\t'
             << IsWindowEnabled(window) << '\t' << IsWindowVisible(window) << '\t' << PlaceOf(window)
             << '\t' << Line(caption) << '\n';
