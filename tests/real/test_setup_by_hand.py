@@ -68,9 +68,7 @@ class Hands:
 
         def find() -> Window | None:
             for window in self.driver.windows():
-                if window.visible and window.kind == "#32770" and any(
-                        text in control.text and control.visible
-                        for control in self.driver.controls(window.handle)):
+                if window.visible and window.kind == "#32770" and self.says(window.handle, text):
                     return Window(self.driver, window.handle, window.title)
             return None
 
@@ -80,6 +78,13 @@ class Hands:
         if picture:
             self.user.screenshot(window, SCREENS / f"setup-{what}-{self.language}.png")
         return window
+
+    def says(self, window: str, text: str) -> bool:
+        try:
+            return any(text in control.text and control.visible
+                       for control in self.driver.controls(window))
+        except RuntimeError:
+            return False  # it went while it was read
 
     def type(self, *keys: str) -> None:
         self.user.type_keys(*keys)

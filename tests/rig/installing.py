@@ -228,7 +228,8 @@ class Desktop:
         """A window that comes while another goes is closed, too."""
         def all_ended() -> bool:
             for window in self.main_windows():
-                window.close()
+                with contextlib.suppress(RuntimeError):  # gone by now
+                    window.close()
             return not self.processes()
 
         wait_for(all_ended, "the end of the program")
