@@ -2,8 +2,10 @@
 
 What is heard wrong in a whole recording is wrong. Where the recording lost something, its test's
 result does not count, good or bad. Where the machine stalled, a failure does not count; what was
-heard right nevertheless is right, since a stall adds nothing to a recording. Such a test is taken
-again. Hooks for pytest; a recording test is one with a fixture "recorder".
+heard right nevertheless is right, since a stall adds nothing to a recording. Where the sound server
+ended, it is started again, and nothing counts that happened without it. Such a test is taken again.
+Hooks for pytest; a recording test is one with a fixture "recorder", and the sound server is that of
+the fixture "rig".
 """
 
 from _pytest.runner import runtestprotocol
@@ -12,28 +14,50 @@ from collections.abc import Iterator
 
 import pytest
 
+from rig.rig import Rig
 from rig.sound import Flaw, Recorder
 
 TAKES = 5
 RETAKEN = "retaken"
 
 
+RIG: pytest.StashKey[Rig] = pytest.StashKey()
+RECORDER: pytest.StashKey[Recorder] = pytest.StashKey()
+
+
 def recorder_of(item: pytest.Item) -> Recorder | None:
     return getattr(item, "funcargs", {}).get("recorder")
 
 
+def start_sound_again(session: pytest.Session) -> None:
+    """Where the session's sound server has ended."""
+    rig, recorder = session.stash.get(RIG, None), session.stash.get(RECORDER, None)
+    if rig and rig.silenced():
+        rig.start_sound_again()
+        if recorder:
+            recorder.begin_again()
+
+
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_setup(item: pytest.Item) -> Iterator[None]:
+    start_sound_again(item.session)
     yield
-    recorder = recorder_of(item)
+    recorder, rig = recorder_of(item), getattr(item, "funcargs", {}).get("rig")
+    if rig:
+        item.session.stash[RIG] = rig
+    if recorder:
+        item.session.stash[RECORDER] = recorder
     item.first_frame = recorder.frames() if recorder else 0
 
 
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_call(item: pytest.Item) -> Iterator[None]:
     yield
-    recorder = recorder_of(item)
-    item.flaws = recorder.flaws(item.first_frame) if recorder else []
+    recorder, rig = recorder_of(item), item.session.stash.get(RIG, None)
+    if rig and (why := rig.silenced()):
+        item.flaws = [Flaw(0, why, lost=True)]
+    else:
+        item.flaws = recorder.flaws(item.first_frame) if recorder else []
 
 
 def told(flaws: list[Flaw]) -> str:

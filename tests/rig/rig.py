@@ -9,7 +9,7 @@ from pathlib import Path
 from rig.display import start_display
 from rig.processes import all_processes
 from rig.session import Session
-from rig.sound_card import start_sound_card
+from rig.sound_card import start_sound_card, why_ended
 from rig.wine import start_wine
 
 
@@ -23,7 +23,7 @@ class Rig(Session):
         self.display_number = ""
         try:
             self.display_number, self.window_manager = start_display(self)
-            start_sound_card(self)
+            self._sound_server = start_sound_card(self)
             self.prefix = start_wine(self)
         except BaseException:
             self.close()
@@ -34,6 +34,13 @@ class Rig(Session):
 
     def __exit__(self, *_: object) -> None:
         self.close()
+
+    def silenced(self) -> str:
+        """Why nothing can be heard any more: the sound server ended; nothing while it runs."""
+        return why_ended(self, self._sound_server)
+
+    def start_sound_again(self) -> None:
+        self._sound_server = start_sound_card(self)
 
     def windows_path(self, path: Path) -> str:
         return "Z:" + str(path).replace("/", "\\")

@@ -38,11 +38,15 @@ class Recorder:
 
     def __init__(self, rig: Session):
         self.watch = Watch(rig)
-        self._process = start_recording(rig)
+        self._rig = rig
+        self._lock = threading.Lock()
+        self._begin()
+
+    def _begin(self) -> None:
+        self._process = start_recording(self._rig)
         self._bytes = bytearray()
         self._first_moment = float("inf")
         self._excused: list[tuple[int, int]] = []
-        self._lock = threading.Lock()
         self._thread = threading.Thread(target=self._read, daemon=True)
         self._thread.start()
         self._wait_for_pilot()
@@ -53,6 +57,11 @@ class Recorder:
         self._thread.join(timeout=10)
         if self._process.stdout:
             self._process.stdout.close()
+
+    def begin_again(self) -> None:
+        """Forgets what was recorded: for a sound card that was started again."""
+        self.stop()
+        self._begin()
 
     def frames(self) -> int:
         with self._lock:

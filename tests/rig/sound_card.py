@@ -33,8 +33,9 @@ RAW = ["--raw", "--format=s16le", f"--rate={RATE}"]
 
 
 def start_sound_card(session: Session) -> subprocess.Popen:
-    """Returns the sound server."""
+    """Returns the sound server. Where one has ended, this is its successor."""
     socket = session.folder / "runtime" / "sound"
+    socket.unlink(missing_ok=True)
     session.env["PULSE_RUNTIME_PATH"] = str(session.folder / "runtime" / "pulse")
     session.env["PULSE_SERVER"] = f"unix:{socket}"
     script = session.folder / "sound.pa"
@@ -44,16 +45,30 @@ def start_sound_card(session: Session) -> subprocess.Popen:
     # Ahead of everything as it is, it would be ended after 200 ms without a pause.
     settings = session.folder / "daemon.conf"
     settings.write_text("rlimit-rttime = -1\n")
-    server = session.start(
-        "pulseaudio", "-n", "--file", str(script), "--daemonize=no", "--system=no",
-        "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no", "--high-priority=no",
-        "--disallow-exit", "--log-level=error", stderr=subprocess.DEVNULL, first_of_all=True,
-        env={**session.env, "PULSE_CONFIG": str(settings)})
+    with open(server_log(session), "ab") as log:
+        server = session.start(
+            "pulseaudio", "-n", "--file", str(script), "--daemonize=no", "--system=no",
+            "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no", "--high-priority=no",
+            "--disallow-exit", "--log-level=error", stderr=log, first_of_all=True,
+            env={**session.env, "PULSE_CONFIG": str(settings)})
     wait_for(socket.exists, "the sound server")
     wait_for(lambda: "sink_name=mic" in modules_of(session), "the sound devices")
     session.put_first(server)
     start_pilot(session)
     return server
+
+
+def server_log(session: Session) -> Path:
+    return session.folder / "sound.log"
+
+
+def why_ended(session: Session, server: subprocess.Popen) -> str:
+    """Nothing while the sound server runs."""
+    code = server.poll()
+    if code is None:
+        return ""
+    said = server_log(session).read_text(errors="replace").strip().splitlines()
+    return f"the sound server ended with {code}" + (f", {said[-1]!r}" if said else "")
 
 
 def modules_of(session: Session) -> str:

@@ -13,7 +13,7 @@ import pytest
 from rig.measuring import RATE, loud_stretches
 from rig.session import Session
 from rig.sound import Flaw, Recorder
-from rig.sound_card import RAW, start_sound_card
+from rig.sound_card import RAW, start_sound_card, why_ended
 
 PAUSE_S = 0.3
 # The machine may stand still by itself while a test looks for something else.
@@ -24,8 +24,18 @@ class Bench:
     """A sound card that plays a tone, and a recorder."""
 
     def __init__(self, session: Session):
+        self._session = session
         self.server = start_sound_card(session)
         self.recorder = Recorder(session)
+        self._play()
+
+    def start_again(self) -> None:
+        self.server = start_sound_card(self._session)
+        self.recorder.begin_again()
+        self._play()
+
+    def _play(self) -> None:
+        session = self._session
         tone = session.folder / "tone"
         samples = 30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(60 * RATE))
         tone.write_bytes(samples.astype("<i2").tobytes())
@@ -93,3 +103,21 @@ def test_a_pause_of_what_plays_is_a_hole_and_no_flaw(bench: Bench) -> None:
     # What the machine adds on a busy day is shorter.
     assert any(holed and not any(flaw.lost or late_by_ms(flaw) > 500 * PAUSE_S for flaw in flaws)
                for flaws, holed in takes), takes
+
+
+def test_after_the_end_of_the_sound_server_another_one_is_heard() -> None:
+    session = Session()
+    try:
+        bench = Bench(session)
+        assert why_ended(session, bench.server) == ""
+        bench.server.kill()
+        bench.server.wait(timeout=10)
+        assert why_ended(session, bench.server).startswith("the sound server ended with -9")
+        bench.start_again()
+        assert why_ended(session, bench.server) == ""
+        first = bench.recorder.frames()
+        bench.recorder.record(1)
+        assert np.abs(bench.recorder.samples(first)).max() > 20000
+        assert not any(flaw.lost for flaw in bench.recorder.flaws(first))
+    finally:
+        session.close()

@@ -33,6 +33,27 @@ class Recorder:
         return TAKES.pop(0) if len(TAKES) > 1 else TAKES[0]
 
 
+    def begin_again(self):
+        Recorder.at = 0
+
+
+class Rig:
+    ended = ""
+    starts = 1
+
+    def silenced(self):
+        return Rig.ended
+
+    def start_sound_again(self):
+        Rig.ended = ""
+        Rig.starts += 1
+
+
+@pytest.fixture(scope="session")
+def rig():
+    return Rig()
+
+
 @pytest.fixture(scope="session")
 def recorder():
     return Recorder()
@@ -96,6 +117,39 @@ def test_a_test_that_passes_with_a_recording_that_lost_something_is_taken_again_
     assert outcomes == {"failed": 1}
     assert "heard wrong" in printed
     assert "1 taken again" in printed
+
+
+ENDING = """
+    times = []
+    def test_first({fixtures}):
+        times.append(1)
+        if len(times) == 1:
+            rig.__class__.ended = "the sound server ended with -6"
+            {result}
+        assert rig.starts == 2
+    def test_later(rig):
+        assert len(times) == 2
+        assert rig.starts == 2
+"""
+
+
+@pytest.mark.parametrize("fixtures", ["rig", "rig, recorder"])
+@pytest.mark.parametrize("result", ["assert False", "return"])
+def test_where_the_sound_server_ended_it_is_started_again_and_the_test_is_taken_again(
+        pytester: pytest.Pytester, fixtures: str, result: str) -> None:
+    outcomes, printed = run(pytester, "[[]]", ENDING.format(fixtures=fixtures, result=result))
+    assert outcomes == {"passed": 2}
+    assert "1 taken again" in printed
+    assert "test_first: the sound server ended with -6 after 0.00 s" in printed
+
+
+def test_a_test_that_ends_the_sound_server_each_time_fails(pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[]]", """
+        def test_always(rig):
+            rig.__class__.ended = "the sound server ended with 0"
+    """)
+    assert outcomes == {"failed": 1}
+    assert f"no whole recording in {TAKES} takes" in printed
 
 
 def test_what_is_heard_right_though_the_machine_stalled_is_right(
