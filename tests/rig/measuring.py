@@ -46,8 +46,8 @@ def short_pitch(samples: np.ndarray) -> float:
     return RATE / np.polyfit(np.arange(len(moments)), moments, 1)[0]
 
 
-def last_loud_sample(samples: np.ndarray) -> int | None:
-    loud = np.flatnonzero(np.abs(samples) > LOUD)
+def last_loud_sample(samples: np.ndarray, above: int = LOUD) -> int | None:
+    loud = np.flatnonzero(np.abs(samples) > above)
     return int(loud[-1]) if len(loud) else None
 
 

@@ -8,7 +8,7 @@ from pathlib import Path
 
 import numpy as np
 
-from rig.measuring import LOUD, RATE, last_loud_sample
+from rig.measuring import RATE, last_loud_sample
 from rig.pilot import breaks
 from rig.session import Session
 from rig.sound_card import start_recording
@@ -18,6 +18,9 @@ from rig.watch import Watch
 # The third channel is the pilot.
 CHANNELS = 3
 FRAME_BYTES = 2 * CHANNELS
+# Nothing louder is silence. It is far less than a tone, since two streams of one tone, as the sound
+# mode of DirectSound plays, may all but cancel each other: 440 Hz leave 43 of 30000.
+SILENT = 20
 
 
 @dataclass(frozen=True)
@@ -106,17 +109,17 @@ class Recorder:
 
     def wait_for_tone(self, seconds: float = 15) -> None:
         """Returns once a tone is heard."""
-        self._wait(lambda recent: np.abs(recent).max(initial=0) > LOUD, seconds, "a tone")
+        self._wait(lambda recent: np.abs(recent).max(initial=0) > SILENT, seconds, "a tone")
 
     def wait_for_silence(self, seconds: float = 15) -> None:
         """Returns once nothing was heard for half a second."""
         self._wait(
-            lambda recent: len(recent) >= RATE // 2 and np.abs(recent).max(initial=0) <= LOUD,
+            lambda recent: len(recent) >= RATE // 2 and np.abs(recent).max(initial=0) <= SILENT,
             seconds, "silence")
 
     def moment_of_last_sound(self, first_frame: int) -> float | None:
-        """When the last loud sample since `first_frame` arrived (time.monotonic)."""
-        last = last_loud_sample(self.samples(first_frame))
+        """When the last sample with a sound since `first_frame` arrived (time.monotonic)."""
+        last = last_loud_sample(self.samples(first_frame), SILENT)
         if last is None:
             return None
         return self.moment_of(first_frame + last)

@@ -23,7 +23,8 @@ TRIES = 5
 class Bench:
     """A sound card that plays a tone, and a recorder."""
 
-    def __init__(self, session: Session):
+    def __init__(self, session: Session, peak: int = 30000):
+        self._peak = peak
         self._session = session
         self.server = start_sound_card(session)
         self.recorder = Recorder(session)
@@ -37,7 +38,7 @@ class Bench:
     def _play(self) -> None:
         session = self._session
         tone = session.folder / "tone"
-        samples = 30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(60 * RATE))
+        samples = self._peak * np.sin(2 * np.pi * 1000 / RATE * np.arange(60 * RATE))
         tone.write_bytes(samples.astype("<i2").tobytes())
         self.player = session.start("pacat", "--playback", *RAW, "--channels=1", "--device=out",
                                     "--latency-msec=100", str(tone), stderr=subprocess.DEVNULL)
@@ -103,6 +104,22 @@ def test_a_pause_of_what_plays_is_a_hole_and_no_flaw(bench: Bench) -> None:
     # What the machine adds on a busy day is shorter.
     assert any(holed and not any(flaw.lost or late_by_ms(flaw) > 500 * PAUSE_S for flaw in flaws)
                for flaws, holed in takes), takes
+
+
+def test_what_two_streams_that_all_but_cancel_each_other_leave_is_a_tone() -> None:
+    session = Session()
+    try:
+        bench = Bench(session, peak=43)
+        first = bench.recorder.frames()
+        with pytest.raises(TimeoutError):
+            bench.recorder.wait_for_silence(1)
+        waited = time.monotonic()
+        bench.player.terminate()
+        bench.recorder.wait_for_silence()
+        last = bench.recorder.moment_of_last_sound(first)
+        assert last == pytest.approx(waited, abs=0.5)
+    finally:
+        session.close()
 
 
 def test_after_the_end_of_the_sound_server_another_one_is_heard() -> None:
