@@ -11,6 +11,9 @@ readonly busy=(tests/real/test_random_user.py tests/real/test_samples.py
 # These compile installers, and listen to nothing.
 readonly installer=(tests/real/test_setup.py tests/real/test_setup_by_hand.py
   tests/real/test_setup_cut.py)
+# The longest begin, so that the rigs end together.
+readonly longest=(tests/real/test_hearing.py tests/real/test_tones.py tests/real/test_player.py
+  tests/real/test_display.py)
 readonly no_tests_chosen=5
 
 options=(-q -p no:cacheprovider --durations=5 --dist loadfile)
@@ -37,7 +40,8 @@ tests() {
   fi
 }
 
-tests -n "$rigs" "${busy[@]/#/--ignore=}" "${installer[@]/#/--ignore=}" tests/rig tests/real "$@"
+tests -n "$rigs" "${busy[@]/#/--ignore=}" "${installer[@]/#/--ignore=}" "${longest[@]}" \
+  tests/rig tests/real "$@"
 tests -n "${#busy[@]}" "${busy[@]}" "$@"
 tests -n "$rigs" "${installer[@]}" "$@"
 ((chosen == 1 && failed == 0))
