@@ -74,9 +74,7 @@ def test_the_result_in_dutch_fits_at_any_resolution(
     assert text_of(window, RESULT) == "Hoogste toon gehoord: 16200 Hz"
     user.screenshot(window, SCREENS / "hearing-result-nl.png")
     for dpi in (120, 144, 192, 96):
-        size = round(484 * dpi / 96), round(430 * dpi / 96)
-        driver.ask("resolution", str(program.process), window.handle, str(dpi), "40", "30",
-                   *map(str, size))
+        move_to(user, program, window, dpi)
         assert_all_is_in_view(driver, window, dpi)
 
 
@@ -222,6 +220,15 @@ def wide_driver(request: pytest.FixtureRequest, rig: Rig) -> Iterator[tuple[Driv
     set_dpi(rig, 96)
 
 
+def move_to(user: User, program: Tonmira, window: Window, dpi: int) -> None:
+    """To a screen of this resolution."""
+    # A late answer of the window manager to what was before would undo what comes now.
+    wait_for(lambda: user.has_its_size(window), "a window at rest")
+    size = round(484 * dpi / 96), round(430 * dpi / 96)
+    program.driver.ask("resolution", str(program.process), window.handle, str(dpi), "40", "30",
+                       *map(str, size))
+
+
 def assert_all_is_in_view(driver: Driver, window: Window, dpi: int) -> None:
     assert cut_off(driver, window, dpi) == [], dpi
     place = window.client()
@@ -255,9 +262,7 @@ def test_no_page_is_cut_off_at_any_resolution(
 
     def look(name: str) -> None:
         for dpi in (120, 144, 192, 96):
-            size = round(484 * dpi / 96), round(430 * dpi / 96)
-            driver.ask("resolution", str(program.process), window.handle, str(dpi), "40", "30",
-                       *map(str, size))
+            move_to(user, program, window, dpi)
             assert_all_is_in_view(driver, window, dpi)
         user.screenshot(window, SCREENS / f"hearing-{name}-{language}.png")
 
