@@ -22,7 +22,8 @@ from rig.program import GOOD_SETTINGS, Folders, Tonmira  # noqa: E402
 from rig.resolution import set_dpi, use_wide_fonts  # noqa: E402
 from rig.rig import Rig, what_is_left_of  # noqa: E402
 from rig.retakes import (  # noqa: E402, F401
-    pytest_runtest_call, pytest_runtest_protocol, pytest_runtest_setup, pytest_terminal_summary)
+    RIG, pytest_runtest_call, pytest_runtest_protocol, pytest_runtest_setup,
+    pytest_terminal_summary)
 from rig.screen import Screen  # noqa: E402
 from rig.served_site import ServedSite, served_site  # noqa: E402
 from rig.setups import Setups  # noqa: E402
@@ -200,13 +201,14 @@ def pytest_runtest_makereport(item: pytest.Item) -> Iterator[None]:
     outcome = yield
     report = outcome.get_result()
     fixtures = getattr(item, "funcargs", {})
-    rig, driver, recorder = (fixtures.get(name) for name in ("rig", "driver", "recorder"))
-    if not (report.when == "call" and report.failed and rig):
+    driver, recorder = fixtures.get("driver"), fixtures.get("recorder")
+    rig = item.session.stash.get(RIG, None)  # also of a test whose first fixture failed
+    if not (report.failed and rig):
         return
     name = re.sub("[^A-Za-z0-9]+", "-", item.name)[:80]
     FAILURES.mkdir(parents=True, exist_ok=True)
     lines = [f"screen: {FAILURES / name}.png"]
-    if recorder:
+    if recorder and report.when == "call":
         save_wav(FAILURES / f"{name}.wav", recorder.all_channels(item.first_frame))
         lines.append(f"recording: {FAILURES / name}.wav (its third channel is the pilot)")
     try:
