@@ -53,11 +53,8 @@ def pytest_runtest_setup(item: pytest.Item) -> Iterator[None]:
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_call(item: pytest.Item) -> Iterator[None]:
     yield
-    recorder, rig = recorder_of(item), item.session.stash.get(RIG, None)
-    if rig and (why := rig.silenced()):
-        item.flaws = [Flaw(0, why, lost=True)]
-    else:
-        item.flaws = recorder.flaws(item.first_frame) if recorder else []
+    recorder = recorder_of(item)
+    item.flaws = recorder.flaws(item.first_frame) if recorder else []
 
 
 def told(flaws: list[Flaw]) -> str:
@@ -77,6 +74,9 @@ def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> 
     while True:
         item.flaws = []
         reports = runtestprotocol(item, log=False, nextitem=nextitem)
+        rig = item.session.stash.get(RIG, None)
+        if rig and (why := rig.silenced()):
+            item.flaws = [Flaw(0, why, lost=True)]
         passed = all(report.passed for report in reports)
         if not tells_nothing(item.flaws, passed) or len(retakes) == TAKES - 1:
             break

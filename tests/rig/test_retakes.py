@@ -143,6 +143,26 @@ def test_where_the_sound_server_ended_it_is_started_again_and_the_test_is_taken_
     assert "test_first: the sound server ended with -6 after 0.00 s" in printed
 
 
+def test_what_a_fixture_could_not_do_without_the_sound_server_is_tried_again(
+        pytester: pytest.Pytester) -> None:
+    outcomes, printed = run(pytester, "[[]]", """
+        import pytest
+        times = []
+        @pytest.fixture
+        def started(rig):
+            times.append(1)
+            if len(times) == 2:
+                rig.__class__.ended = "the sound server ended with -6"
+            assert not rig.silenced()
+        def test_first(started):
+            pass
+        def test_second(started, rig):
+            assert (len(times), rig.starts) == (3, 2)
+    """)
+    assert outcomes == {"passed": 2}
+    assert "test_second: the sound server ended with -6" in printed
+
+
 def test_a_test_that_ends_the_sound_server_each_time_fails(pytester: pytest.Pytester) -> None:
     outcomes, printed = run(pytester, "[[]]", """
         def test_always(rig):
