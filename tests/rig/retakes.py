@@ -38,6 +38,13 @@ def start_sound_again(session: pytest.Session) -> None:
             recorder.begin_again()
 
 
+def silence(item: pytest.Item) -> list[Flaw]:
+    """What is wrong with everything where the session's sound server has ended."""
+    rig = item.session.stash.get(RIG, None)
+    why = rig.silenced() if rig else ""
+    return [Flaw(0, why, lost=True)] if why else []
+
+
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_setup(item: pytest.Item) -> Iterator[None]:
     start_sound_again(item.session)
@@ -48,13 +55,14 @@ def pytest_runtest_setup(item: pytest.Item) -> Iterator[None]:
     if recorder:
         item.session.stash[RECORDER] = recorder
     item.first_frame = recorder.frames() if recorder else 0
+    item.flaws = silence(item)
 
 
 @pytest.hookimpl(hookwrapper=True)
 def pytest_runtest_call(item: pytest.Item) -> Iterator[None]:
     yield
     recorder = recorder_of(item)
-    item.flaws = recorder.flaws(item.first_frame) if recorder else []
+    item.flaws = silence(item) or (recorder.flaws(item.first_frame) if recorder else [])
 
 
 def told(flaws: list[Flaw]) -> str:
@@ -74,9 +82,6 @@ def pytest_runtest_protocol(item: pytest.Item, nextitem: pytest.Item | None) -> 
     while True:
         item.flaws = []
         reports = runtestprotocol(item, log=False, nextitem=nextitem)
-        rig = item.session.stash.get(RIG, None)
-        if rig and (why := rig.silenced()):
-            item.flaws = [Flaw(0, why, lost=True)]
         passed = all(report.passed for report in reports)
         if not tells_nothing(item.flaws, passed) or len(retakes) == TAKES - 1:
             break

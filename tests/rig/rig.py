@@ -36,8 +36,9 @@ class Rig(Session):
         self.close()
 
     def silenced(self) -> str:
-        """Why nothing can be heard any more: the sound server ended; nothing while it runs."""
-        return why_ended(self, self._sound_server)
+        """Why nothing can be heard any more: the sound server ended; nothing while it runs, and of
+        a rig that is closed."""
+        return "" if self.closed else why_ended(self, self._sound_server)
 
     def start_sound_again(self) -> None:
         self._sound_server = start_sound_card(self)

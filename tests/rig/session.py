@@ -55,6 +55,7 @@ def allowed(prefix: list[str]) -> list[str]:
 class Session:
     def __init__(self) -> None:
         self.at_end = ExitStack()
+        self.closed = False
         self.folder = make_folder(self.at_end)
         self._ahead, self._first_of_all = allowed(AHEAD), allowed(FIRST_OF_ALL)
         self._ahead_of_those = allowed(AHEAD_OF_THOSE)
@@ -71,6 +72,7 @@ class Session:
         }
 
     def close(self) -> None:
+        self.closed = True
         self.at_end.close()
 
     def new_folder(self, name: str) -> Path:
