@@ -10,7 +10,7 @@ import time
 from collections.abc import Callable, Iterator
 from pathlib import Path
 
-from latency import moment_of_first_sound, one_round
+from latency import moment_of_first_sound, one_round, presser
 from rig.playing import start
 from rig.program import Tonmira
 from rig.rig import Rig
@@ -78,13 +78,15 @@ def plays(rig: Rig, driver: Driver, recorder: Recorder) -> Iterator[Row]:
         wait_for(lambda: window.is_checked("High pitch"), "the mode")
         played = 0
 
+        press_play, press_stop = presser(window, "Play Sound"), presser(window, "Stop Sound")
+
         def stop() -> None:
-            window.press("Stop Sound")
+            press_stop()
             program.wait_for_buttons(window, playing=False)
 
         for count in PLAYS:
             play_and_stop_often(program, window, count - played - 1)
-            begun, _ = one_round(recorder, lambda: window.press("Play Sound"), stop)
+            begun, _ = one_round(recorder, press_play, stop)
             played = count
             used = usage(driver, program)
             yield (f"After {count} plays", f"{used['handles']} handles, {used['threads']} threads, "

@@ -57,6 +57,17 @@ def one_round(recorder: Recorder, play: Callable[[], None],
     return 1000 * begun, 1000 * max(0.0, (ended or pressed) - pressed)
 
 
+def presser(window: Window, text: str) -> Callable[[], None]:
+    """What presses a button that is found now: to find it, the program is asked for every text of
+    the window, and that is not the program's delay."""
+    button = window.button(text).handle
+
+    def press() -> None:
+        window.driver.ask("press", button)
+
+    return press
+
+
 def medians(recorder: Recorder, play: Callable[[], None], stop: Callable[[], None],
             count: int = ROUNDS) -> tuple[float, float]:
     one_round(recorder, play, stop)
@@ -73,8 +84,8 @@ def of_the_bare_player(rig: Rig, driver: Driver, recorder: Recorder,
     program = Tonmira(rig, driver, folders, exe=BARE)
     try:
         window = wait_for_window(driver, "Bare player", program.process)
-        return medians(recorder, lambda: window.press("Play"), lambda: window.press("Stop"),
-                       count)
+        wait_for(lambda: len(window.controls()) == 2, "the buttons")
+        return medians(recorder, presser(window, "Play"), presser(window, "Stop"), count)
     finally:
         program.finish()
 
@@ -87,11 +98,13 @@ def of_tonmira(rig: Rig, driver: Driver, recorder: Recorder,
         window.press("Low pitch")
         wait_for(lambda: window.is_checked("Low pitch"), "the mode")
 
+        press_stop = presser(window, "Stop Sound")
+
         def stop() -> None:
-            window.press("Stop Sound")
+            press_stop()
             program.wait_for_buttons(window, playing=False)
 
-        return medians(recorder, lambda: window.press("Play Sound"), stop, count)
+        return medians(recorder, presser(window, "Play Sound"), stop, count)
     finally:
         program.finish()
 
