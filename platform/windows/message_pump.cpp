@@ -110,6 +110,7 @@ void WindowsMessagePump::Sleep(int milliseconds) {
 
 // A fine timer grain costs the whole machine power, so only the end of a long sleep has it.
 void WindowsMessagePump::SleepUntil(Moment end) {
+  open_.ShowChanges();
   const Moment time = end - Now();
   if (time <= 0ms) return;
   if (time >= kLongSleep) {
@@ -138,6 +139,7 @@ void WindowsMessagePump::Handle(MSG& message) {
 
 void WindowsMessagePump::Settle() {
   open_.ForgetLeft();
+  open_.ShowChanges();
   if (NativeWindow* const active = open_.Find(GetActiveWindow())) active->Settle();
 }
 

@@ -26,7 +26,8 @@ class WindowsMessagePump final : public MessagePump {
 
   void Handle(MSG& message);
 
-  // Between messages: the keyboard focus is kept on a control that can be used.
+  // Between messages: what has changed is shown, and the keyboard focus is kept on a control that
+  // can be used.
   void Settle();
 
   OpenWindows& open_;

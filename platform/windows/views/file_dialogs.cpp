@@ -58,6 +58,7 @@ std::string WindowsFileDialogs::Open(const OpenDialog& dialog) {
   request.Flags =
       OFN_EXPLORER | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST | OFN_NOCHANGEDIR;
   const CurrentFolderKeeper folder;
+  open_.ShowChanges();
   if (!get_open_file_name(&request)) return "";
   return Narrow(path.c_str());
 }

@@ -24,6 +24,7 @@ std::int16_t WindowsMessageBoxes::Show(const std::string& text, const std::strin
   const UINT button_flag = buttons == MessageButtons::kYesNo ? MB_YESNO : MB_OK;
   // A window that was left on the screen would stay for as long as the box, and cover it.
   open_.ForgetLeft();
+  open_.ShowChanges();
   const HWND owner = open_.MessageOwner();
   const UINT front_flag = owner == nullptr ? MB_SETFOREGROUND : 0;
   return static_cast<std::int16_t>(MessageBoxW(owner, Widen(text).c_str(), Widen(title).c_str(),

@@ -9,7 +9,6 @@
 #include "platform/windows/views/control_theme.h"
 #include "platform/windows/views/control_values.h"
 #include "platform/windows/views/picture_view.h"
-#include "platform/windows/views/tab_groups.h"
 #include "ui/spoken_name.h"
 
 namespace platform::windows {
@@ -157,8 +156,7 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
       if (!HasAccessKey(control)) ShowCaption(*index);
       break;
     case ui::Property::kEnabled:
-      EnableWindow(handles_[*index], control.Enabled());
-      UpdateTabStops(window_.Controls(), handles_);
+      enabling_changed_ = true;
       break;
     case ui::Property::kVisible:
       ShowVisible(*index);

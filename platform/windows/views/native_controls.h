@@ -5,11 +5,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/windows/views/accessible_texts.h"
 #include "platform/windows/views/appearance.h"
 #include "platform/windows/views/option_button_view.h"
+#include "platform/windows/views/tab_groups.h"
 #include "platform/windows/views/text_entry_view.h"
 #include "platform/windows/views/tool_tip.h"
 #include "platform/windows/web/web_browser_view.h"
@@ -50,7 +52,11 @@ class NativeControls {
   std::vector<std::string> KeyCaptions() const;
   void SetMarkedCaptions(const std::vector<std::string>& marked);
 
+  // Which controls can be used is shown by ShowChanges, all else at once.
   void Changed(const ui::Control& control, ui::Property property);
+  void ShowChanges() {
+    if (std::exchange(enabling_changed_, false)) ShowEnabled(window_.Controls(), handles_);
+  }
 
   // Whether any of a control is not covered by what stands before it.
   bool IsUncovered(const ui::Control& control) const;
@@ -86,6 +92,7 @@ class NativeControls {
   const Appearance& appearance_;
   AccessibleTexts& texts_;
   bool plain_ = false;
+  bool enabling_changed_ = false;
   std::vector<HWND> handles_;
   std::vector<std::unique_ptr<OptionButtonView>> option_views_;
   std::vector<std::unique_ptr<TextEntryView>> entry_views_;

@@ -1,6 +1,7 @@
 #include "platform/windows/views/native_window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/views/frame_place.h"
@@ -17,13 +18,22 @@ enum WindowEvent : UINT {
   kMenuEvent = kControlEventsEnd,  // wparam: id of the item
   kHelpEvent,
   kCloseEvent,
+  kWindowEventsEnd,
 };
+
+bool IsEvent(UINT message) {
+  return message >= kClickEvent && message < kWindowEventsEnd;
+}
 
 // Nothing that a handler throws may cross the system's frames that called this: it ends here.
 LRESULT CALLBACK WindowProcedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
   auto* const window = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (window == nullptr) return DefWindowProcW(handle, message, wparam, lparam);
-  return window->Dispatch(message, wparam, lparam);
+  const OpenWindows& open = window->open();
+  const LRESULT result = window->Dispatch(message, wparam, lparam);
+  // A loop of the system's may have handed the event on: no message pump of ours comes next.
+  if (IsEvent(message)) open.ShowChanges();
+  return result;
 }
 
 HICON ProgramIcon(HINSTANCE instance, int width_metric, int height_metric) {
@@ -81,6 +91,7 @@ NativeWindow::~NativeWindow() {
 void NativeWindow::ShowWindow(bool visible) {
   const int show = TakesFocus() ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE;
   const bool again = visible && IsWindowVisible(handle_);
+  ShowChanges();
   ::ShowWindow(handle_, visible ? show : SW_HIDE);
   if (again && TakesFocus()) SetForegroundWindow(handle_);
   if (visible) open_.ForgetLeft();
@@ -105,7 +116,12 @@ void NativeWindow::Changed(const ui::MenuItem& item, ui::Property property) {
   const auto& bar = window_.Menu();
   if (std::find(bar.begin(), bar.end(), &item) == bar.end()) return;
   if (property == ui::Property::kCaption) ShowAccessKeys();
-  DrawMenuBar(handle_);
+  menu_bar_changed_ = true;
+}
+
+void NativeWindow::ShowChanges() {
+  controls_.ShowChanges();
+  if (std::exchange(menu_bar_changed_, false)) DrawMenuBar(handle_);
 }
 
 void NativeWindow::ReadFields() {

@@ -42,8 +42,14 @@ class NativeWindow final : public ui::WindowView {
   // whether that was all. The window may be gone when it returns.
   static bool TranslateKey(const OpenWindows& open, MSG& message);
 
+  // Puts on the screen what Changed has left for later. Called when a handler waits or has ended:
+  // drawing takes as long as starting a tone, and nobody uses a control before.
+  void ShowChanges();
+
   // Called between messages while the window is the active one.
   void Settle() { focus_.Settle(handle_); }
+
+  OpenWindows& open() const { return open_; }
 
   LRESULT Dispatch(UINT message, WPARAM wparam, LPARAM lparam);
 
@@ -67,6 +73,7 @@ class NativeWindow final : public ui::WindowView {
   ControlEvents events_{controls_};
   FocusKeeper focus_{window_, controls_};
   HWND handle_ = nullptr;
+  bool menu_bar_changed_ = false;
 };
 
 }  // namespace platform::windows

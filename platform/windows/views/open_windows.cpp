@@ -32,6 +32,10 @@ void OpenWindows::ForgetLeft() {
   if (left_ != nullptr) DestroyWindow(std::exchange(left_, nullptr));
 }
 
+void OpenWindows::ShowChanges() const {
+  for (NativeWindow* const window : windows_) window->ShowChanges();
+}
+
 HWND OpenWindows::MessageOwner() const {
   const HWND active = GetActiveWindow();
   if (active != nullptr && active != left_) return active;

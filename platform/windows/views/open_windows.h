@@ -30,6 +30,9 @@ class OpenWindows {
   void Leave(HWND handle);
   void ForgetLeft();
 
+  // NativeWindow::ShowChanges of all of them.
+  void ShowChanges() const;
+
   // The window that a message box belongs to: the active one, else a visible one that can be used,
   // or null.
   HWND MessageOwner() const;

@@ -47,4 +47,14 @@ void UpdateTabStops(const std::vector<ui::Control*>& controls, const std::vector
   }
 }
 
+void ShowEnabled(const std::vector<ui::Control*>& controls, const std::vector<HWND>& handles) {
+  for (const bool enabled : {true, false}) {
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+      const bool shown = IsWindowEnabled(handles[i]) != FALSE;
+      if (controls[i]->Enabled() == enabled && shown != enabled) EnableWindow(handles[i], enabled);
+    }
+  }
+  UpdateTabStops(controls, handles);
+}
+
 }  // namespace platform::windows

@@ -19,4 +19,8 @@ bool StartsGroup(const std::vector<ui::Control*>& controls, std::size_t index);
 // `handles` are the native windows of `controls`, as far as they are made.
 void UpdateTabStops(const std::vector<ui::Control*>& controls, const std::vector<HWND>& handles);
 
+// Enables and disables the native windows as their controls are: first what can be used then, so
+// that the keyboard has where to go.
+void ShowEnabled(const std::vector<ui::Control*>& controls, const std::vector<HWND>& handles);
+
 }  // namespace platform::windows
