@@ -29,6 +29,7 @@ from rig.window import Driver, Window, wait_for_window  # noqa: E402
 
 BARE = PROJECT / "build" / "windows" / "rig" / "bare_player.exe"
 SOUND_MODES = ("256", "128", "64", "32", "16")
+HELPER_MODES = ("32", "16")  # a program is started for the tone
 ROUNDS = 9
 ENDURANCE_ROUNDS = 1000
 
@@ -76,18 +77,38 @@ def medians(recorder: Recorder, play: Callable[[], None], stop: Callable[[], Non
     return statistics.median(begun), statistics.median(ended)
 
 
-def of_the_bare_player(rig: Rig, driver: Driver, recorder: Recorder,
-                       count: int = ROUNDS) -> tuple[float, float]:
+def folders_with_a_tone(rig: Rig) -> Folders:
     folders = Folders(rig)
     wave = (30000 * np.sin(2 * np.pi * 1000 / RATE * np.arange(RATE))).astype(np.int16)
     save_wav(folders.temp / "tone.wav", np.column_stack((wave, wave)))
-    program = Tonmira(rig, driver, folders, exe=BARE)
+    return folders
+
+
+def of_the_bare_player(rig: Rig, driver: Driver, recorder: Recorder,
+                       count: int = ROUNDS) -> tuple[float, float]:
+    program = Tonmira(rig, driver, folders_with_a_tone(rig), exe=BARE)
     try:
         window = wait_for_window(driver, "Bare player", program.process)
         wait_for(lambda: len(window.controls()) == 2, "the buttons")
         return medians(recorder, presser(window, "Play"), presser(window, "Stop"), count)
     finally:
         program.finish()
+
+
+def of_a_start(rig: Rig, driver: Driver, recorder: Recorder, count: int = ROUNDS) -> float:
+    """Milliseconds from the start of the bare player to its first sound, where it plays at once:
+    what a helper program takes at least."""
+    folders = folders_with_a_tone(rig)
+    started = []
+
+    def one_start() -> float:
+        begun, _ = one_round(
+            recorder, lambda: started.append(Tonmira(rig, driver, folders, BARE, arguments="play")),
+            lambda: started.pop().finish())
+        return begun
+
+    one_start()
+    return statistics.median(one_start() for _ in range(count))
 
 
 def of_tonmira(rig: Rig, driver: Driver, recorder: Recorder,
@@ -127,8 +148,9 @@ def main() -> None:
     with Rig() as rig:
         driver, recorder = Driver(rig), Recorder(rig)
         bare = of_the_bare_player(rig, driver, recorder)
+        start_ms = of_a_start(rig, driver, recorder)
         print(f"Bare player, medians of {ROUNDS}: Play to first sound {bare[0]:.0f} ms, "
-              f"Stop to last sound {bare[1]:.0f} ms")
+              f"Stop to last sound {bare[1]:.0f} ms; its start to first sound {start_ms:.0f} ms")
         for sound_mode in SOUND_MODES:
             own = of_tonmira(rig, driver, recorder, sound_mode)
             print(f"Sound mode {sound_mode}: Play {own[0]:.0f} ms, ratio {own[0] / bare[0]:.2f}; "

@@ -1,15 +1,19 @@
 // The least that a program with a play button does: the measure of how soon a tone sounds and ends.
-// "Play" loops the file tone.wav of the temporary folder, "Stop" silences it.
+// "Play" loops the file tone.wav of the temporary folder, "Stop" silences it. With anything on the
+// command line it plays at once, as a program does that is started for a tone.
 #include <windows.h>
 
 #include <mmsystem.h>
 
 static char sound_file[MAX_PATH];
 
+static void Play(bool play) {
+  PlaySoundA(play ? sound_file : nullptr, nullptr, SND_FILENAME | SND_ASYNC | SND_LOOP);
+}
+
 static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_COMMAND) {
-    const bool play = LOWORD(wparam) == 1;
-    PlaySoundA(play ? sound_file : nullptr, nullptr, SND_FILENAME | SND_ASYNC | SND_LOOP);
+    Play(LOWORD(wparam) == 1);
     return 0;
   }
   if (message == WM_DESTROY) PostQuitMessage(0);
@@ -21,8 +25,9 @@ static void AddButton(HWND parent, const wchar_t* caption, INT_PTR id) {
                   30, parent, reinterpret_cast<HMENU>(id), nullptr, nullptr);
 }
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
   ExpandEnvironmentStringsA("%TEMP%\\tone.wav", sound_file, MAX_PATH);
+  if (*arguments != 0) Play(true);
   WNDCLASSW window_class{};
   window_class.lpfnWndProc = Procedure;
   window_class.hInstance = instance;
