@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/windows/api/handles.h"
 #include "platform/windows/api/wide_text.h"
 #include "platform/windows/views/control_layout.h"
 #include "platform/windows/views/control_shape.h"
@@ -185,14 +184,6 @@ void NativeControls::Changed(const ui::Control& control, ui::Property property) 
     case ui::Property::kChecked:
       break;
   }
-}
-
-bool NativeControls::IsUncovered(const ui::Control& control) const {
-  const auto index = IndexOf(&control);
-  if (!index || *index >= handles_.size()) return false;
-  const DeviceContext context(handles_[*index]);
-  RECT seen{};
-  return GetClipBox(context.get(), &seen) > NULLREGION;
 }
 
 void NativeControls::ReadFields() const {

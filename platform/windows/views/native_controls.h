@@ -58,9 +58,6 @@ class NativeControls {
     if (std::exchange(enabling_changed_, false)) ShowEnabled(window_.Controls(), handles_);
   }
 
-  // Whether any of a control is not covered by what stands before it.
-  bool IsUncovered(const ui::Control& control) const;
-
   // ui::WindowView::ReadFields for all of them.
   void ReadFields() const;
 

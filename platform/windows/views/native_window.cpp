@@ -98,7 +98,9 @@ void NativeWindow::ShowWindow(bool visible) {
 }
 
 bool NativeWindow::CanBeSeen(const ui::Control& control) const {
-  return IsShown() && !IsIconic(handle_) && controls_.IsUncovered(control);
+  const auto index = controls_.IndexOf(&control);
+  return index && *index < controls_.Count() && IsShown() && !IsIconic(handle_) &&
+         seen_area_.Shows(handle_, controls_.handle(*index));
 }
 
 void NativeWindow::CaptionChanged() {

@@ -13,6 +13,7 @@
 #include "platform/windows/views/native_controls.h"
 #include "platform/windows/views/native_menu.h"
 #include "platform/windows/views/open_windows.h"
+#include "platform/windows/views/seen_area.h"
 #include "ui/window.h"
 
 namespace platform::windows {
@@ -74,6 +75,7 @@ class NativeWindow final : public ui::WindowView {
   FocusKeeper focus_{window_, controls_};
   HWND handle_ = nullptr;
   bool menu_bar_changed_ = false;
+  mutable SeenArea seen_area_;
 };
 
 }  // namespace platform::windows
