@@ -11,6 +11,7 @@ from rig.playing import start
 from rig.program import TEMPORARY_WAVE, Tonmira
 from rig.rig import Rig
 from rig.sound import Recorder
+from rig.streams import streams
 from rig.waiting import wait_for
 from rig.window import Driver, User
 
@@ -59,6 +60,21 @@ def test_the_first_tone_is_as_long_as_the_later_ones(
     lengths_ms = [1000 * length for _, length in symbols(recorder, first)]
     tool.press("Stop sound")
     assert lengths_ms == pytest.approx([DASH_MS] * 4, abs=AS_LONG_MS), lengths_ms
+
+
+def test_the_output_is_awake_before_the_message_and_given_up_after_it(
+        program: Tonmira, rig: Rig, user: User, recorder: Recorder) -> None:
+    """This card is always awake, so the first tone is whole here in any case; what wakes others is
+    a stream of silence."""
+    tool = open_tool(program, user)
+    recorder.wait_for_silence()
+    first = recorder.frames()
+    wait_for(lambda: len(streams(rig)) == 1, "a stream of the tool's")
+    assert not symbols(recorder, first)
+    write(user, tool, "TT")
+    user.click_button(tool, "Play sound")
+    wait_for(lambda: len(symbols(recorder, first)) == 2, "the message", 20)
+    wait_for(lambda: not streams(rig), "the end of all streams")
 
 
 def test_stop_ends_the_message_and_leaves_no_file(program: Tonmira, user: User,
