@@ -8,34 +8,9 @@
 #include "helpers/rates.h"
 #include "helpers/tone_stream.h"
 #include "platform/windows/api/handles.h"
-#include "platform/windows/api/system_library.h"
-#include "platform/windows/api/windows_api.h"
-
-#include <mmsystem.h>
+#include "platform/windows/api/wave_out_functions.h"
 
 namespace helpers {
-
-// The functions of winmm.dll that are needed here; null where it has none.
-struct WaveOutFunctions {
-  const HMODULE library = platform::windows::LoadSystemLibrary(L"winmm.dll");
-  decltype(&waveOutOpen) open = Of<decltype(&waveOutOpen)>("waveOutOpen");
-  decltype(&waveOutPrepareHeader) prepare =
-      Of<decltype(&waveOutPrepareHeader)>("waveOutPrepareHeader");
-  decltype(&waveOutUnprepareHeader) unprepare =
-      Of<decltype(&waveOutUnprepareHeader)>("waveOutUnprepareHeader");
-  decltype(&waveOutWrite) write = Of<decltype(&waveOutWrite)>("waveOutWrite");
-  decltype(&waveOutReset) reset = Of<decltype(&waveOutReset)>("waveOutReset");
-  decltype(&waveOutClose) close = Of<decltype(&waveOutClose)>("waveOutClose");
-
-  template <typename Function>
-  Function Of(const char* name) const {
-    return platform::windows::FunctionOf<Function>(library, name);
-  }
-  bool complete() const {
-    return open != nullptr && prepare != nullptr && unprepare != nullptr && write != nullptr &&
-           reset != nullptr && close != nullptr;
-  }
-};
 
 // Owns the device, once opened, and its buffers: kBuffers of 50 ms each, so that sound begins at
 // once and a busy machine has 200 ms of grace. 16 bit stereo.
@@ -75,7 +50,7 @@ class WaveDevice {
 
   bool Prepare(std::uint32_t rate_hz);
 
-  WaveOutFunctions wave_out_;
+  platform::windows::WaveOutFunctions wave_out_;
   platform::windows::KernelHandle freed_;  // event: a buffer was played
   HWAVEOUT device_ = nullptr;
   std::array<Buffer, kBuffers> buffers_;

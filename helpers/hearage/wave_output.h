@@ -5,7 +5,7 @@
 
 #include "hearing/tone_output.h"
 #include "helpers/mixer.h"
-#include "helpers/wave_device.h"
+#include "platform/windows/api/wave_out_functions.h"
 
 namespace helpers {
 
@@ -25,7 +25,7 @@ class WaveOutput final : public hearing::ToneOutput {
   bool OpenAt(std::uint32_t rate_hz);
   void Forget();
 
-  WaveOutFunctions wave_out_;
+  platform::windows::WaveOutFunctions wave_out_;
   Mixer mixer_{COINIT_APARTMENTTHREADED};
   HWAVEOUT device_ = nullptr;
   std::vector<std::int16_t> samples_;  // what header_ plays

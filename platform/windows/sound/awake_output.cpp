@@ -1,10 +1,7 @@
 #include "platform/windows/sound/awake_output.h"
 
-#include "platform/windows/api/system_library.h"
-#include "platform/windows/api/windows_api.h"
+#include "platform/windows/api/wave_out_functions.h"
 #include "platform/windows/sound/wave_format.h"
-
-#include <mmsystem.h>
 
 #include <vector>
 
@@ -15,28 +12,6 @@ namespace {
 constexpr base::WaveFormat kFormat{44100, 2, 16};
 constexpr std::size_t kBytes = 44100 * 4;  // a second
 constexpr DWORD kForEver = ~DWORD{0};
-
-struct WaveOutFunctions {
-  HMODULE library = LoadSystemLibrary(L"winmm.dll");
-  decltype(&waveOutOpen) open = Of<decltype(&waveOutOpen)>("waveOutOpen");
-  decltype(&waveOutPrepareHeader) prepare =
-      Of<decltype(&waveOutPrepareHeader)>("waveOutPrepareHeader");
-  decltype(&waveOutUnprepareHeader) unprepare =
-      Of<decltype(&waveOutUnprepareHeader)>("waveOutUnprepareHeader");
-  decltype(&waveOutWrite) write = Of<decltype(&waveOutWrite)>("waveOutWrite");
-  decltype(&waveOutGetPosition) position = Of<decltype(&waveOutGetPosition)>("waveOutGetPosition");
-  decltype(&waveOutReset) reset = Of<decltype(&waveOutReset)>("waveOutReset");
-  decltype(&waveOutClose) close = Of<decltype(&waveOutClose)>("waveOutClose");
-
-  template <typename Function>
-  Function Of(const char* name) const {
-    return FunctionOf<Function>(library, name);
-  }
-  bool complete() const {
-    return open != nullptr && prepare != nullptr && unprepare != nullptr && write != nullptr &&
-           position != nullptr && reset != nullptr && close != nullptr;
-  }
-};
 
 class Silence final : public SilentSound {
  public:
