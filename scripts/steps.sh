@@ -1,34 +1,38 @@
 # The steps of ./test: each has a name, a result and a time; a failure does not stop the others.
 # Sourced from the project's folder after setup.sh.
 
-readonly steps_folder=build/steps # what the steps beside each other print
-readonly side_by_side=2
+readonly aside=build/steps # what the steps beside others print, and their results
 
 step_results=() # a line for each step that has ended
-begun=()        # the names of the steps that were begun and not yet shown
-begun_jobs=()   # their processes, each the leader of its own group
 passed_steps=0
 failed_steps=0
+beside_job= # the process that takes steps beside others, the leader of its own group
+is_beside=  # set in that process
 
-# record NAME EXIT_CODE SECONDS
+exec 3>&1 # where the steps beside others say at once how they ended
+
+# record RESULT: a line that begins with "passed" or "FAILED".
 record() {
-  if (($2 == 0)); then
+  step_results+=("$1")
+  if [[ $1 == passed* ]]; then
     passed_steps=$((passed_steps + 1))
-    step_results+=("passed  $1 ($3 s)")
   else
     failed_steps=$((failed_steps + 1))
-    step_results+=("FAILED  $1 ($3 s)")
+  fi
+  if [[ $is_beside ]]; then
+    printf '%s\n' "$1" >>"$aside/results.txt"
+    printf '\n%s, see %s\n' "$1" "$aside/log.txt" >&3
   fi
 }
 
 # step NAME COMMAND...: runs a step by itself. One that needs an earlier one's result finds it
 # missing and fails, too.
 step() {
-  local name=$1 begin=$SECONDS code=0
+  local name=$1 begin=$SECONDS result=passed
   shift
   heading "$name"
-  "$@" </dev/null || code=$?
-  record "$name" "$code" $((SECONDS - begin))
+  "$@" </dev/null 3>&- || result=FAILED
+  record "$result  $name ($((SECONDS - begin)) s)"
 }
 
 # skip NAME REASON: says aloud what cannot be done here.
@@ -37,51 +41,44 @@ skip() {
   step_results+=("SKIPPED $1: $2")
 }
 
-# begin NAME COMMAND...: starts a step beside another, as soon as there is room for it. What it
-# prints is kept until "finish".
-begin() {
-  local name=$1 log
-  shift
-  while (($(jobs -pr | wc -l) >= side_by_side)); do wait -n || true; done
-  mkdir -p "$steps_folder"
-  log=$steps_folder/${#begun[@]}
+# beside FUNCTION: takes the steps of a function beside those that follow, which go first. What they
+# print is kept until "finish"; how each ended is said at once.
+beside() {
+  rm -rf "$aside"
+  mkdir -p "$aside"
+  touch "$aside/results.txt"
   set -m
-  timed "$log" "$@" </dev/null >"$log.txt" 2>&1 &
+  take_steps "$1" </dev/null >"$aside/log.txt" 2>&1 &
   set +m
-  begun+=("$name")
-  begun_jobs+=("$!")
+  beside_job=$!
 }
 
-# timed LOG COMMAND...: leaves the exit code and the seconds in LOG.result.
-timed() {
-  local log=$1 begin=$SECONDS code=0
-  shift
-  rm -f "$log.result"
-  "$@" || code=$?
-  echo "$code $((SECONDS - begin))" >"$log.result"
+# take_steps FUNCTION
+take_steps() {
+  set +m
+  trap - EXIT
+  renice -n 10 -p "$BASHPID" >/dev/null
+  is_beside=1
+  "$1"
+  touch "$aside/ended"
 }
 
-# Waits for the steps that were begun, and shows them in their order.
+# Waits for the steps beside, and shows what they printed.
 finish() {
-  local index code seconds
-  for index in "${!begun[@]}"; do
-    wait "${begun_jobs[index]}" || true
-    heading "${begun[index]}"
-    cat "$steps_folder/$index.txt"
-    code=1 seconds=0
-    read -r code seconds <"$steps_folder/$index.result" || true
-    record "${begun[index]}" "$code" "$seconds"
-  done
-  begun=()
-  begun_jobs=()
+  local line
+  [[ $beside_job ]] || return 0
+  wait "$beside_job" || true
+  beside_job=
+  cat "$aside/log.txt"
+  while read -r line; do record "$line"; done <"$aside/results.txt"
+  [[ -e $aside/ended ]] || record "FAILED  Further steps: they broke off (0 s)"
 }
 
 # Nothing that was begun outlives the script.
-end_begun() {
-  local job
-  for job in "${begun_jobs[@]}"; do kill -- "-$job" 2>/dev/null || true; done
+end_beside() {
+  if [[ $beside_job ]]; then kill -- "-$beside_job" 2>/dev/null || true; fi
 }
-trap end_begun EXIT
+trap end_beside EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
