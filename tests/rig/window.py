@@ -238,7 +238,9 @@ class User:
 
     def point_at(self, control: Control) -> None:
         x, y = control.place.middle
-        self.xdotool("mousemove", "--sync", str(x), str(y))
+        # For a pointer that stands there already, xdotool waits 15 s in vain.
+        if not self.xdotool("getmouselocation").startswith(f"x:{x} y:{y} "):
+            self.xdotool("mousemove", "--sync", str(x), str(y))
 
     def click(self, window: Window, kind: str, text: str) -> float:
         """Clicks a control with the mouse; returns the moment before the click."""
