@@ -57,7 +57,7 @@ beside() {
 take_steps() {
   set +m
   trap - EXIT
-  renice -n 10 -p "$BASHPID" >/dev/null
+  renice -n $(($(nice) + 10)) -p "$BASHPID" >/dev/null
   is_beside=1
   "$1"
   touch "$aside/ended"

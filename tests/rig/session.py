@@ -52,6 +52,11 @@ def allowed(prefix: list[str]) -> list[str]:
     return prefix if tried.returncode == 0 else []
 
 
+def undisturbed() -> bool:
+    """Whether what runs here can go before all other work of this machine, and waits for no disk."""
+    return bool(allowed(AHEAD)) and memory_has_room()
+
+
 class Session:
     def __init__(self) -> None:
         self.at_end = ExitStack()
