@@ -53,7 +53,7 @@ def allowed(prefix: list[str]) -> list[str]:
 
 
 def undisturbed() -> bool:
-    """Whether what runs here can go before all other work of this machine, and waits for no disk."""
+    """Whether what runs here can go before all other work, and waits for no disk."""
     return bool(allowed(AHEAD)) and memory_has_room()
 
 
