@@ -55,8 +55,6 @@ beside() {
 
 # take_steps FUNCTION
 take_steps() {
-  set +m
-  trap - EXIT
   renice -n $(($(nice) + 10)) -p "$BASHPID" >/dev/null
   is_beside=1
   "$1"
@@ -71,7 +69,7 @@ finish() {
   beside_job=
   cat "$aside/log.txt"
   while read -r line; do record "$line"; done <"$aside/results.txt"
-  [[ -e $aside/ended ]] || record "FAILED  Further steps: they broke off (0 s)"
+  [[ -e $aside/ended ]] || record "FAILED  The steps beside others broke off (0 s)"
 }
 
 # Nothing that was begun outlives the script.
