@@ -42,8 +42,8 @@ def start_sound_card(session: Session) -> subprocess.Popen:
     script.write_text(SOUND_CARD.format(
         socket=socket, rate=RATE, card_map=f"channel_map={CHANNELS}",
         out_map=f"channel_map={STEREO} master_channel_map={STEREO}"))
-    # Ahead of everything as it is, it would be ended after 200 ms without a pause. And memory that a
-    # program shares with it and leaves behind, being killed while it plays, can end it, too.
+    # Ahead of everything as it is, it would be ended after 200 ms without a pause. And memory that
+    # a program shares with it and leaves behind, being killed while it plays, can end it, too.
     settings = session.folder / "daemon.conf"
     settings.write_text("rlimit-rttime = -1\nenable-shm = no\n")
     with open(server_log(session), "ab") as log:
