@@ -2,19 +2,20 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "base/errors.h"
 
 namespace program_files {
 
 std::optional<std::string> LineReader::Next() {
-  std::string line;
+  std::optional<std::string> line(std::in_place);
   const bool there = ReadLine([&](std::string_view piece) {
     if (piece.size() > bytes_left_) throw base::RuntimeError(base::ErrorCode::kOutOfMemory);
     bytes_left_ -= piece.size();
-    line += piece;
+    *line += piece;
   });
-  if (!there) return std::nullopt;
+  if (!there) line.reset();
   return line;
 }
 

@@ -101,17 +101,12 @@ void ProgramChecks::CheckEntryLines() {
   ++state_.entry_index;
 }
 
-std::string ProgramChecks::WithoutMarker(std::int16_t position, char marker) const {
-  return base::RemoveAll(std::as_const(state_.lines)[position], marker);
-}
-
 std::string ProgramChecks::Clean(std::string_view markers) {
-  if (Line().find_first_of(markers) == std::string::npos) return Line();
-  std::string line = Line();
-  for (const char marker : markers) {
-    state_.lines[state_.position] = WithoutMarker(state_.position, marker);
+  std::string before = Line();
+  if (before.find_first_of(markers) != std::string::npos) {
+    std::erase_if(state_.lines[state_.position], [&](char c) { return IsOneOf(markers, c); });
   }
-  return line;
+  return before;
 }
 
 void ProgramChecks::ExpectText(std::string_view text, std::string_view markers, Expected expected) {

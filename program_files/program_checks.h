@@ -87,7 +87,6 @@ class ProgramChecks {
   void CheckVisibility();
   void CheckEntryLines();
 
-  std::string WithoutMarker(std::int16_t position, char marker) const;
   // Takes the markers out of the line and returns it as it stood.
   std::string Clean(std::string_view markers);
   void ExpectText(std::string_view text, std::string_view markers, Expected expected);

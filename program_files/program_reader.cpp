@@ -37,7 +37,7 @@ FirstPass::Step FirstPass::ReadLine() {
   return line ? TakeLine(*std::move(line)) : Step{Progress::kDone, {}};
 }
 
-FirstPass::Step FirstPass::TakeLine(std::string line) {
+FirstPass::Step FirstPass::TakeLine(std::string&& line) {
   // The table is full.
   if (lines_read_ == kLastIndex) return {Progress::kGivenUp, {}};
   ++lines_read_;
@@ -45,7 +45,7 @@ FirstPass::Step FirstPass::TakeLine(std::string line) {
   if (lines_read_ > kMostLines) {
     step.findings.push_back(TooMuch(lines_read_, Expected::kFewerLines, line));
   }
-  lines_[lines_read_] = decode_(std::move(line));
+  lines_[lines_read_] = decode_ ? decode_(std::move(line)) : std::move(line);
   return step;
 }
 
@@ -56,7 +56,7 @@ std::int32_t SecondPass(base::ByteSource& file) {
 ReadProgram ReadToneProgram(base::ByteSource& bytes) {
   ReadProgram result;
   ParseState state;
-  FirstPass first(bytes, state.lines, [](std::string line) { return line; });
+  FirstPass first(bytes, state.lines);
   auto progress = FirstPass::Progress::kGoesOn;
   while (progress == FirstPass::Progress::kGoesOn) {
     FirstPass::Step step = first.ReadLine();

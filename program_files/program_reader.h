@@ -34,8 +34,9 @@ class FirstPass {
   };
   using Decode = std::function<std::string(std::string)>;
 
-  // Fills `lines` from index 1 on with what `decode` makes of the lines.
-  FirstPass(base::ByteSource& file, Table<std::string>& lines, Decode decode)
+  // Fills `lines` from index 1 on with what `decode` makes of the lines, or with the lines as they
+  // stand where there is none.
+  FirstPass(base::ByteSource& file, Table<std::string>& lines, Decode decode = nullptr)
       : reader_(file, kMostText), lines_(lines), decode_(std::move(decode)) {}
 
   // Reads the next line. Line 2000 is a finding, and so is too much text.
@@ -44,7 +45,7 @@ class FirstPass {
   std::int16_t LinesRead() const { return lines_read_; }
 
  private:
-  Step TakeLine(std::string line);
+  Step TakeLine(std::string&& line);
 
   LineReader reader_;
   Table<std::string>& lines_;

@@ -22,7 +22,7 @@ import mutations
 import runner
 
 ROOT = Path(__file__).resolve().parents[2]
-ROOMS = ("base ui platform tone settings lang morse program_files display online about app "
+ROOMS = ("base ui platform tone settings lang morse program_files display online about app hearing "
          "helpers tools").split()
 
 
