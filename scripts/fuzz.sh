@@ -11,8 +11,8 @@ readonly findings=out/fuzz
 
 # The longest input worth making: a link of 1,500 characters, a hand-over file one byte too long.
 declare -rA longest=(
-  [check]=512 [field_reader]=512 [hand_over]=1100 [language_file]=2048 [rtttl]=512 [settings]=1024
-  [tone_program]=512 [update_file]=2048 [wave_file]=512)
+  [check]=512 [field_reader]=512 [hand_over]=1100 [hearing]=64 [language_file]=2048 [rtttl]=512
+  [settings]=1024 [tone_program]=512 [update_file]=2048 [wave_file]=512)
 
 # Most faults are found with small tone programs, many times as quickly; one of 2,001 lines is this
 # long and gets a run of its own.

@@ -60,8 +60,8 @@ ALLOWED = {
     **{room: {"tools"} for room in COMPANION},
     **{f"tests/{room}": {room} | below | {f"tests/{other}" for other in below} | SIMULATION
        for room, below in TESTED.items()},
-    "tests/fuzz": {"base", "helpers", "lang", "online", "program_files", "settings", "tone",
-                   "tools", "tests/program_files"},
+    "tests/fuzz": {"base", "hearing", "helpers", "lang", "online", "program_files", "settings",
+                   "tone", "tools", "tests/program_files"},
     "tests/rig": set(),
     # They may stand in for the system around a part of the program.
     "tests/rig/bare": {"platform/windows/api", "platform/windows/web"},
