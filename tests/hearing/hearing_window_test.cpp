@@ -134,6 +134,31 @@ TEST_F(HearingWindowTest, ThreeTimesNoTo1000HzEndsItWithTheReason) {
   EXPECT_EQ(output.played.size(), 3U);
 }
 
+TEST_F(HearingWindowTest, ThereAreTwoAndAHalfSecondsToTurnTheVolumeUp) {
+  Open();
+  window().cmdStart.Click();
+  ASSERT_TRUE(WaitForQuestion());
+  window().cmdNo.Click();
+  Wait(2475ms);
+  EXPECT_EQ(output.played.size(), 1U);
+  Wait(50ms);
+  EXPECT_EQ(output.played.size(), 2U);
+}
+
+TEST_F(HearingWindowTest, TheSilentTrialsStandElsewhereInEachTest) {
+  Open();
+  std::set<std::string> courses;
+  for (const double number : {0.1, 0.4, 0.7}) {
+    sim.random.next = number;
+    output.played.clear();
+    RunUpTo(13400);
+    std::string course;
+    for (const auto& samples : output.played) course += PitchOf(samples) == 0 ? '-' : '+';
+    courses.insert(course);
+  }
+  EXPECT_EQ(courses.size(), 3U);
+}
+
 TEST_F(HearingWindowTest, YesToSilenceIsNotReliable) {
   Open();
   Run([](int) { return true; });
