@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/program_files/tone_files.h"
 #include "tests/tools/fake_surroundings.h"
@@ -54,6 +56,41 @@ TEST_F(TnfTest, HelpAndVersionAreAskedFor) {
     EXPECT_EQ(Run(arguments), 0);
     EXPECT_NE(around.output.find("Usage: tnf"), std::string::npos);
     EXPECT_EQ(around.errors, "");
+  }
+}
+
+TEST_F(TnfTest, EveryCommandsHelpNamesItsArguments) {
+  const std::string program =
+      "  FILE                        The tone program; - is standard input\n";
+  const std::string output = "         The file to write; - is standard output\n";
+  const std::string octave =
+      "  --a440 OCTAVE               The octave whose A is 440 Hz: 4, or 5 as in older tables\n";
+  const std::vector<std::pair<Lines, Lines>> wanted{
+      {{"check"}, {"  FILE ...                    Tone programs; - is standard input\n"}},
+      {{"info"}, {program}},
+      {{"render"},
+       {program, "  -o,--output OUT.wav" + output,
+        "  --smooth                    Fade the edges of each tone, so that none clicks\n"}},
+      {{"import", "rtttl"},
+       {"  FILE                        The text; standard input if none is named\n", octave,
+        "  -o,--output OUT.tnf" + output}},
+      {{"import", "morse"},
+       {"  TEXT                        The text to send\n",
+        "  --speed MS                  ms added to every symbol, 0 to 500\n",
+        "  --pitch HZ                  Pitch in Hz, 50 to 32000; 700 if not said\n",
+        "  --textbook                  The standard's own code and timing\n",
+        "  -o,--output OUT.tnf" + output}},
+      {{"export", "rtttl"},
+       {program,
+        "  -o,--output OUT             The file to write; standard output if none is named\n",
+        octave}}};
+  for (const auto& [command, lines] : wanted) {
+    Lines arguments = command;
+    arguments.emplace_back("--help");
+    Run(arguments);
+    for (const std::string& line : lines) {
+      EXPECT_NE(around.output.find("\n" + line), std::string::npos) << line << around.output;
+    }
   }
 }
 
