@@ -56,6 +56,11 @@ TEST(Waveform, TheFirstChannelIsDrawnAboveAndTheSecondBelow) {
   ASSERT_EQ(drawing.lines.size(), 6u);
   EXPECT_EQ(TraceOf(drawing, 0), (Heights{{0, -0.7}, {2, -0.5}, {4, 0.5}}));
   EXPECT_EQ(TraceOf(drawing, 1), (Heights{{0, 0.6}, {2, 1.5}, {4, -0.5}}));
+  // Both begin at the left edge, in the middle of their half.
+  EXPECT_EQ(drawing.lines[0].from.x, 0);
+  EXPECT_EQ(drawing.lines[0].from.y, -0.5);
+  EXPECT_EQ(drawing.lines[1].from.x, 0);
+  EXPECT_EQ(drawing.lines[1].from.y, 0.5);
 }
 
 TEST(Waveform, EachLineBeginsWhereTheOneBeforeOfItsTraceEnded) {

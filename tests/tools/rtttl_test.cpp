@@ -163,5 +163,9 @@ TEST(RingToneTest, ATextThatIsMuchTooLongIsNotRead) {
             (Texts{":1:1: error: more than 1 MiB is no ring tone text\n"}));
 }
 
+TEST(RingToneTest, TheRestOfAWrongSettingAmongTheNotesIsPassedOver) {
+  EXPECT_EQ(MistakesIn("x::a,o=9x9,b"), (Texts{":1:6: error: o= is 4 to 8\n"}));
+}
+
 }  // namespace
 }  // namespace tools
