@@ -89,16 +89,19 @@ def first_tones(rig: Rig, driver: Driver, recorder: Recorder) -> Row:
 
 
 def morse_errors(tones: morse.Tones, nominal: list[int], dash_ms: int) -> str:
-    """Medians of measured minus nominal: dots, dashes, pauses."""
+    """Medians of measured minus nominal: dots, dashes, pauses within and between characters."""
     pairs = morse.measured_with_nominal(tones, nominal)
+    pauses = pairs[1::2]
+    within_ms = min(n for _, n in pauses)
 
     def median(chosen: list[tuple[float, int]]) -> str:
         return f"{statistics.median(m - n for m, n in chosen):+.1f}"
 
-    tones_of = {length: [(m, n) for m, n in pairs[::2] if n == length]
-                for length in (100, dash_ms)}
-    return (f"dot {median(tones_of[100])}, dash {median(tones_of[dash_ms])}, "
-            f"pause {median(pairs[1::2])} ms")
+    dots, dashes = ([(m, n) for m, n in pairs[::2] if n == length] for length in (100, dash_ms))
+    within, between = ([pause for pause in pauses if (pause[1] == within_ms) == inside]
+                       for inside in (True, False))
+    return (f"dot {median(dots)}, dash {median(dashes)}, pause within a character "
+            f"{median(within)} (nominal {within_ms}), between {median(between)} ms")
 
 
 def message(rig: Rig, driver: Driver, recorder: Recorder) -> Iterator[Row]:

@@ -98,13 +98,13 @@ def processor_time(rig: Rig, driver: Driver, folders: Folders) -> None:
         recorder.stop()
 
 
-def steps_ms(recorder: Recorder, seconds: float, chunk: int = CHUNK) -> list[float]:
+def steps_ms(recorder: Recorder, seconds: float) -> list[float]:
     """From the beginning of one tone to that of the next, over so long from now, sorted. The pause
-    between two is longer than `chunk` samples."""
+    between two may be as short as 2 ms."""
     first = recorder.frames()
     recorder.wait_for_tone()
     recorder.record(seconds)
-    begins = [begin / RATE for begin, _ in loud_stretches(recorder.samples(first), chunk)]
+    begins = [begin / RATE for begin, _ in loud_stretches(recorder.samples(first), CHUNK // 5)]
     return sorted(1000 * (b - a) for a, b in zip(begins, begins[1:]))
 
 
@@ -126,7 +126,7 @@ def steps_of_the_bare_sweep(rig: Rig, driver: Driver, recorder: Recorder,
                             seconds: float = 8) -> list[float]:
     program = Tonmira(rig, driver, Folders(rig), exe=BARE_SWEEP)
     try:
-        return steps_ms(recorder, seconds, CHUNK // 5)
+        return steps_ms(recorder, seconds)
     finally:
         program.finish()
         recorder.wait_for_silence()
