@@ -139,7 +139,7 @@ void Form4::PlayLoop() {
     const std::string character = CharacterAt(position_);
     if (character == " ") pause.Wait(WordPause(speed_));
     if (position_ == kLastPosition) break;
-    if (SoundCharacter(character)) pause.Begin();
+    if (const auto ended = SoundCharacter(character)) pause.BeginAt(*ended);
     pause.Wait(CharacterPause(speed_));
     ++position_;
     UnloadIfHidden();
@@ -154,13 +154,13 @@ void Form4::PlayLoop() {
 }
 
 // A character without a code is passed over in silence and without a message.
-bool Form4::SoundCharacter(const std::string& character) {
-  if (character.size() != 1) return false;
-  const auto symbols = SymbolsOf(character[0]);
-  for (const char symbol : symbols) {
-    tones_.sound(pitch_, symbol == '.' ? DotLength(speed_) : DashLength(speed_));
+std::optional<platform::Moment> Form4::SoundCharacter(const std::string& character) {
+  std::optional<platform::Moment> ended;
+  if (character.size() != 1) return ended;
+  for (const char symbol : SymbolsOf(character[0])) {
+    ended = tones_.sound(pitch_, symbol == '.' ? DotLength(speed_) : DashLength(speed_));
   }
-  return !symbols.empty();
+  return ended;
 }
 
 void Form4::UnloadIfHidden() {

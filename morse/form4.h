@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -62,8 +63,8 @@ class Form4 : public ui::Window {
                const std::string& text, ui::TextBox& field);
   void TakeMessage();
   void PlayLoop();
-  // Whether there was anything to sound.
-  bool SoundCharacter(const std::string& character);
+  // Returns when its last tone was over, or nothing where it has no tones.
+  std::optional<platform::Moment> SoundCharacter(const std::string& character);
   void UnloadIfHidden();
   const std::string& CharacterAt(std::int16_t position) const;
 

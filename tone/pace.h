@@ -16,8 +16,8 @@ class Pace {
  public:
   explicit Pace(platform::Platform& platform) : pump_(platform.pump), waves_(platform) {}
 
-  // The tone or pause begins now; at first, where this was made.
-  void Begin() { due_ = pump_.Now(); }
+  // When the tone or pause began; at first, where this was made.
+  void BeginAt(platform::Moment begin) { due_ = begin; }
 
   void Wait(std::int32_t time_ms);
 

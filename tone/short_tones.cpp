@@ -1,5 +1,7 @@
 #include "tone/short_tones.h"
 
+#include <optional>
+
 #include "base/error_trap.h"
 #include "tone/winmm_routes.h"
 
@@ -10,7 +12,8 @@ bool ShortTones::Audible() const {
   return output != base::Output::kDirectSound && output != base::Output::kNone;
 }
 
-void ShortTones::sound(std::int16_t pitch, std::int16_t Duration) {
+platform::Moment ShortTones::sound(std::int16_t pitch, std::int16_t Duration) {
+  std::optional<platform::Moment> ended;
   base::Quietly([&] {
     switch (base::OutputOf(state_.SoundBit)) {
       case base::Output::kHelper16:
@@ -19,7 +22,9 @@ void ShortTones::sound(std::int16_t pitch, std::int16_t Duration) {
         break;
       case base::Output::kPlayer: {
         RouteSupport support(platform_, state_, scene_);
-        WinmmRoutes(support).SoundWinmmRNDTMP(pitch, Duration);
+        WinmmRoutes routes(support);
+        routes.SoundWinmmRNDTMP(pitch, Duration);
+        ended = routes.ToneEnded();
         break;
       }
       case base::Output::kDirectSound:
@@ -27,6 +32,7 @@ void ShortTones::sound(std::int16_t pitch, std::int16_t Duration) {
         break;
     }
   });
+  return ended.value_or(platform_.pump.Now());
 }
 
 }  // namespace tone

@@ -14,8 +14,8 @@ class ShortTones {
 
   // Sounds `pitch` Hz for `Duration` ms and returns when it is over: the system's own beep in the
   // sound modes with a helper program, the multimedia player in its own. In DirectSound it returns
-  // at once, in silence.
-  void sound(std::int16_t pitch, std::int16_t Duration);
+  // at once, in silence. Returns when the tone was over (see WinmmRoutes::ToneEnded).
+  platform::Moment sound(std::int16_t pitch, std::int16_t Duration);
 
   // Whether tones are heard in the current sound mode.
   bool Audible() const;

@@ -24,10 +24,12 @@ void WinmmRoutes::SoundWinmmRND(std::int16_t pitch) {
 
 std::optional<base::RuntimeError> WinmmRoutes::SoundWinmmRNDTMP(std::int16_t pitch,
                                                                 std::int32_t Duration) {
+  tone_ended_ = support_.Now();
   return base::Caught([&] {
     support_.ReadTempFolder();
     StartTone(pitch);
     support_.Wait(Duration);
+    tone_ended_ = support_.Now();
     support_.Silence();
     support_.DeleteIfThere(support_.WavePath());
   });

@@ -20,6 +20,10 @@ class WinmmRoutes {
   // it from being played, if anything.
   std::optional<base::RuntimeError> SoundWinmmRNDTMP(std::int16_t pitch, std::int32_t Duration);
 
+  // When the time of the last SoundWinmmRNDTMP was over. It returns some milliseconds later: so
+  // long the system takes to end a sound, most of them in silence.
+  platform::Moment ToneEnded() const { return tone_ended_; }
+
   // The prepared file "tonedx" + modeval + ".dll" (a WAV file) of the current folder.
   void SoundWinmm(std::int16_t pitch, const std::string& modeval);
 
@@ -31,6 +35,7 @@ class WinmmRoutes {
   void StartOrStaySilent(std::int32_t pitch);
 
   RouteSupport& support_;
+  platform::Moment tone_ended_{};
 };
 
 }  // namespace tone

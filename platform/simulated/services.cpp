@@ -102,6 +102,7 @@ void FakeWavePlayer::Play(const std::string& path, std::uint32_t flags) {
 void FakeWavePlayer::Stop(std::uint32_t flags) {
   playing.clear();
   journal_.Add(Kind::kSound, "stop " + Hexadecimal(flags));
+  if (while_stopping) while_stopping();
 }
 
 void FakeBeeper::Beep(int pitch_hz, int duration_ms) {

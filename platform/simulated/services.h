@@ -93,7 +93,8 @@ class FakeWavePlayer : public WavePlayer {
  public:
   FakeWavePlayer(Journal& journal, FileSystem& files) : journal_(journal), files_(files) {}
 
-  std::string playing;  // path of the sound that sounds now, empty in silence
+  std::string playing;                   // path of the sound that sounds now, empty in silence
+  std::function<void()> while_stopping;  // what happens before Stop returns
 
   void Play(const std::string& path, std::uint32_t flags) override;
   void Stop(std::uint32_t flags) override;

@@ -64,6 +64,20 @@ TEST_F(MorsePaceTest, AToneIsLateOnceAndNeverShort) {
   EXPECT_EQ(ends[1] - begins[1], 203);
 }
 
+TEST_F(MorsePaceTest, WhatTheSystemTakesToEndASoundIsPartOfThePause) {
+  state.SoundBit = base::SoundMode::kAutomatic;
+  sim.waves.while_stopping = [this] { sim.pump.Sleep(6); };
+  Play("eie");
+  StopAt(2000ms);
+  Run();
+  const Moments begins = MomentsOf("play");
+  const Moments ends = MomentsOf("stop");
+  ASSERT_EQ(begins.size(), 4u);
+  EXPECT_EQ(begins[1] - ends[0], 75 + 20);
+  EXPECT_EQ(begins[2] - ends[1], 6);  // within a character there is no pause
+  EXPECT_EQ(begins[3] - ends[2], 75 + 20);
+}
+
 class MorseAwakeTest : public MorsePaceTest {
  protected:
   MorseAwakeTest() { sim.awake_output.wakes_after_ms = 250; }

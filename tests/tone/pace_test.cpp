@@ -41,7 +41,7 @@ TEST_F(PaceTest, ABeginningForgetsWhatWasOversleptBefore) {
   sim.pump.oversleep_ms = 30;
   Pace pace(sim.services);
   pace.Wait(75);
-  pace.Begin();
+  pace.BeginAt(sim.pump.Now());
   sim.pump.oversleep_ms = 0;
   pace.Wait(20);
   EXPECT_EQ(now_ms(), 75 + 30 + 20);
