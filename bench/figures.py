@@ -28,7 +28,7 @@ from rig.window import Driver
 Row = tuple[str, str, str]  # what it is, the figure, its anchor
 
 STARTS = 8
-ROUNDS = 4
+ROUNDS = 9
 WATCHED_S = 5
 PITCHES = [440, 880, 660, 1320, 550]
 PORTABLE = PROJECT / "build" / "bench" / "bench" / "portable_bench"
