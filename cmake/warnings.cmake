@@ -45,5 +45,7 @@ if(TONMIRA_SANITIZE)
   target_compile_options(build_settings INTERFACE
     $<IF:$<BOOL:$<TARGET_PROPERTY:TONMIRA_UNOPTIMISED>>,-O0,-O1> -g1
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # An index behind an array may be optimised away before a sanitizer sees it.
+  target_compile_definitions(build_settings INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(build_settings INTERFACE -fsanitize=address,undefined)
 endif()

@@ -89,6 +89,19 @@ TEST(WaveStreamTest, EveryToneBeginsAnew) {
   EXPECT_EQ(samples.substr(0, 441 * 4), samples.substr(441 * 4));
 }
 
+TEST(WaveStreamTest, ATerminalGetsNoSamplesButAHint) {
+  ToneRenderer renderer(ProgramOf(1, {{440, 9}}));
+  Collected terminal(Destination::Kind::kTerminal);
+  std::string message;
+  try {
+    WriteWave(renderer, terminal);
+  } catch (const Failure& failure) {
+    message = failure.what();
+  }
+  EXPECT_EQ(message, "a terminal cannot show samples; name a file with -o, or send them on");
+  EXPECT_EQ(terminal.size, 0u);
+}
+
 TEST(WaveStreamTest, ItIsWrittenInPieces) {
   const Collected minute = Written(ProgramOf(1, {{440, 29999}}), Destination::Kind::kFile);
   EXPECT_EQ(minute.size, 44u + 30 * 176400);
